@@ -1,0 +1,176 @@
+/// @file
+/// The public face of iosphoto: reads the photo library of an iOS device from its photo database
+/// and returns the catalogue of albums with the metadata of their photos.
+///
+/// The database is only read. Neither it nor the write-ahead log (`-wal`) beside it is changed; see
+/// ios_photo_get_list() for the files that SQLite may leave next to them.
+///
+/// No application object (`QCoreApplication` or one derived from it) is needed. Album names are
+/// Chinese texts that go through `QObject::tr` in the context `QDevPhotoDbMgr`, so a host that
+/// installs a `QTranslator` shows them in its own language.
+#ifndef IOSPHOTO_IOS_PHOTO_H
+#define IOSPHOTO_IOS_PHOTO_H
+
+#include <QPixmap>
+#include <QString>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#if defined(__GNUC__)
+#define IOSPHOTO_EXPORT __attribute__((visibility("default")))
+#else
+#define IOSPHOTO_EXPORT
+#endif
+
+namespace iosphoto {
+
+/// What an album is: the values of CAlbumGroup::albumKind.
+struct AlbumKind
+{
+    enum Code : std::int32_t {
+        CameraRoll = 1,
+        PhotoStream = 2,       ///< My Photo Stream
+        PhotoLibrary = 3,      ///< synced from a computer; also an untitled album of the table
+        Videos = 4,            ///< includes time-lapses, slow motion and screen recordings
+        TimeLapse = 5,         ///< iOS 8 and later
+        SloMo = 6,             ///< iOS 8 and later
+        Panoramas = 7,         ///< iOS 6 and later, from iPhone3,1 on and on every iPad
+        Bursts = 8,            ///< iOS 8 and later; holds every frame of every burst
+        RecentlyDeleted = 9,   ///< iOS 8 and later; 30 days back
+        Screenshots = 10,      ///< filled on iOS 8 and later
+        Favorites = 11,        ///< iOS 8 and later
+        Selfies = 12,          ///< iOS 9 and later
+        LivePhotos = 13,       ///< iOS 9 and later, by model
+        Portrait = 14,         ///< iOS 11 and later
+        Animated = 15,         ///< iOS 11 and later
+        User = 16,             ///< titled by the user, or imported from a computer
+        ScreenRecordings = 17, ///< iOS 11 and later
+        Raw = 18,              ///< models that take ProRAW
+        ProRes = 19,           ///< models that take ProRes
+        Hidden = 20,           ///< iOS 9 and later
+        AllDeleted = 21        ///< companion of Recently Deleted; no pass fills it
+    };
+};
+
+} // namespace iosphoto
+
+/// One photo or video as one album shows it.
+///
+/// An asset that several albums show has a record of its own in each; the copies differ where an
+/// album was filled before a later flag of the asset was known. Times are seconds since
+/// 2001-01-01 00:00:00 UTC. "iOS n+" below means that the field is filled from that version on.
+///
+/// Records can be made, copied and destroyed in a process without an application object.
+class IOSPHOTO_EXPORT CPhotoData
+{
+public:
+    CPhotoData();
+    CPhotoData(const CPhotoData &other);
+    CPhotoData &operator=(const CPhotoData &other);
+    ~CPhotoData();
+
+    /// Returns a deep copy of `source` on the heap, owned by the caller; a null pointer for a null
+    /// pointer. Throws std::bad_alloc when memory runs out.
+    static CPhotoData *GetPhotoDataClone(const CPhotoData *source);
+
+    QPixmap thumbnail;               ///< slot for the host's use; always null here
+    std::int32_t thumbnailIndex = 0; ///< index of the picture in the thumbnail cache file
+    std::int32_t assetId = -1;       ///< key of the asset's row; -1 where the album has none
+    std::int32_t width = 0;          ///< pixels
+    std::int32_t height = 0;         ///< pixels
+    std::int64_t extraValue = 0;     ///< for the host's use
+    float duration = 0;              ///< seconds; 0 for stills and in Photo Library
+    std::int64_t fileSize = 0;       ///< bytes of the original file
+    double createdTime = 0;          ///< whole seconds, in Photo Library with fractions
+    double modifiedTime = 0;         ///< as createdTime
+    double addedTime = 0;            ///< as createdTime; below iOS 8 a copy of it
+    QString albumName;               ///< name of the album that holds the record
+    QString fileName;                ///< such as "IMG_0001.HEIC"
+    QString directory;               ///< such as "DCIM/100APPLE", relative to the media folder
+    QString sourceFileName;          ///< name before the import or edit
+    QString extraText1;              ///< for the host's use
+    QString dateText;                ///< local day of creation, "yyyy-MM-dd", or "未知" (unknown)
+    std::string uuid;                ///< with dashes; below iOS 8 as 32 hexadecimal digits
+    std::string albumUuid;           ///< of the album that holds the record; empty if built in
+    std::int32_t isBurstPick = 0;    ///< 1: this frame stands for its burst
+    std::int32_t burstCount = 0;     ///< of a pick: frames of its burst in the Bursts album
+    bool isVideo = false;            ///< none of the three special kinds below
+    bool isTimelapse = false;        ///< iOS 8+
+    bool isSlomo = false;            ///< iOS 8+
+    bool isScreenRecording = false;  ///< iOS 11+
+    bool isPanorama = false;         ///< iOS 6+, by model
+    bool isBurst = false;            ///< a frame of a burst; iOS 8+
+    bool isDeleted = false;          ///< in the trash, for less than 30 days; iOS 8+
+    bool isScreenshot = false;       ///< iOS 8+
+    bool isLivePhoto = false;        ///< iOS 9+
+    bool isSelfie = false;           ///< taken with the front camera; iOS 9+
+    bool isFavorite = false;         ///< iOS 8+
+    bool isPortrait = false;         ///< has depth; iOS 11+
+    bool isAnimated = false;         ///< iOS 11+
+    bool inUserAlbum = false;        ///< read through My Photo Stream
+    bool isValid = true;             ///< for the host's use
+    bool isEdited = false;           ///< iOS 7+
+    QString burstUuid;               ///< shared by the frames of a burst; iOS 8+
+    QString extraText2;              ///< for the host's use
+    bool isRaw = false;              ///< ProRAW still; iOS 15+, models that take it
+    bool isProRes = false;           ///< ProRes video; iOS 15+, models that take it
+    bool isHidden = false;           ///< iOS 9+
+};
+
+/// One album and the records it shows, newest first.
+///
+/// Copying an album copies the pointers, not the records: nobody but the receiver of a finished
+/// catalogue deletes them.
+class IOSPHOTO_EXPORT CAlbumGroup
+{
+public:
+    CAlbumGroup();
+    CAlbumGroup(const CAlbumGroup &other);
+    CAlbumGroup(CAlbumGroup &&other) noexcept;
+    CAlbumGroup &operator=(const CAlbumGroup &other);
+    CAlbumGroup &operator=(CAlbumGroup &&other) noexcept;
+    ~CAlbumGroup();
+
+    std::int32_t albumIndex = -1; ///< place in the list when last numbered
+    std::int32_t albumCount = 0;  ///< number of photos; in Bursts the number of bursts
+    std::int32_t albumKind = iosphoto::AlbumKind::CameraRoll; ///< an iosphoto::AlbumKind::Code
+    QString albumName;                ///< translated name, or the title the user gave
+    std::string albumUuid;            ///< empty for built-in albums
+    std::vector<CPhotoData *> photos; ///< owned by whoever received the catalogue
+    std::int32_t albumId = 0;         ///< for the host's use
+    /// Smart albums, and albums of the table that the user made on the device. The second Selfies,
+    /// Portrait, Panoramas and Screenshots albums, which collect from albums of other kinds, are
+    /// told from the smart ones by this.
+    bool isSmartAlbum = false;
+};
+
+/// Reads a device's photo database and returns its catalogue of albums.
+///
+/// Thread-safe: calls from several threads take turns at the database. No state survives a call.
+/// Nothing is thrown.
+///
+/// The database and its `-wal` keep every byte. Where a `-wal` lies beside the database SQLite may
+/// leave a `-shm` there; where none does nothing is left, except for a database in write-ahead-log
+/// mode that this user may not write (an empty `-wal` and a `-shm`). Where reading alone would
+/// change a file, nothing is read and the catalogue is empty: a database of 0 bytes with a log or
+/// journal beside it, and one whose `-journal` holds an unfinished change that SQLite would roll
+/// back (read a copy of both files instead).
+///
+/// @param databasePath  UTF-8 path of the database file, such as ".../PhotoData/Photos.sqlite".
+/// @param iosVersion    dotted decimal, such as "15.7"; it chooses the statements. Everything below
+///                      "7" is read as iOS 6, everything above "18.0" as iOS 18.
+/// @param productType   such as "iPhone14,2"; with the version it decides which albums exist.
+/// @param albums        [out] replaced on success and left alone otherwise. Each record in it is in
+///                      exactly one album and belongs to the caller, who deletes it. With a null
+///                      pointer the catalogue is built and thrown away.
+/// @return 0, or a negated SQLite result code: -14 (SQLITE_CANTOPEN) when the file cannot be
+///         opened, -7 (SQLITE_NOMEM) when memory runs out. 0 does not promise that anything could
+///         be read: a file that is no photo database, one whose schema does not fit the version,
+///         and a path without a file (SQLite may create an empty one there) all give the built-in
+///         albums that are never dropped, empty.
+IOSPHOTO_EXPORT int ios_photo_get_list(std::string databasePath, std::string iosVersion,
+                                       std::string productType, std::vector<CAlbumGroup> *albums);
+
+#endif // IOSPHOTO_IOS_PHOTO_H

@@ -1,0 +1,22 @@
+#include "ios_photo.h"
+
+#include "model/model_devicephoto_dbmgr.h"
+#include "no_throw.h"
+#include "records/record_ownership.h"
+
+#include <utility>
+
+int ios_photo_get_list(std::string databasePath, std::string iosVersion, std::string productType,
+                       std::vector<CAlbumGroup> *albums)
+{
+    return iosphoto::withoutThrowing([&] {
+        QDevPhotoDbMgr manager(std::move(iosVersion), std::move(productType));
+        manager.SetDataPath(QString::fromStdString(databasePath));
+        const int result = manager.GetPhotoAlbumDatas();
+        if (result == 0 && albums != nullptr)
+            *albums = std::move(manager.albums);
+        else
+            iosphoto::destroyRecords(manager.albums);
+        return result;
+    });
+}

@@ -1,0 +1,185 @@
+#include "model/catalogue_finish.h"
+
+#include "model/album_names.h"
+#include "model/model_devicephoto_dbmgr.h"
+#include "records/record_ownership.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <numeric>
+
+namespace iosphoto {
+
+namespace {
+
+using Kind = AlbumKind;
+using Albums = std::vector<CAlbumGroup>;
+
+bool isSpecialVideoKind(std::int32_t kind)
+{
+    return kind == Kind::TimeLapse || kind == Kind::SloMo || kind == Kind::ScreenRecordings;
+}
+
+/// Videos shows the special kinds of video too, though their records do not call them videos.
+void gatherVideos(Albums &albums)
+{
+    for (CAlbumGroup &videos : albums) {
+        if (videos.albumKind != Kind::Videos)
+            continue;
+        for (const CAlbumGroup &album : albums) {
+            if (!isSpecialVideoKind(album.albumKind))
+                continue;
+            for (const CPhotoData *photo : album.photos)
+                append(videos, std::unique_ptr<CPhotoData>(CPhotoData::GetPhotoDataClone(photo)));
+        }
+    }
+}
+
+/// Moves an album before the one at `target`, without a moment in which two albums or none hold its
+/// records.
+void moveBefore(Albums &albums, Albums::iterator album, std::ptrdiff_t target)
+{
+    const auto position = albums.begin() + target;
+    if (album > position)
+        std::rotate(position, album, album + 1);
+    else
+        std::rotate(album, album + 1, position);
+}
+
+/// Moves the first album that a computer imported under `title` to `target`.
+/// @return whether there is one.
+bool moveImported(Albums &albums, const char *title, bool isSmart, std::ptrdiff_t target)
+{
+    const QString name = QDevPhotoDbMgr::tr(title);
+    const auto imported = std::find_if(albums.begin(), albums.end(), [&](const CAlbumGroup &album) {
+        return album.isSmartAlbum == isSmart && album.albumKind == Kind::User &&
+               album.albumName == name;
+    });
+    if (imported == albums.end())
+        return false;
+    if (imported != albums.begin() + target)
+        moveBefore(albums, imported, target);
+    return true;
+}
+
+/// An imported Camera Roll counts as an album made on the device, an imported Photo Library does
+/// not: the two are told apart by the flag, not only by their titles.
+void moveImportedToFront(Albums &albums)
+{
+    constexpr std::ptrdiff_t behindPhotoLibrary = 2;
+    const bool moved =
+        moveImported(albums, album_names::importedCameraRoll, true, behindPhotoLibrary);
+    moveImported(albums, album_names::importedPhotoLibrary, false,
+                 behindPhotoLibrary + (moved ? 1 : 0));
+}
+
+void moveRecentlyDeletedToEnd(Albums &albums)
+{
+    const auto deleted = std::find_if(albums.begin(), albums.end(), [](const CAlbumGroup &album) {
+        return album.isSmartAlbum && album.albumKind == Kind::RecentlyDeleted;
+    });
+    if (deleted != albums.end())
+        std::rotate(deleted, deleted + 1, albums.end());
+}
+
+bool isKeptEmpty(std::int32_t kind)
+{
+    return kind == Kind::CameraRoll || kind == Kind::PhotoLibrary ||
+           kind == Kind::RecentlyDeleted || kind == Kind::User;
+}
+
+/// Albums are numbered anew only when one was dropped; otherwise they keep the numbers under which
+/// they were appended.
+void dropEmpty(Albums &albums)
+{
+    const auto dropped = std::remove_if(albums.begin(), albums.end(), [](const CAlbumGroup &album) {
+        return album.photos.empty() && !isKeptEmpty(album.albumKind);
+    });
+    if (dropped == albums.end())
+        return;
+    albums.erase(dropped, albums.end());
+    std::int32_t index = 0;
+    for (CAlbumGroup &album : albums)
+        album.albumIndex = index++;
+}
+
+/// Destroys a frame that does not stand for its burst.
+bool isThinnedOut(const CPhotoData *photo)
+{
+    if (!photo->isBurst || photo->isBurstPick != 0)
+        return false;
+    delete photo;
+    return true;
+}
+
+/// Only the Bursts album keeps every frame.
+void thinBursts(Albums &albums)
+{
+    for (CAlbumGroup &album : albums) {
+        if (album.albumKind == Kind::Bursts)
+            continue;
+        auto &photos = album.photos;
+        photos.erase(std::remove_if(photos.begin(), photos.end(), isThinnedOut), photos.end());
+    }
+}
+
+std::int32_t photoCount(const CAlbumGroup &album)
+{
+    if (album.albumKind != Kind::Bursts)
+        return static_cast<std::int32_t>(album.photos.size());
+    return std::accumulate(
+        album.photos.begin(), album.photos.end(), 0,
+        [](std::int32_t bursts, const CPhotoData *photo) { return bursts + photo->isBurstPick; });
+}
+
+void countAndLabel(Albums &albums)
+{
+    for (CAlbumGroup &album : albums) {
+        album.albumCount = photoCount(album);
+        if (album.albumKind == Kind::CameraRoll || album.albumKind == Kind::PhotoLibrary)
+            continue;
+        for (CPhotoData *photo : album.photos) {
+            photo->albumUuid = album.albumUuid;
+            photo->albumName = album.albumName;
+        }
+    }
+}
+
+using BurstSizes = QHash<QString, std::int32_t>;
+
+BurstSizes sizesInBurstsAlbum(const Albums &albums)
+{
+    BurstSizes sizes;
+    const auto bursts = std::find_if(albums.begin(), albums.end(), [](const CAlbumGroup &album) {
+        return album.albumKind == Kind::Bursts;
+    });
+    if (bursts != albums.end())
+        for (const CPhotoData *frame : bursts->photos)
+            ++sizes[frame->burstUuid];
+    return sizes;
+}
+
+void setBurstSizes(Albums &albums)
+{
+    const BurstSizes sizes = sizesInBurstsAlbum(albums);
+    for (CAlbumGroup &album : albums)
+        for (CPhotoData *photo : album.photos)
+            if (photo->isBurst)
+                photo->burstCount = photo->isBurstPick != 0 ? sizes.value(photo->burstUuid) : 0;
+}
+
+} // namespace
+
+void finishCatalogue(Albums &albums)
+{
+    gatherVideos(albums);
+    moveImportedToFront(albums);
+    moveRecentlyDeletedToEnd(albums);
+    dropEmpty(albums);
+    thinBursts(albums);
+    countAndLabel(albums);
+    setBurstSizes(albums);
+}
+
+} // namespace iosphoto

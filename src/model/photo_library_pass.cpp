@@ -1,0 +1,49 @@
+#include "model/album_names.h"
+#include "model/asset_row_decoder.h"
+#include "model/model_devicephoto_dbmgr.h"
+#include "model/statement_tables.h"
+#include "model/store/database_visit.h"
+#include "no_throw.h"
+#include "records/record_ownership.h"
+
+namespace iosphoto {
+
+namespace {
+
+constexpr AssetRowLayout layout = {
+    absent, // duration
+    column(photoLibraryColumns, "ZDATECREATED"),
+    column(photoLibraryColumns, "ZMODIFICATIONDATE"),
+    column(photoLibraryColumns, "ZADDEDDATE"),
+    absent, // livePhoto
+    column(photoLibraryColumns, "ZUUID"),
+    column(photoLibraryColumns, "albumuuid"),
+    absent, // hasAdjustments
+    absent, // adjustmentsState
+    absent, // editorBundle
+    true,   // fractionalDates
+    1,      // firstKnownDate
+    "",     // missingAlbumUuid
+};
+
+constexpr std::size_t photoLibraryIndex = 1;
+
+} // namespace
+
+} // namespace iosphoto
+
+int QDevPhotoDbMgr::GetPhotosAlbum()
+{
+    using namespace iosphoto;
+    return withoutThrowing([this] {
+        const DeviceProfile device(iosVersion, productType);
+        const AssetRowDecoder decoder(layout, device, tr(album_names::photoLibrary));
+        return visitRows(dataPath,
+                         filledIn(choose(photoLibraryStatements, device), entityNumbers(*this)),
+                         [&](const Row &row) {
+                             std::unique_ptr<CPhotoData> photo = decoder.decode(row);
+                             if (!photo->fileName.isEmpty() && albums.size() > photoLibraryIndex)
+                                 append(albums[photoLibraryIndex], std::move(photo));
+                         });
+    });
+}

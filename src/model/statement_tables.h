@@ -1,0 +1,62 @@
+/// Which statement a pass runs: one table a pass, newest iOS first, and the first row that fits the
+/// device wins.
+#ifndef IOSPHOTO_STATEMENT_TABLES_H
+#define IOSPHOTO_STATEMENT_TABLES_H
+
+#include "model/device_profile.h"
+#include "model/entity_numbers.h"
+#include "model/statement.h"
+
+#include <QString>
+
+#include <cstddef>
+
+namespace iosphoto {
+
+/// The entity numbers that fill a statement's placeholders, %1 first.
+struct Placeholders
+{
+    static constexpr std::size_t most = 7;
+    std::int32_t EntityNumbers::*numbers[most] = {};
+};
+
+/// A condition on the device besides its iOS version; null where there is none.
+using DeviceTest = bool DeviceProfile::*;
+
+struct StatementVariant
+{
+    IosGeneration from;
+    DeviceTest onlyOn;
+    Statement statement;
+    Placeholders placeholders;
+};
+
+/// The variants of one pass.
+struct StatementTable
+{
+    const StatementVariant *first;
+    std::size_t size;
+
+    const StatementVariant *begin() const { return first; }
+    const StatementVariant *end() const { return first + size; }
+};
+
+extern const StatementTable cameraRollStatements;
+extern const StatementTable photoLibraryStatements;
+extern const StatementTable userAlbumStatements;
+extern const StatementTable albumContentsStatements;
+
+/// The statements that look the entity numbers up; they are the same for every device.
+extern const Statement assetEntityStatement;
+extern const Statement albumEntityStatement;
+extern const Statement photoStreamAlbumEntityStatement;
+
+/// The variant that `device` needs.
+const StatementVariant &choose(const StatementTable &table, const DeviceProfile &device);
+
+/// The variant's text with the entity numbers filled in, ready to run.
+QString filledIn(const StatementVariant &variant, const EntityNumbers &numbers);
+
+} // namespace iosphoto
+
+#endif // IOSPHOTO_STATEMENT_TABLES_H
