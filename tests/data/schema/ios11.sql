@@ -1,0 +1,82 @@
+create table Z_PRIMARYKEY (
+    Z_ENT integer primary key,
+    Z_NAME varchar,
+    Z_SUPER integer,
+    Z_MAX integer
+);
+insert into Z_PRIMARYKEY (Z_ENT, Z_NAME, Z_SUPER, Z_MAX) values
+    (19, 'GenericAlbum', 0, 0),
+    (20, 'Album', 19, 0),
+    (24, 'PhotoStreamAlbum', 20, 0),
+    (27, 'GenericAsset', 0, 0),
+    (28, 'Asset', 27, 0);
+
+create table ZGENERICASSET (
+    Z_PK integer primary key,
+    Z_ENT integer,
+    Z_OPT integer,
+    ZAVALANCHEPICKTYPE integer,
+    ZDEPTHSTATES integer,
+    ZFAVORITE integer,
+    ZHASADJUSTMENTS integer,
+    ZHEIGHT integer,
+    ZHIDDEN integer,
+    ZKIND integer,
+    ZKINDSUBTYPE integer,
+    ZPLAYBACKSTYLE integer,
+    ZSAVEDASSETTYPE integer,
+    ZTHUMBNAILINDEX integer,
+    ZTRASHEDSTATE integer,
+    ZVISIBILITYSTATE integer,
+    ZWIDTH integer,
+    ZADDEDDATE timestamp,
+    ZDATECREATED timestamp,
+    ZDURATION float,
+    ZMODIFICATIONDATE timestamp,
+    ZSORTTOKEN float,
+    ZTRASHEDDATE timestamp,
+    ZAVALANCHEUUID varchar,
+    ZCLOUDASSETGUID varchar,
+    ZDIRECTORY varchar,
+    ZFILENAME varchar,
+    ZUNIFORMTYPEIDENTIFIER varchar,
+    ZUUID varchar
+);
+
+create table ZADDITIONALASSETATTRIBUTES (
+    Z_PK integer primary key,
+    Z_ENT integer,
+    Z_OPT integer,
+    ZCAMERACAPTUREDEVICE integer,
+    ZEMBEDDEDTHUMBNAILHEIGHT integer,
+    ZORIGINALFILESIZE integer,
+    ZORIGINALHEIGHT integer,
+    ZORIGINALWIDTH integer,
+    ZVIDEOCPDURATIONTIMESCALE integer,
+    ZASSET integer,
+    Z27_ASSET integer,
+    ZCREATORBUNDLEID varchar,
+    ZEDITORBUNDLEID varchar,
+    ZORIGINALFILENAME varchar
+);
+
+create table ZGENERICALBUM (
+    Z_PK integer primary key,
+    Z_ENT integer,
+    Z_OPT integer,
+    ZCACHEDCOUNT integer,
+    ZCACHEDPHOTOSCOUNT integer,
+    ZCACHEDVIDEOSCOUNT integer,
+    ZKIND integer,
+    ZTRASHEDSTATE integer,
+    ZKEYASSET integer,
+    ZTRASHEDDATE timestamp,
+    ZTITLE varchar,
+    ZUUID varchar
+);
+
+create table Z_20ASSETS (
+    Z_20ALBUMS integer,
+    Z_27ASSETS integer,
+    primary key (Z_20ALBUMS, Z_27ASSETS)
+);
