@@ -1,0 +1,68 @@
+#include "catalogue/library.h"
+
+#include "failure.h"
+#include "output/notice.h"
+#include "source/private_copy.h"
+#include "source/schema_probe.h"
+#include "source/sqlite_error_log.h"
+
+#include <algorithm>
+
+namespace iosphoto::tool {
+
+namespace {
+
+void sayWhatWasAssumed(const Device &wanted, const Device &device)
+{
+    std::string assumed;
+    if (wanted.iosVersion.empty())
+        assumed = "iOS " + device.iosVersion + ", the newest with these tables and columns (--ios)";
+    if (wanted.productType.empty())
+        assumed += (assumed.empty() ? "" : ", and ") + device.productType +
+                   ", which hides no album (--product)";
+    if (!assumed.empty())
+        notice("reading as " + assumed);
+}
+
+bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
+{
+    return std::all_of(albums.begin(), albums.end(),
+                       [](const CAlbumGroup &album) { return album.photos.empty(); });
+}
+
+} // namespace
+
+Library::Library(const std::string &database, const Device &wanted) : database_(database)
+{
+    const PrivateCopy copy(database);
+    device_ = probe(copy.database(), database, wanted);
+    sayWhatWasAssumed(wanted, device_);
+    read(copy.database());
+}
+
+Library::~Library()
+{
+    for (const CAlbumGroup &album : albums_)
+        for (const CPhotoData *photo : album.photos)
+            delete photo;
+}
+
+void Library::read(const std::string &copy)
+{
+    sqlite_error_log::clear();
+    const int result = ios_photo_get_list(copy, device_.iosVersion, device_.productType, &albums_);
+    const std::string error = sqlite_error_log::firstError();
+    const std::string what = "'" + database_ + "' is damaged (" + error + ")";
+    if (result != 0)
+        throw Failure(CannotRead, "cannot read '" + database_ + "': SQLite error " +
+                                      std::to_string(-result) + "; copy it and try again");
+    if (error.empty())
+        return;
+    const std::string advice = "; copy it from the device or the backup again, its -wal with it";
+    if (isWithoutPhotos(albums_))
+        throw Failure(CannotRead, what + " and no photo could be read" + advice);
+    notice(what + " and photos are missing here" + advice);
+    status_ = Incomplete;
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,42 @@
+#ifndef IOSPHOTO_TOOL_LIBRARY_H
+#define IOSPHOTO_TOOL_LIBRARY_H
+
+#include "exit_status.h"
+#include "ios_photo.h"
+#include "source/device.h"
+
+#include <string>
+#include <vector>
+
+namespace iosphoto::tool {
+
+/// A photo library that was read, with the records of its catalogue.
+class Library
+{
+public:
+    /// Reads the database through a private copy, which is gone when this returns, and says on
+    /// stderr what it assumed about the device. Throws Failure when the library cannot be read.
+    Library(const std::string &database, const Device &wanted);
+    ~Library();
+    Library(const Library &) = delete;
+    Library &operator=(const Library &) = delete;
+
+    const std::string &database() const { return database_; }
+    const Device &device() const { return device_; }
+    const std::vector<CAlbumGroup> &albums() const { return albums_; }
+
+    /// Good, or Incomplete when damage cut the reading short.
+    ExitStatus status() const { return status_; }
+
+private:
+    void read(const std::string &copy);
+
+    std::string database_;
+    Device device_;
+    std::vector<CAlbumGroup> albums_;
+    ExitStatus status_ = Good;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_LIBRARY_H

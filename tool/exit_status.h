@@ -1,0 +1,18 @@
+#ifndef IOSPHOTO_TOOL_EXIT_STATUS_H
+#define IOSPHOTO_TOOL_EXIT_STATUS_H
+
+namespace iosphoto::tool {
+
+/// What the tool's exit status says. Where it is not Good, a line on stderr says more.
+enum ExitStatus {
+    Good = 0,
+    Incomplete = 1,        ///< read, but something is missing from what was shown
+    WrongUsage = 2,        ///< the command line is wrong
+    CannotRead = 3,        ///< a file cannot be opened, read or written
+    NotAPhotoDatabase = 4, ///< the file is something else
+    SchemaDoesNotFit = 5,  ///< a photo database, but of no known schema or not of the given iOS
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_EXIT_STATUS_H

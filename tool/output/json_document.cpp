@@ -1,0 +1,53 @@
+#include "output/json_document.h"
+
+#include "catalogue/album_kinds.h"
+#include "model/core_data_time.h"
+
+#include <QDateTime>
+
+namespace iosphoto::tool {
+
+Json libraryHead(const Library &library)
+{
+    return {{"database", library.database()},
+            {"iosVersion", library.device().iosVersion},
+            {"productType", library.device().productType},
+            {"isComplete", library.status() == Good}};
+}
+
+Json albumReference(const CAlbumGroup &album)
+{
+    return {{"index", album.albumIndex},
+            {"kind", kindName(album)},
+            {"kindCode", album.albumKind},
+            {"englishKind", englishKind(album)},
+            {"name", album.albumName.toStdString()},
+            {"uuid", textOrNull(album.albumUuid)}};
+}
+
+Json textOrNull(const QString &text)
+{
+    return textOrNull(text.toStdString());
+}
+
+Json textOrNull(const std::string &text)
+{
+    return text.empty() ? Json() : Json(text);
+}
+
+Json utcTime(double coreDataSeconds)
+{
+    constexpr double years = 366.0 * 24 * 60 * 60;
+    if (!(coreDataSeconds > -9999 * years && coreDataSeconds < 9999 * years))
+        return {};
+    const std::int64_t unixTime = wholeSeconds(coreDataSeconds) + coreDataEpoch;
+    return textOrNull(QDateTime::fromSecsSinceEpoch(unixTime, Qt::UTC).toString(Qt::ISODate));
+}
+
+void print(const Json &document, std::ostream &out)
+{
+    constexpr int indent = 2;
+    out << document.dump(indent, ' ', false, Json::error_handler_t::replace) << '\n';
+}
+
+} // namespace iosphoto::tool

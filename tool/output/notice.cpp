@@ -1,0 +1,14 @@
+#include "output/notice.h"
+
+#include "output/printable.h"
+
+#include <iostream>
+
+namespace iosphoto::tool {
+
+void notice(const std::string &text)
+{
+    std::cerr << "iosphoto: " + printable(text) + "\n";
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,17 @@
+#ifndef IOSPHOTO_TOOL_PRINTABLE_H
+#define IOSPHOTO_TOOL_PRINTABLE_H
+
+#include <string>
+
+namespace iosphoto::tool {
+
+/// `text` as one line that a terminal shows as it is: control characters and those that turn the
+/// writing direction become "\n", "\u202e" and the like, bytes that are not UTF-8 become U+FFFD.
+std::string printable(const std::string &text);
+
+/// The columns that printable text takes on a terminal; wide characters take two.
+std::size_t displayWidth(const std::string &text);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_PRINTABLE_H
