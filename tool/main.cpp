@@ -42,9 +42,10 @@ void addCommonOptions(CLI::App &command, Options &options)
         .add_option("DATABASE", options.database,
                     "photo database, such as .../PhotoData/Photos.sqlite")
         ->required();
-    command.add_option(
-        "--ios", options.device.iosVersion,
-        "iOS version, such as 17.4 (default: the newest with the database's tables)");
+    command
+        .add_option("--ios", options.device.iosVersion,
+                    "iOS version, such as 17.4 (default: the newest with the database's tables)")
+        ->check(looksLike("[0-9]+(\\.[0-9]+)*[a-z]?", "17.4"));
     command
         .add_option("--product", options.device.productType,
                     "product type, such as iPhone14,2 (default: one that hides no album)")

@@ -198,6 +198,17 @@ void LibraryBuilder::run(const std::string &sql, const Value &value)
         throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection_));
 }
 
+int LibraryBuilder::number(const std::string &query)
+{
+    sqlite3_stmt *statement = nullptr;
+    sqlite3_prepare_v2(connection_, query.c_str(), -1, &statement, nullptr);
+    if (sqlite3_step(statement) != SQLITE_ROW)
+        throw std::runtime_error(query + ": " + sqlite3_errmsg(connection_));
+    const int found = sqlite3_column_int(statement, 0);
+    sqlite3_finalize(statement);
+    return found;
+}
+
 void LibraryBuilder::execute(const std::string &sql)
 {
     if (sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)

@@ -78,6 +78,8 @@ public:
     AlbumRow photoStream();
 
     void execute(const std::string &sql);
+    /// The number that a query finds.
+    int number(const std::string &query);
     /// Lets go of the file, so that nothing of the builder's lies beside it.
     void close();
 

@@ -71,13 +71,18 @@ public:
 
     bool prepares(const QString &statement) const { return prepare(statement) != nullptr; }
 
-    /// The first number that a lookup finds in its last row, or 0.
+    /// A number that a lookup finds, in its last row; 0 when it finds none.
     std::int32_t number(const Statement &lookup, int column) const
     {
         const auto statement = prepare(QString::fromUtf8(lookup.text));
+        if (statement == nullptr)
+            return 0;
         std::int32_t found = 0;
-        while (sqlite3_step(statement.get()) == SQLITE_ROW)
+        int result = SQLITE_ROW;
+        while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
             found = sqlite3_column_int(statement.get(), column);
+        if (result != SQLITE_DONE)
+            throw unreadable();
         return found;
     }
 

@@ -1,0 +1,41 @@
+#include <ios_photo.h>
+#include <model_devicephoto_dbmgr.h>
+
+#include <cstdio>
+
+/// Uses everything that the package exports; exits 0 when all answers are right.
+int main(int, char **arguments)
+{
+    std::vector<CAlbumGroup> albums;
+    if (ios_photo_get_list(arguments[1], "15.0", "iPhone14,2", &albums) != 0 || albums.empty())
+        return 1;
+    std::vector<CPhotoData *> &photos = albums.front().photos;
+    if (photos.size() != 1 || photos.front()->fileName != QLatin1String("IMG_0001.JPG"))
+        return 2;
+    CPhotoData *clone = CPhotoData::GetPhotoDataClone(photos.front());
+    const CPhotoData copy(*clone);
+    delete clone;
+    for (const CAlbumGroup &album : albums)
+        for (const CPhotoData *photo : album.photos)
+            delete photo;
+    if (!copy.thumbnail.isNull())
+        return 3;
+
+    QDevPhotoDbMgr manager("15.0", "iPhone14,2");
+    manager.SetDataPath(QString::fromUtf8(arguments[1]));
+    manager.SetProductVer("17.0");
+    manager.SetDefaultAlbum();
+    if (manager.GetPrimarykeyTabAssetInfo() != 1 || manager.GetPrimarykeyTabAlbumInfo() != 1 ||
+        manager.GetPrimarykeyTabPhotostreamAlbumInfo() != 1 || manager.GetPhotosAlbum() != 0 ||
+        manager.GetPhotoGroups() != 0 || manager.GetPhotoDatas() != 0)
+        return 4;
+    if (!manager.isSupportLivePhoto() || !manager.isSupportPanorama() ||
+        !manager.isSupportProRAWAndProRes() || !manager.isBurstsMain(16) ||
+        manager.isBurstsInCamera(2) || manager.getBurstsCount("none") != 0)
+        return 5;
+    if (cmpiOSVersion(manager.iosVersion, "9") != 8 ||
+        cmpProductVersion(manager.productType, "iPhone8,1") != 6)
+        return 6;
+    std::puts("the package works");
+    return 0;
+}

@@ -1,0 +1,196 @@
+#include "support/library_builder.h"
+#include "support/plain_user.h"
+#include "support/run_tool.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sys/stat.h>
+
+using namespace iosphoto::test;
+using testing::HasSubstr;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Nothing on stdout, one line on stderr that begins like `error`, and the status.
+void expectFailure(const ToolRun &run, const std::string &error, int status)
+{
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.error, testing::StartsWith("iosphoto: " + error));
+    EXPECT_EQ(std::count(run.error.begin(), run.error.end(), '\n'), 1) << run.error;
+    EXPECT_EQ(run.error.back(), '\n');
+    EXPECT_EQ(run.status, status);
+}
+
+std::string quoted(const fs::path &path)
+{
+    return "'" + path.string() + "'";
+}
+
+} // namespace
+
+class ToolBadInput : public testing::Test
+{
+protected:
+    TemporaryFolder folder_;
+};
+
+TEST_F(ToolBadInput, WrongUsage)
+{
+    expectFailure(runTool({}), "A subcommand is required", 2);
+    expectFailure(runTool({"albums"}), "DATABASE is required", 2);
+    expectFailure(runTool({"sing", "a.sqlite"}), "", 2);
+    expectFailure(runTool({"albums", "a.sqlite", "--loud"}), "", 2);
+    expectFailure(runTool({"albums", "a.sqlite", "--ios", "new"}),
+                  "--ios: 'new' is not of the form of 17.4", 2);
+    expectFailure(runTool({"albums", "a.sqlite", "--product", "iPhone 14"}),
+                  "--product: 'iPhone 14' is not of the form of iPhone14,2", 2);
+}
+
+TEST_F(ToolBadInput, HelpAndVersionAreNoFailures)
+{
+    for (const char *option : {"--help", "--version"}) {
+        const ToolRun run = runTool({option});
+        EXPECT_THAT(run.out, HasSubstr("iosphoto"));
+        EXPECT_EQ(run.error, "");
+        EXPECT_EQ(run.status, 0);
+    }
+    EXPECT_THAT(runTool({"photos", "--help"}).out, HasSubstr("Examples:"));
+}
+
+TEST_F(ToolBadInput, PathThatNamesNoFile)
+{
+    const fs::path missing = folder_ / "missing.sqlite";
+    expectFailure(runTool({"albums", missing.string()}),
+                  "cannot read " + quoted(missing) + ": No such file or directory; check the path",
+                  3);
+    EXPECT_FALSE(exists(missing));
+    expectFailure(runTool({"albums", folder_.path().string()}),
+                  "cannot read " + quoted(folder_.path()) + ": it is a folder; name the database",
+                  3);
+    const fs::path pipe = folder_ / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    expectFailure(runTool({"albums", pipe.string()}),
+                  "cannot read " + quoted(pipe) + ": it is not a file", 3);
+}
+
+TEST_F(ToolBadInput, FileThatThisUserMayNotRead)
+{
+    const PlainUser user;
+    if (!user.isPlain())
+        GTEST_SKIP() << "this process may not become another user";
+    const TemporaryFolder folder;
+    const fs::path secret = folder / "Photos.sqlite";
+    writeFile(secret, "secret");
+    fs::permissions(secret, fs::perms::none);
+    const ToolRun run = runTool({"albums", secret.string()});
+    if (run.status == 127)
+        GTEST_SKIP() << "the other user may not run the tool";
+    expectFailure(run, "cannot read " + quoted(secret) + ": Permission denied; run as a user", 3);
+}
+
+TEST_F(ToolBadInput, FileThatIsNoPhotoDatabase)
+{
+    const fs::path text = folder_ / "notes.txt";
+    writeFile(text, std::string(5000, 'x'));
+    expectFailure(runTool({"photos", text.string()}),
+                  quoted(text) + " is not a SQLite database, or it is encrypted; name the Photos",
+                  4);
+
+    const fs::path empty = folder_ / "empty.sqlite";
+    writeFile(empty, "");
+    expectFailure(runTool({"photos", empty.string()}),
+                  quoted(empty) + " is a SQLite database without a photo library; name the Photos",
+                  4);
+}
+
+TEST_F(ToolBadInput, SchemaThatDoesNotFit)
+{
+    LibraryBuilder library(ios15);
+    const std::string subject = "'" + library.path() + "' is a photo database";
+    expectFailure(runTool({"albums", library.path(), "--ios", "18.0"}),
+                  subject + ", but not of --ios 18.0; try --ios 17 --product iPhone14,2\n", 5);
+    library.execute("alter table ZASSET rename column ZFILENAME to ZNAMEOFFILE");
+    expectFailure(runTool({"albums", library.path()}), subject + " of no known schema", 5);
+}
+
+TEST_F(ToolBadInput, FileThatWasCutShort)
+{
+    LibraryBuilder library(ios15);
+    library.close();
+    fs::resize_file(library.path(), fs::file_size(library.path()) / 2);
+    expectFailure(runTool({"photos", library.path()}),
+                  "cannot read '" + library.path() + "': database disk image is malformed; copy it",
+                  3);
+}
+
+class ToolDamagedTable : public testing::TestWithParam<const char *>
+{
+protected:
+    /// Runs the tool on a library in which the first page of the case's table is garbage.
+    static ToolRun photos()
+    {
+        LibraryBuilder library(ios15);
+        library.asset("IMG_0001.JPG").in(library.album("Trip"));
+        const int pageSize = library.number("pragma page_size");
+        const int page = library.number(
+            std::string("select rootpage from sqlite_master where name = '") + GetParam() + "'");
+        library.close();
+        std::fstream file(library.path(), std::ios::binary | std::ios::in | std::ios::out);
+        file.seekp(std::streamoff(page - 1) * pageSize);
+        file << std::string(static_cast<std::size_t>(pageSize), '\xff');
+        file.close();
+        return runTool({"photos", library.path()});
+    }
+};
+
+using ToolDamageEverywhere = ToolDamagedTable;
+
+TEST_P(ToolDamageEverywhere, IsNotShownAsAnEmptyLibrary)
+{
+    const ToolRun run = photos();
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.error, HasSubstr("database disk image is malformed"));
+    EXPECT_EQ(run.status, 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tables, ToolDamageEverywhere,
+                         testing::Values("ZASSET", "ZADDITIONALASSETATTRIBUTES", "Z_PRIMARYKEY"));
+
+using ToolDamageSomewhere = ToolDamagedTable;
+
+TEST_P(ToolDamageSomewhere, IsSaidBesideWhatCouldBeRead)
+{
+    const ToolRun run = photos();
+    EXPECT_THAT(run.out, HasSubstr("IMG_0001.JPG"));
+    EXPECT_THAT(run.error, HasSubstr("is damaged (database disk image is malformed) and photos are "
+                                     "missing here; copy it from the device"));
+    EXPECT_EQ(run.status, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tables, ToolDamageSomewhere, testing::Values("Z_27ASSETS"));
+
+TEST_F(ToolBadInput, NeitherTheSourceNorTheTemporaryFolderKeepsATrace)
+{
+    LibraryBuilder library(ios15);
+    library.execute("pragma journal_mode = wal");
+    library.asset("IMG_0001.JPG");
+    fs::copy_file(library.path(), folder_ / "Photos.sqlite");
+    fs::copy_file(library.path() + "-wal", folder_ / "Photos.sqlite-wal");
+    const std::string log = readFile(folder_ / "Photos.sqlite-wal");
+    const TemporaryFolder temporary;
+    setenv("TMPDIR", temporary.path().c_str(), 1);
+
+    const ToolRun run = runTool({"photos", (folder_ / "Photos.sqlite").string()});
+    const ToolRun failed = runTool({"photos", (folder_ / "Photos.sqlite").string(), "--ios", "18"});
+
+    unsetenv("TMPDIR");
+    EXPECT_THAT(run.out, HasSubstr("IMG_0001.JPG"));
+    EXPECT_EQ(failed.status, 5);
+    EXPECT_TRUE(fs::is_empty(temporary.path()));
+    EXPECT_EQ(readFile(folder_ / "Photos.sqlite-wal"), log);
+    EXPECT_FALSE(exists(folder_ / "Photos.sqlite-shm"));
+}
