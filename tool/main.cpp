@@ -5,11 +5,11 @@
 #include "source/sqlite_error_log.h"
 
 #include <CLI/CLI.hpp>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <iostream>
 #include <optional>
-#include <regex>
 
 namespace {
 
@@ -27,9 +27,9 @@ struct Options
 /// Accepts what looks like `example` to a person, which `pattern` tells to us.
 CLI::Validator looksLike(const char *pattern, const std::string &example)
 {
-    const std::regex expression(pattern);
+    const QRegularExpression expression(QRegularExpression::anchoredPattern(pattern));
     return {[=](const std::string &text) {
-                return std::regex_match(text, expression)
+                return expression.match(QString::fromStdString(text)).hasMatch()
                            ? std::string()
                            : "'" + text + "' is not of the form of " + example;
             },
