@@ -40,6 +40,9 @@ ToolRun runTool(const std::vector<std::string> &arguments)
         redirect("/dev/null", O_RDONLY, STDIN_FILENO);
         redirect(out, O_WRONLY | O_CREAT, STDOUT_FILENO);
         redirect(error, O_WRONLY | O_CREAT, STDERR_FILENO);
+        // A tool that runs as another user is to be that user wholly.
+        if (setregid(getegid(), getegid()) != 0 || setreuid(geteuid(), geteuid()) != 0)
+            _exit(126);
         execv(command.front(), command.data());
         _exit(127);
     }
