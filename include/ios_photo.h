@@ -36,10 +36,10 @@ struct AlbumKind
         Videos = 4,            ///< includes time-lapses, slow motion and screen recordings
         TimeLapse = 5,         ///< iOS 8 and later
         SloMo = 6,             ///< iOS 8 and later
-        Panoramas = 7,         ///< iOS 6 and later, from iPhone3,1 on and on every iPad
+        Panoramas = 7,         ///< filled on iOS 7 (from iPhone4,1 on) and later
         Bursts = 8,            ///< iOS 8 and later; holds every frame of every burst
         RecentlyDeleted = 9,   ///< iOS 8 and later; 30 days back
-        Screenshots = 10,      ///< filled on iOS 8 and later
+        Screenshots = 10,      ///< filled on iOS 8 and later, the collecting one from iOS 7 on
         Favorites = 11,        ///< iOS 8 and later
         Selfies = 12,          ///< iOS 9 and later
         LivePhotos = 13,       ///< iOS 9 and later, by model
@@ -91,35 +91,40 @@ public:
     QString directory;               ///< such as "DCIM/100APPLE", relative to the media folder
     QString sourceFileName;          ///< name before the import or edit
     QString extraText1;              ///< for the host's use
-    QString dateText;                ///< local day of creation, "yyyy-MM-dd", or "未知" (unknown)
-    std::string uuid;                ///< with dashes; below iOS 8 as 32 hexadecimal digits
-    std::string albumUuid;           ///< of the album that holds the record; empty if built in
-    std::int32_t isBurstPick = 0;    ///< 1: this frame stands for its burst
-    std::int32_t burstCount = 0;     ///< of a pick: frames of its burst in the Bursts album
-    bool isVideo = false;            ///< none of the three special kinds below
-    bool isTimelapse = false;        ///< iOS 8+
-    bool isSlomo = false;            ///< iOS 8+
-    bool isScreenRecording = false;  ///< iOS 11+
-    bool isPanorama = false;         ///< iOS 6+, by model
-    bool isBurst = false;            ///< a frame of a burst; iOS 8+
-    bool isDeleted = false;          ///< in the trash, for less than 30 days; iOS 8+
-    bool isScreenshot = false;       ///< iOS 8+
-    bool isLivePhoto = false;        ///< iOS 9+
-    bool isSelfie = false;           ///< taken with the front camera; iOS 9+
-    bool isFavorite = false;         ///< iOS 8+
-    bool isPortrait = false;         ///< has depth; iOS 11+
-    bool isAnimated = false;         ///< iOS 11+
-    bool inUserAlbum = false;        ///< read through My Photo Stream
-    bool isValid = true;             ///< for the host's use
-    bool isEdited = false;           ///< iOS 7+
-    QString burstUuid;               ///< shared by the frames of a burst; iOS 8+
-    QString extraText2;              ///< for the host's use
-    bool isRaw = false;              ///< ProRAW still; iOS 15+, models that take it
-    bool isProRes = false;           ///< ProRes video; iOS 15+, models that take it
-    bool isHidden = false;           ///< iOS 9+
+    /// Local day of createdTime, or of addedTime where that is negative, as "yyyy-MM-dd"; "未知"
+    /// (unknown) for a day before 1970.
+    QString dateText;
+    std::string uuid; ///< with dashes; below iOS 8 as 32 hexadecimal digits
+    /// Of the album that holds the record; empty if that is built in. In Camera Roll and Photo
+    /// Library that of the untitled album through which the asset was read, mostly empty.
+    std::string albumUuid;
+    std::int32_t isBurstPick = 0;   ///< 1: this frame stands for its burst
+    std::int32_t burstCount = 0;    ///< of a pick: frames of its burst in the Bursts album
+    bool isVideo = false;           ///< none of the three special kinds below
+    bool isTimelapse = false;       ///< iOS 8+
+    bool isSlomo = false;           ///< iOS 8+
+    bool isScreenRecording = false; ///< iOS 11+
+    bool isPanorama = false;        ///< iOS 7+, by model
+    bool isBurst = false;           ///< a frame of a burst; iOS 8+
+    bool isDeleted = false;         ///< in the trash, for less than 30 days; iOS 8+
+    bool isScreenshot = false;      ///< iOS 7+
+    bool isLivePhoto = false;       ///< iOS 9+
+    bool isSelfie = false;          ///< taken with the front camera; iOS 9+
+    bool isFavorite = false;        ///< iOS 8+
+    bool isPortrait = false;        ///< has depth; iOS 11+
+    bool isAnimated = false;        ///< iOS 11+
+    bool inUserAlbum = false;       ///< read through My Photo Stream
+    bool isValid = true;            ///< for the host's use
+    bool isEdited = false;          ///< iOS 7+
+    QString burstUuid;              ///< shared by the frames of a burst; iOS 8+
+    QString extraText2;             ///< for the host's use
+    bool isRaw = false;             ///< ProRAW still; iOS 15+, models that take it
+    bool isProRes = false;          ///< ProRes video; iOS 15+, models that take it
+    bool isHidden = false;          ///< iOS 9+
 };
 
-/// One album and the records it shows, newest first.
+/// One album and the records it shows: newest first, except that Videos shows time-lapses, slow
+/// motion and screen recordings behind the others.
 ///
 /// Copying an album copies the pointers, not the records: nobody but the receiver of a finished
 /// catalogue deletes them.
@@ -140,16 +145,17 @@ public:
     std::string albumUuid;            ///< empty for built-in albums
     std::vector<CPhotoData *> photos; ///< owned by whoever received the catalogue
     std::int32_t albumId = 0;         ///< for the host's use
-    /// Smart albums, and albums of the table that the user made on the device. The second Selfies,
-    /// Portrait, Panoramas and Screenshots albums, which collect from albums of other kinds, are
-    /// told from the smart ones by this.
+    /// Smart albums, My Photo Stream, and albums that the user made on the device. The second
+    /// Selfies, Portrait, Panoramas and Screenshots albums, which collect from albums that came to
+    /// the device in another way, are told from the smart ones by this.
     bool isSmartAlbum = false;
 };
 
 /// Reads a device's photo database and returns its catalogue of albums.
 ///
-/// Thread-safe: calls from several threads take turns at the database. No state survives a call.
-/// Nothing is thrown.
+/// Thread-safe: calls from several threads take turns at the database, each pass of a build at a
+/// time. No state survives a call. Nothing is thrown. A Qt message handler must not call back into
+/// this library: the debug line that a few asset names cause is written during a turn.
 ///
 /// The database and its `-wal` keep every byte. Where a `-wal` lies beside the database SQLite may
 /// leave a `-shm` there; where none does nothing is left, except for a database in write-ahead-log
@@ -159,12 +165,13 @@ public:
 /// back (read a copy of both files instead).
 ///
 /// @param databasePath  UTF-8 path of the database file, such as ".../PhotoData/Photos.sqlite".
-/// @param iosVersion    dotted decimal, such as "15.7"; it chooses the statements. Everything below
-///                      "7" is read as iOS 6, everything above "18.0" as iOS 18.
+/// @param iosVersion    dotted decimal, such as "15.7"; it chooses the statements. Those of iOS 6
+///                      serve all below "7", those of iOS 18 all from "18.0" on.
 /// @param productType   such as "iPhone14,2"; with the version it decides which albums exist.
-/// @param albums        [out] replaced on success and left alone otherwise. Each record in it is in
-///                      exactly one album and belongs to the caller, who deletes it. With a null
-///                      pointer the catalogue is built and thrown away.
+/// @param albums        [out] replaced on success and left alone otherwise; records that it held
+///                      before are not deleted. Each new record is in exactly one album and belongs
+///                      to the caller, who deletes it. With a null pointer the catalogue is built
+///                      and thrown away.
 /// @return 0, or a negated SQLite result code: -14 (SQLITE_CANTOPEN) when the file cannot be
 ///         opened, -7 (SQLITE_NOMEM) when memory runs out. 0 does not promise that anything could
 ///         be read: a file that is no photo database, one whose schema does not fit the version,

@@ -56,6 +56,7 @@ void addCommonOptions(CLI::App &command, Options &options)
 int showAlbums(const Options &options)
 {
     const Library library(options.database, options.device);
+    library.sayHowItWasRead();
     (options.asJson ? printAlbumsAsJson : printAlbums)(library, std::cout);
     return library.status();
 }
@@ -64,6 +65,7 @@ int showPhotos(const Options &options)
 {
     const Library library(options.database, options.device);
     const std::vector<Asset> photos = selectPhotos(library, options.album);
+    library.sayHowItWasRead();
     if (options.asJson)
         printPhotosAsJson(library, photos, std::cout);
     else
@@ -112,8 +114,8 @@ int main(int argumentCount, char **arguments)
     } catch (const Failure &failure) {
         notice(failure.what());
         return failure.status();
-    } catch (const std::bad_alloc &) {
-        std::fputs("iosphoto: out of memory\n", stderr);
+    } catch (const std::exception &error) { // lack of memory, a temporary folder that vanished
+        std::fprintf(stderr, "iosphoto: %s\n", error.what());
         return CannotRead;
     }
 }

@@ -10,16 +10,22 @@ namespace iosphoto {
 
 namespace {
 
+/// The columns that stand in the same place in the rows of all passes.
 namespace shared {
-enum Column {
-    ThumbnailIndex,
-    FileName,
-    Directory,
-    OriginalFileName,
-    Width,
-    Height,
-    OriginalFileSize,
-};
+constexpr const char *names[] = {"ZTHUMBNAILINDEX",   "ZFILENAME", "ZDIRECTORY",
+                                 "ZORIGINALFILENAME", "ZWIDTH",    "ZHEIGHT",
+                                 "ZORIGINALFILESIZE"};
+static_assert(startsWith(cameraRollColumns, names));
+static_assert(startsWith(photoLibraryColumns, names));
+static_assert(startsWith(albumContentsColumns, names));
+
+constexpr int thumbnailIndex = column(names, "ZTHUMBNAILINDEX");
+constexpr int fileName = column(names, "ZFILENAME");
+constexpr int directory = column(names, "ZDIRECTORY");
+constexpr int originalFileName = column(names, "ZORIGINALFILENAME");
+constexpr int width = column(names, "ZWIDTH");
+constexpr int height = column(names, "ZHEIGHT");
+constexpr int originalFileSize = column(names, "ZORIGINALFILESIZE");
 } // namespace shared
 
 constexpr int edited = 1;      // ZHASADJUSTMENTS
@@ -62,13 +68,13 @@ std::unique_ptr<CPhotoData> AssetRowDecoder::decode(const Row &row) const
 
 void AssetRowDecoder::readFile(CPhotoData &photo, const Row &row) const
 {
-    photo.thumbnailIndex = row.int32(shared::ThumbnailIndex);
-    photo.fileName = row.text(shared::FileName);
-    photo.directory = row.text(shared::Directory);
-    photo.sourceFileName = row.text(shared::OriginalFileName);
-    photo.width = row.int32(shared::Width);
-    photo.height = row.int32(shared::Height);
-    photo.fileSize = repairedSize(row.int64(shared::OriginalFileSize));
+    photo.thumbnailIndex = row.int32(shared::thumbnailIndex);
+    photo.fileName = row.text(shared::fileName);
+    photo.directory = row.text(shared::directory);
+    photo.sourceFileName = row.text(shared::originalFileName);
+    photo.width = row.int32(shared::width);
+    photo.height = row.int32(shared::height);
+    photo.fileSize = repairedSize(row.int64(shared::originalFileSize));
     photo.duration = toFloat(row.real(layout_.duration));
 }
 

@@ -10,8 +10,8 @@
 
 namespace iosphoto {
 
-/// How one pass's rows differ from another's in what they share. The first seven columns are the
-/// same in all.
+/// How one pass's rows differ from another's in what they share. The first columns, up to the
+/// file size, are the same in all.
 struct AssetRowLayout
 {
     int duration;

@@ -3,7 +3,8 @@
 #include "model/camera_roll_columns.h"
 #include "model/core_data_time.h"
 
-#include <QDebug>
+#include <QMessageLogger>
+#include <QStringList>
 
 #include <algorithm>
 #include <iterator>
@@ -38,9 +39,14 @@ void traceIfWatched(const CPhotoData &photo, const Row &row)
 {
     if (!isWatched(photo.fileName))
         return;
-    QMessageLogger().debug().noquote()
-        << photo.fileName << dateAndTime(row, camera_roll::created)
-        << dateAndTime(row, camera_roll::modified) << dateAndTime(row, camera_roll::added);
+    // Not through QDebug's stream: it writes from its destructor, where lack of memory would end
+    // the process.
+    const QStringList words = {photo.fileName, dateAndTime(row, camera_roll::created),
+                               dateAndTime(row, camera_roll::modified),
+                               dateAndTime(row, camera_roll::added)};
+    // The place that is nowhere makes the category "default"; without one there is none.
+    QMessageLogger(nullptr, 0, nullptr)
+        .debug("%s", words.join(QLatin1Char(' ')).toUtf8().constData());
 }
 
 } // namespace iosphoto

@@ -1,14 +1,21 @@
-#include "model/burst_pick.h"
+#include "model/bursts.h"
+
 #include "model/model_devicephoto_dbmgr.h"
 
 #include <algorithm>
 
+const CAlbumGroup *iosphoto::burstsAlbum(const std::vector<CAlbumGroup> &albums)
+{
+    const auto found = std::find_if(albums.begin(), albums.end(), [](const CAlbumGroup &album) {
+        return album.albumKind == AlbumKind::Bursts;
+    });
+    return found != albums.end() ? &*found : nullptr;
+}
+
 int QDevPhotoDbMgr::getBurstsCount(QString burstUuid) const
 {
-    const auto bursts = std::find_if(albums.begin(), albums.end(), [](const CAlbumGroup &album) {
-        return album.albumKind == iosphoto::AlbumKind::Bursts;
-    });
-    if (bursts == albums.end())
+    const CAlbumGroup *bursts = iosphoto::burstsAlbum(albums);
+    if (bursts == nullptr)
         return 0;
     return static_cast<int>(
         std::count_if(bursts->photos.begin(), bursts->photos.end(),

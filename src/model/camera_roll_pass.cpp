@@ -2,7 +2,7 @@
 #include "model/asset_codes.h"
 #include "model/asset_row_decoder.h"
 #include "model/asset_trace.h"
-#include "model/burst_pick.h"
+#include "model/bursts.h"
 #include "model/camera_roll_columns.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/smart_album_rules.h"

@@ -1,12 +1,12 @@
 #include "model/catalogue_finish.h"
 
 #include "model/album_names.h"
+#include "model/bursts.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "records/record_ownership.h"
 
-#include <QHash>
-
 #include <algorithm>
+#include <map>
 #include <numeric>
 
 namespace iosphoto {
@@ -146,18 +146,24 @@ void countAndLabel(Albums &albums)
     }
 }
 
-using BurstSizes = QHash<QString, std::int32_t>;
+/// Ordered, because the uuids come from the file: no choice of them makes it slow.
+using BurstSizes = std::map<QString, std::int32_t>;
 
 BurstSizes sizesInBurstsAlbum(const Albums &albums)
 {
     BurstSizes sizes;
-    const auto bursts = std::find_if(albums.begin(), albums.end(), [](const CAlbumGroup &album) {
-        return album.albumKind == Kind::Bursts;
-    });
-    if (bursts != albums.end())
+    if (const CAlbumGroup *bursts = burstsAlbum(albums))
         for (const CPhotoData *frame : bursts->photos)
             ++sizes[frame->burstUuid];
     return sizes;
+}
+
+std::int32_t sizeOfBurst(const BurstSizes &sizes, const CPhotoData &photo)
+{
+    if (photo.isBurstPick == 0)
+        return 0;
+    const auto found = sizes.find(photo.burstUuid);
+    return found != sizes.end() ? found->second : 0;
 }
 
 void setBurstSizes(Albums &albums)
@@ -166,7 +172,7 @@ void setBurstSizes(Albums &albums)
     for (CAlbumGroup &album : albums)
         for (CPhotoData *photo : album.photos)
             if (photo->isBurst)
-                photo->burstCount = photo->isBurstPick != 0 ? sizes.value(photo->burstUuid) : 0;
+                photo->burstCount = sizeOfBurst(sizes, *photo);
 }
 
 } // namespace

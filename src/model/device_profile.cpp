@@ -1,10 +1,21 @@
 #include "model/device_profile.h"
 
 #include "model/model_devicephoto_dbmgr.h"
+#include "model/version_compare.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace iosphoto {
 
 namespace {
+
+template <std::size_t count>
+bool isOneOf(const QString &productType, const QStringView (&models)[count])
+{
+    return std::any_of(std::begin(models), std::end(models),
+                       [&](QStringView model) { return compareModels(productType, model) == 0; });
+}
 
 enum class Family { IPhone, IPad, Other };
 
@@ -19,43 +30,36 @@ Family family(const QString &productType)
     return letter == QLatin1Char('a') ? Family::IPad : Family::Other;
 }
 
-int compareModel(const QString &productType, const char *model)
-{
-    return cmpProductVersion(productType, QLatin1String(model));
-}
-
 /// The first model with Live Photos, and those of its time that had to wait for an iOS update.
-constexpr char firstLivePhotoIPhone[] = "iPhone8,1";
+constexpr QStringView firstLivePhotoIPhone = u"iPhone8,1";
 constexpr struct
 {
-    const char *model;
+    QStringView model;
     IosGeneration from;
 } lateLivePhotoIPhones[] = {
-    {"iPhone8,1", IosGeneration::Ios11},
-    {"iPhone8,2", IosGeneration::Ios10},
-    {"iPhone8,4", IosGeneration::Ios11},
+    {u"iPhone8,1", IosGeneration::Ios11},
+    {u"iPhone8,2", IosGeneration::Ios10},
+    {u"iPhone8,4", IosGeneration::Ios11},
 };
 
 bool iPhoneTakesLivePhotos(IosGeneration ios, const QString &productType)
 {
-    if (compareModel(productType, firstLivePhotoIPhone) < 0)
+    if (compareModels(productType, firstLivePhotoIPhone) < 0)
         return false;
     for (const auto &late : lateLivePhotoIPhones)
-        if (compareModel(productType, late.model) == 0)
+        if (compareModels(productType, late.model) == 0)
             return ios >= late.from;
     return true;
 }
 
-constexpr char firstLivePhotoIPad[] = "iPad6,3";
+constexpr QStringView firstLivePhotoIPad = u"iPad6,3";
 /// The model stands twice: the list has two places for it, and the second changes nothing.
-constexpr const char *iPadsWithoutLivePhotos[] = {"iPad6,7", "iPad6,7"};
+constexpr QStringView iPadsWithoutLivePhotos[] = {u"iPad6,7", u"iPad6,7"};
 
 bool iPadTakesLivePhotos(const QString &productType)
 {
-    for (const char *model : iPadsWithoutLivePhotos)
-        if (compareModel(productType, model) == 0)
-            return false;
-    return compareModel(productType, firstLivePhotoIPad) >= 0;
+    return !isOneOf(productType, iPadsWithoutLivePhotos) &&
+           compareModels(productType, firstLivePhotoIPad) >= 0;
 }
 
 bool takesLivePhotos(IosGeneration ios, const QString &productType)
@@ -73,7 +77,7 @@ bool takesLivePhotos(IosGeneration ios, const QString &productType)
     return false;
 }
 
-constexpr char firstPanoramaIPhone[] = "iPhone3,1";
+constexpr QStringView firstPanoramaIPhone = u"iPhone3,1";
 
 bool takesPanoramas(IosGeneration ios, const QString &productType)
 {
@@ -81,7 +85,7 @@ bool takesPanoramas(IosGeneration ios, const QString &productType)
         return false;
     switch (family(productType)) {
     case Family::IPhone:
-        return compareModel(productType, firstPanoramaIPhone) >= 0;
+        return compareModels(productType, firstPanoramaIPhone) >= 0;
     case Family::IPad:
         return true;
     case Family::Other:
@@ -90,18 +94,15 @@ bool takesPanoramas(IosGeneration ios, const QString &productType)
     return false;
 }
 
-constexpr const char *proModels[] = {"iPhone14,2", "iPhone14,3", "iPhone15,2", "iPhone15,3"};
+constexpr QStringView proModels[] = {u"iPhone14,2", u"iPhone14,3", u"iPhone15,2", u"iPhone15,3"};
 
 /// Goes by the numbers alone: a tablet of the same numbers passes too.
 bool takesProRawAndProRes(const QString &productType)
 {
-    for (const char *model : proModels)
-        if (compareModel(productType, model) == 0)
-            return true;
-    return false;
+    return isOneOf(productType, proModels);
 }
 
-constexpr char firstModelWithIos7SubTypes[] = "iPhone4,1";
+constexpr QStringView firstModelWithIos7SubTypes = u"iPhone4,1";
 
 } // namespace
 
@@ -109,7 +110,7 @@ DeviceProfile::DeviceProfile(const std::string &iosVersion, const QString &produ
     : ios(iosGeneration(iosVersion)), livePhotos(takesLivePhotos(ios, productType)),
       panoramas(takesPanoramas(ios, productType)),
       proRawAndProRes(takesProRawAndProRes(productType)),
-      ios7SubTypes(compareModel(productType, firstModelWithIos7SubTypes) >= 0)
+      ios7SubTypes(compareModels(productType, firstModelWithIos7SubTypes) >= 0)
 {
 }
 

@@ -28,9 +28,11 @@ IOSPHOTO_EXPORT int cmpProductVersion(const QString &a, const QString &b);
 
 /// Reads one device's photo database, one pass per source of albums.
 ///
-/// GetPhotoAlbumDatas() runs the passes in their order. A host may also call them one by one, in
-/// the order in which they stand here, and change any member in between: each pass asks for
-/// version, model, path and entity numbers when it starts.
+/// GetPhotoAlbumDatas() builds the catalogue. A host may also call the passes one by one, in the
+/// order in which they stand here, and change any member in between: each asks for version, model,
+/// path and entity numbers when it starts. It then gets the albums as the passes leave them: only
+/// GetPhotoAlbumDatas() appends the second Selfies, Portrait, Panoramas and Screenshots albums,
+/// orders and drops albums, thins the bursts and counts.
 ///
 /// Results: a pass returns the number of rows it read, or a negated SQLite code: that of a file
 /// that could not be opened (-14 SQLITE_CANTOPEN), or -7 (SQLITE_NOMEM) when memory ran out. A
@@ -38,8 +40,9 @@ IOSPHOTO_EXPORT int cmpProductVersion(const QString &a, const QString &b);
 /// rows before the damage. Nothing is thrown, except by the constructor and the two setters for
 /// lack of memory.
 ///
-/// Ownership: the manager never deletes the records that `albums` points to, neither when it is
-/// destroyed nor when a pass fails; they belong to the host.
+/// Ownership: the records that `albums` points to belong to the host; the manager deletes none when
+/// it is destroyed or a pass fails. Only the end of GetPhotoAlbumDatas() deletes some: the burst
+/// frames that it thins out of every album but Bursts, whoever put them there.
 ///
 /// Threads: a manager belongs to one thread at a time. Managers in several threads take turns at
 /// the database, however many databases there are.
@@ -48,9 +51,9 @@ class IOSPHOTO_EXPORT QDevPhotoDbMgr : public QObject
     Q_OBJECT
 
 public:
-    /// @param iosVersion   dotted decimal, such as "15.0"
-    /// @param productType  UTF-8, such as "iPhone14,2"
-    QDevPhotoDbMgr(std::string iosVersion, std::string productType);
+    /// @param ios    iOS version, dotted decimal, such as "15.0"
+    /// @param model  product type, UTF-8, such as "iPhone14,2"
+    QDevPhotoDbMgr(std::string ios, std::string model);
     ~QDevPhotoDbMgr() override;
 
     /// Sets the path of the database file, which every pass opens anew.
@@ -81,7 +84,8 @@ public:
     /// @return rows read, those dropped for a uuid that is in the list already included.
     int GetPhotoGroups();
     /// Fills the albums that GetPhotoGroups() appended.
-    /// @return memberships read, without those that name no asset or no album.
+    /// @return memberships read, without those that name no asset; from iOS 8 on also without those
+    ///         that name no album.
     int GetPhotoDatas();
 
     /// Whether the device takes Live Photos.

@@ -95,6 +95,17 @@ constexpr int column(const char *const (&columns)[count], std::string_view name)
     throw "no such column";
 }
 
+/// Whether a list begins with these names, in this order.
+template <std::size_t count, std::size_t beginningCount>
+constexpr bool startsWith(const char *const (&columns)[count],
+                          const char *const (&beginning)[beginningCount])
+{
+    for (std::size_t i = 0; i < beginningCount; ++i)
+        if (std::string_view(columns[i]) != beginning[i])
+            return false;
+    return beginningCount <= count;
+}
+
 } // namespace iosphoto
 
 #endif // IOSPHOTO_ROW_COLUMNS_H

@@ -15,7 +15,7 @@ namespace {
 using Kind = AlbumKind;
 using Ios = IosGeneration;
 
-constexpr std::int64_t trashKeptFor = 30 * 24 * 60 * 60; // seconds
+constexpr std::int64_t trashKeptFor = 2592000; // 30 days, in seconds
 
 enum class Search { First, Every };
 
@@ -98,8 +98,9 @@ SmartAlbumRules::SmartAlbumRules(std::vector<CAlbumGroup> &albums, const DeviceP
     : device_(device), now_(currentUnixTime())
 {
     for (const Placement &placement : placements)
-        targets_[placement.kind] = {placement.needsFileName, placement.leavesOutDeletedAndHidden,
-                                    smartAlbums(albums, placement)};
+        targets_.at(static_cast<std::size_t>(placement.kind)) = {
+            placement.needsFileName, placement.leavesOutDeletedAndHidden,
+            smartAlbums(albums, placement)};
 }
 
 bool SmartAlbumRules::sort(CPhotoData &photo, const Row &row) const
@@ -128,7 +129,7 @@ bool SmartAlbumRules::sort(CPhotoData &photo, const Row &row) const
 
 void SmartAlbumRules::copyTo(AlbumKind::Code kind, const CPhotoData &photo) const
 {
-    const Target &target = targets_[kind];
+    const Target &target = targets_.at(static_cast<std::size_t>(kind));
     if (target.needsFileName && photo.fileName.isEmpty())
         return;
     if (target.leavesOutDeletedAndHidden && (photo.isDeleted || photo.isHidden))

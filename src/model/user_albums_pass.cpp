@@ -35,7 +35,7 @@ std::int32_t cachedCount(const Row &row)
                                      static_cast<std::uint32_t>(row.int32(cachedVideos)));
 }
 
-CAlbumGroup readAlbum(const Row &row, IosGeneration ios)
+CAlbumGroup readAlbum(const Row &row, IosGeneration ios, const QString &photoStreamName)
 {
     CAlbumGroup album;
     album.albumKind = AlbumKind::PhotoLibrary;
@@ -46,7 +46,7 @@ CAlbumGroup readAlbum(const Row &row, IosGeneration ios)
             album.albumKind = AlbumKind::User;
     } else if (isEntity(row, "PhotoStreamAlbum")) {
         album.albumKind = AlbumKind::PhotoStream;
-        album.albumName = QDevPhotoDbMgr::tr(album_names::photoStream);
+        album.albumName = photoStreamName;
         album.isSmartAlbum = true;
     }
     album.albumCount = cachedCount(row);
@@ -63,12 +63,13 @@ int QDevPhotoDbMgr::GetPhotoGroups()
     using namespace iosphoto;
     return withoutThrowing([this] {
         const DeviceProfile device(iosVersion, productType);
+        const QString photoStreamName = tr(album_names::photoStream);
         // The built-in albums have no uuid, so an album of the table without one is a duplicate.
         AlbumsByUuid known(albums);
         return visitRows(dataPath,
                          filledIn(choose(userAlbumStatements, device), entityNumbers(*this)),
                          [&](const Row &row) {
-                             CAlbumGroup album = readAlbum(row, device.ios);
+                             CAlbumGroup album = readAlbum(row, device.ios, photoStreamName);
                              if (!known.add(album.albumUuid, albums.size()))
                                  return;
                              album.albumIndex = static_cast<std::int32_t>(albums.size());

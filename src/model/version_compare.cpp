@@ -1,3 +1,5 @@
+#include "model/version_compare.h"
+
 #include "model/model_devicephoto_dbmgr.h"
 
 #include <QChar>
@@ -6,6 +8,8 @@
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
+
+// Nothing here allocates: hosts ask these questions outside the operations that return codes.
 
 namespace {
 
@@ -17,26 +21,60 @@ int clampedToInt(std::int64_t value)
     return static_cast<int>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
-/// The text from `position` to the next dot; `position` moves behind that dot.
-std::string takeComponent(const std::string &version, std::size_t &position)
+/// Walks through the components of a version, from dot to dot.
+class Components
 {
-    if (position >= version.size())
-        return {};
-    const std::size_t end = std::min(version.find('.', position), version.size());
-    std::string component = version.substr(position, end - position);
-    position = end + 1;
-    return component;
-}
+public:
+    explicit Components(const std::string &version) : version_(version) {}
 
-/// What atoi gives, without its undefined behaviour for numbers that do not fit.
-int leadingNumber(const std::string &component)
+    bool atEmptyOne() const { return position_ >= version_.size() || version_[position_] == '.'; }
+
+    /// What atoi gives for the component, without its undefined behaviour for numbers that do not
+    /// fit.
+    int number() const
+    {
+        if (atEmptyOne())
+            return 0;
+        return clampedToInt(std::strtol(version_.c_str() + position_, nullptr, 10));
+    }
+
+    void next()
+    {
+        if (position_ < version_.size())
+            position_ = std::min(version_.find('.', position_), version_.size()) + 1;
+    }
+
+private:
+    const std::string &version_;
+    std::size_t position_ = 0;
+};
+
+/// A number as it is read digit by digit; 0 when it does not fit an int or holds digits of a script
+/// other than ours.
+class DigitReader
 {
-    return clampedToInt(std::strtol(component.c_str(), nullptr, 10));
-}
+public:
+    void add(QChar digit)
+    {
+        constexpr int base = 10;
+        const int value = digit.unicode() - u'0';
+        isReadable_ = isReadable_ && value >= 0 && value < base;
+        if (isReadable_)
+            number_ = number_ * base + value;
+        isReadable_ = isReadable_ && number_ <= std::numeric_limits<int>::max();
+    }
+
+    int number() const { return isReadable_ ? static_cast<int>(number_) : 0; }
+
+private:
+    std::int64_t number_ = 0;
+    bool isReadable_ = true;
+};
 
 bool isDecimalDigit(QChar character)
 {
-    if (character.unicode() < 0x80)
+    constexpr char16_t firstBeyondAscii = 0x80;
+    if (character.unicode() < firstBeyondAscii)
         return character >= QLatin1Char('0') && character <= QLatin1Char('9');
     return character.category() == QChar::Number_DecimalDigit;
 }
@@ -48,42 +86,46 @@ struct ModelNumber
 };
 
 /// The two numbers of "iPhone14,2". Characters other than digits and the comma do not count.
-ModelNumber modelNumber(const QString &productType)
+ModelNumber modelNumber(QStringView productType)
 {
-    QString major;
-    QString minor;
+    DigitReader major;
+    DigitReader minor;
     bool commaSeen = false;
     for (const QChar character : productType) {
         if (isDecimalDigit(character))
-            (commaSeen ? minor : major).append(character);
+            (commaSeen ? minor : major).add(character);
         else if (character == QLatin1Char(','))
             commaSeen = true;
     }
-    return {major.toInt(), minor.toInt()};
+    return {major.number(), minor.number()};
 }
 
 } // namespace
 
+int iosphoto::compareModels(QStringView a, QStringView b) noexcept
+{
+    const ModelNumber modelA = modelNumber(a);
+    const ModelNumber modelB = modelNumber(b);
+    return modelA.major != modelB.major ? modelA.major - modelB.major : modelA.minor - modelB.minor;
+}
+
 int cmpiOSVersion(const std::string &a, const std::string &b)
 {
-    std::size_t positionA = 0;
-    std::size_t positionB = 0;
+    Components componentsA(a);
+    Components componentsB(b);
     for (int pass = 0; pass < componentsCompared; ++pass) {
-        const std::string componentA = takeComponent(a, positionA);
-        const std::string componentB = takeComponent(b, positionB);
-        const std::int64_t difference =
-            std::int64_t(leadingNumber(componentA)) - leadingNumber(componentB);
+        const std::int64_t difference = std::int64_t(componentsA.number()) - componentsB.number();
         if (difference != 0)
             return clampedToInt(difference);
-        if (componentA.empty() && componentB.empty())
+        if (componentsA.atEmptyOne() && componentsB.atEmptyOne())
             return 0;
+        componentsA.next();
+        componentsB.next();
     }
     return 0;
 }
 
 int cmpProductVersion(const QString &a, const QString &b)
 {
-    const ModelNumber modelA = modelNumber(a);
-    const ModelNumber modelB = modelNumber(b);
-    return modelA.major != modelB.major ? modelA.major - modelB.major : modelA.minor - modelB.minor;
+    return iosphoto::compareModels(a, b);
 }

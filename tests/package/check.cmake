@@ -1,5 +1,5 @@
 # Installs the build into an empty folder, builds the host against it, as its author would, and runs
-# it on a database. cmake -DBUILD=... -DSOURCE=... -DFOLDER=... -DDATABASE=... -DFLAGS=... -P check.cmake
+# it on a database. cmake -DBUILD=... -DSOURCE=... -DFOLDER=... -DSCHEMA=... -DFLAGS=... -P check.cmake
 function(run)
     execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output
                     ERROR_VARIABLE output)

@@ -2,6 +2,7 @@
 
 #include "support/temporary_folder.h"
 
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -25,7 +26,7 @@ std::ostream &operator<<(std::ostream &stream, const ToolRun &run)
                   << run.error;
 }
 
-ToolRun runTool(const std::vector<std::string> &arguments)
+ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment)
 {
     const TemporaryFolder folder;
     const std::string out = (folder / "out").string();
@@ -37,6 +38,8 @@ ToolRun runTool(const std::vector<std::string> &arguments)
 
     const pid_t child = fork();
     if (child == 0) {
+        for (const auto &[name, value] : environment)
+            setenv(name.c_str(), value.c_str(), 1);
         redirect("/dev/null", O_RDONLY, STDIN_FILENO);
         redirect(out, O_WRONLY | O_CREAT, STDOUT_FILENO);
         redirect(error, O_WRONLY | O_CREAT, STDERR_FILENO);

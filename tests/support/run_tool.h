@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TESTS_RUN_TOOL_H
 #define IOSPHOTO_TESTS_RUN_TOOL_H
 
+#include <map>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -22,8 +23,10 @@ struct ToolRun
 
 std::ostream &operator<<(std::ostream &stream, const ToolRun &run);
 
-/// Runs the tool with no input.
-ToolRun runTool(const std::vector<std::string> &arguments);
+using Environment = std::map<std::string, std::string>;
+
+/// Runs the tool with no input, in our environment with these variables set besides.
+ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment = {});
 
 } // namespace iosphoto::test
 

@@ -48,6 +48,9 @@ TEST_F(ToolBadInput, WrongUsage)
                   "--ios: 'new' is not of the form of 17.4", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--product", "iPhone 14"}),
                   "--product: 'iPhone 14' is not of the form of iPhone14,2", 2);
+    expectFailure(runTool({"albums", "a.sqlite", "--ios", ""}), "--ios: '' is not of the form", 2);
+    expectFailure(runTool({"albums", "a.sqlite", "--product", std::string(120000, 'a')}),
+                  "--product: 'aaa", 2);
 }
 
 TEST_F(ToolBadInput, HelpAndVersionAreNoFailures)
@@ -105,6 +108,15 @@ TEST_F(ToolBadInput, FileThatIsNoPhotoDatabase)
     expectFailure(runTool({"photos", empty.string()}),
                   quoted(empty) + " is a SQLite database without a photo library; name the Photos",
                   4);
+}
+
+TEST_F(ToolBadInput, TemporaryFolderThatIsNotThere)
+{
+    const LibraryBuilder library(ios15);
+    const ToolRun run = runTool({"albums", library.path()}, {{"TMPDIR", "/nowhere"}});
+    expectFailure(
+        run, "cannot make a temporary folder in '/nowhere': No such file or directory; set TMPDIR",
+        3);
 }
 
 TEST_F(ToolBadInput, SchemaThatDoesNotFit)
@@ -182,12 +194,12 @@ TEST_F(ToolBadInput, NeitherTheSourceNorTheTemporaryFolderKeepsATrace)
     fs::copy_file(library.path() + "-wal", folder_ / "Photos.sqlite-wal");
     const std::string log = readFile(folder_ / "Photos.sqlite-wal");
     const TemporaryFolder temporary;
-    setenv("TMPDIR", temporary.path().c_str(), 1);
+    const Environment environment = {{"TMPDIR", temporary.path().string()}};
+    const std::string database = (folder_ / "Photos.sqlite").string();
 
-    const ToolRun run = runTool({"photos", (folder_ / "Photos.sqlite").string()});
-    const ToolRun failed = runTool({"photos", (folder_ / "Photos.sqlite").string(), "--ios", "18"});
+    const ToolRun run = runTool({"photos", database}, environment);
+    const ToolRun failed = runTool({"photos", database, "--ios", "18"}, environment);
 
-    unsetenv("TMPDIR");
     EXPECT_THAT(run.out, HasSubstr("IMG_0001.JPG"));
     EXPECT_EQ(failed.status, 5);
     EXPECT_TRUE(fs::is_empty(temporary.path()));

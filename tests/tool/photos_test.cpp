@@ -100,16 +100,26 @@ TEST_F(ToolPhotos, DocumentHoldsEveryFactAndNullForUnknownOnes)
     EXPECT_EQ(kinds, (std::vector<std::string>{"camera-roll", "favorites", "user"}));
 }
 
+TEST_F(ToolPhotos, AlbumThatIsNotThereIsOneLineThoughTheDeviceWasGuessed)
+{
+    const ToolRun run = runTool({"photos", library_.path(), "--album", "Nowhere"});
+    EXPECT_EQ(run.error, "iosphoto: no album fits 'Nowhere'; 'iosphoto albums " + library_.path() +
+                             "' lists them\n");
+}
+
 TEST_F(ToolPhotos, KnowsOfAPhotoWhatAnyAlbumKnows)
 {
     library_.asset("IMG_0004.JPG")
         .in(library_.album("Imported").set("ZKIND", 1552))
         .set("ZSAVEDASSETTYPE", 256)
         .set("ZUUID", "00000000-0000-0000-0000-000000000004")
+        .set("ZDURATION", 33.5)
         .set("ZCAMERACAPTUREDEVICE", 1);
 
     EXPECT_THAT(photos({"--album", "photo-library"}).out,
                 HasSubstr("selfie  Photo Library, Selfies from albums, Imported"));
+    EXPECT_THAT(photos({"--album", "photo-library", "--json"}).out,
+                HasSubstr("\"duration\": 33.5"));
 }
 
 TEST_F(ToolPhotos, WithoutUuidEveryRecordStandsForItself)

@@ -56,15 +56,8 @@ bool isOfTheTable(const CAlbumGroup &album)
 
 bool collectsFromAlbums(const CAlbumGroup &album)
 {
-    switch (album.albumKind) {
-    case Kind::Selfies:
-    case Kind::Portrait:
-    case Kind::Panoramas:
-    case Kind::Screenshots:
-        return !album.isSmartAlbum;
-    default:
-        return false;
-    }
+    return !album.isSmartAlbum && !isOfTheTable(album) && album.albumKind != Kind::CameraRoll &&
+           album.albumKind != Kind::PhotoLibrary;
 }
 
 std::string kindName(const CAlbumGroup &album)

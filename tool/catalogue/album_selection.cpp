@@ -4,6 +4,9 @@
 #include "failure.h"
 #include "output/notice.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace iosphoto::tool {
 
 namespace {
@@ -14,10 +17,9 @@ bool fits(const CAlbumGroup &album, const QString &wanted)
                              QString::fromStdString(englishKind(album)),
                              QString::number(album.albumKind),
                              QString::fromStdString(album.albumUuid)};
-    for (const QString &name : names)
-        if (!name.isEmpty() && name.compare(wanted, Qt::CaseInsensitive) == 0)
-            return true;
-    return false;
+    return std::any_of(std::begin(names), std::end(names), [&](const QString &name) {
+        return !name.isEmpty() && name.compare(wanted, Qt::CaseInsensitive) == 0;
+    });
 }
 
 } // namespace

@@ -1,30 +1,21 @@
 #include "catalogue/assets.h"
 
+#include "catalogue/traits.h"
+
 #include <algorithm>
-#include <unordered_map>
+#include <map>
 
 namespace iosphoto::tool {
 
 namespace {
 
-constexpr bool CPhotoData::*flags[] = {
-    &CPhotoData::isVideo,     &CPhotoData::isTimelapse,
-    &CPhotoData::isSlomo,     &CPhotoData::isScreenRecording,
-    &CPhotoData::isPanorama,  &CPhotoData::isBurst,
-    &CPhotoData::isDeleted,   &CPhotoData::isScreenshot,
-    &CPhotoData::isLivePhoto, &CPhotoData::isSelfie,
-    &CPhotoData::isFavorite,  &CPhotoData::isPortrait,
-    &CPhotoData::isAnimated,  &CPhotoData::inUserAlbum,
-    &CPhotoData::isEdited,    &CPhotoData::isRaw,
-    &CPhotoData::isProRes,    &CPhotoData::isHidden,
-};
-
 /// Adds what another record of the same asset knows: albums of the table do not say everything that
 /// the Camera Roll does, nor the other way round.
 void merge(CPhotoData &facts, const CPhotoData &record)
 {
-    for (const auto flag : flags)
-        facts.*flag = facts.*flag || record.*flag;
+    for (const Trait &trait : traits)
+        facts.*trait.flag = facts.*trait.flag || record.*trait.flag;
+    facts.duration = std::max(facts.duration, record.duration);
     if (facts.assetId == CPhotoData().assetId)
         facts.assetId = record.assetId;
     facts.burstCount = std::max(facts.burstCount, record.burstCount);
@@ -38,7 +29,7 @@ void merge(CPhotoData &facts, const CPhotoData &record)
 std::vector<Asset> assetsOf(const std::vector<CAlbumGroup> &catalogue)
 {
     std::vector<Asset> assets;
-    std::unordered_map<std::string, std::size_t> indexes;
+    std::map<std::string, std::size_t> indexes; // ordered: no choice of uuids makes it slow
     for (const CAlbumGroup &album : catalogue) {
         for (const CPhotoData *record : album.photos) {
             const auto known = record->uuid.empty() ? indexes.end() : indexes.find(record->uuid);

@@ -10,8 +10,8 @@ namespace iosphoto::tool {
 /// One photo or video, put together from the records of it in all albums.
 struct Asset
 {
-    /// The first record, with every flag that any of them has: the copies in the smart albums carry
-    /// only those known when they were made.
+    /// The first record, with what others know besides: every flag that any of them has, and the
+    /// duration, row key and burst, which not all albums read.
     CPhotoData facts;
     /// The albums that show it, in the catalogue's order.
     std::vector<const CAlbumGroup *> albums;

@@ -2,6 +2,7 @@
 
 #include "failure.h"
 #include "output/notice.h"
+#include "records/record_ownership.h"
 #include "source/private_copy.h"
 #include "source/schema_probe.h"
 #include "source/sqlite_error_log.h"
@@ -32,37 +33,42 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
 
 } // namespace
 
-Library::Library(const std::string &database, const Device &wanted) : database_(database)
+Library::Library(const std::string &database, const Device &wanted)
+    : database_(database), wanted_(wanted)
 {
     const PrivateCopy copy(database);
     device_ = probe(copy.database(), database, wanted);
-    sayWhatWasAssumed(wanted, device_);
     read(copy.database());
 }
 
 Library::~Library()
 {
-    for (const CAlbumGroup &album : albums_)
-        for (const CPhotoData *photo : album.photos)
-            delete photo;
+    destroyRecords(albums_);
 }
 
 void Library::read(const std::string &copy)
 {
     sqlite_error_log::clear();
     const int result = ios_photo_get_list(copy, device_.iosVersion, device_.productType, &albums_);
-    const std::string error = sqlite_error_log::firstError();
-    const std::string what = "'" + database_ + "' is damaged (" + error + ")";
+    const std::string advice = "; copy it from the device or the backup again, its -wal with it";
     if (result != 0)
         throw Failure(CannotRead, "cannot read '" + database_ + "': SQLite error " +
-                                      std::to_string(-result) + "; copy it and try again");
+                                      std::to_string(-result) + advice);
+    const std::string error = sqlite_error_log::firstError();
     if (error.empty())
         return;
-    const std::string advice = "; copy it from the device or the backup again, its -wal with it";
+    const std::string what = "'" + database_ + "' is damaged (" + error + ")";
     if (isWithoutPhotos(albums_))
         throw Failure(CannotRead, what + " and no photo could be read" + advice);
-    notice(what + " and photos are missing here" + advice);
+    damage_ = what + " and photos are missing here" + advice;
     status_ = Incomplete;
+}
+
+void Library::sayHowItWasRead() const
+{
+    sayWhatWasAssumed(wanted_, device_);
+    if (!damage_.empty())
+        notice(damage_);
 }
 
 } // namespace iosphoto::tool

@@ -14,8 +14,8 @@ namespace iosphoto::tool {
 class Library
 {
 public:
-    /// Reads the database through a private copy, which is gone when this returns, and says on
-    /// stderr what it assumed about the device. Throws Failure when the library cannot be read.
+    /// Reads the database through a private copy, which is gone when this returns. Throws Failure
+    /// when the library cannot be read.
     Library(const std::string &database, const Device &wanted);
     ~Library();
     Library(const Library &) = delete;
@@ -28,13 +28,18 @@ public:
     /// Good, or Incomplete when damage cut the reading short.
     ExitStatus status() const { return status_; }
 
+    /// Says on stderr what was assumed about the device, and what is missing.
+    void sayHowItWasRead() const;
+
 private:
     void read(const std::string &copy);
 
     std::string database_;
+    Device wanted_;
     Device device_;
     std::vector<CAlbumGroup> albums_;
     ExitStatus status_ = Good;
+    std::string damage_;
 };
 
 } // namespace iosphoto::tool

@@ -2,6 +2,7 @@
 
 #include "catalogue/album_kinds.h"
 #include "catalogue/album_selection.h"
+#include "catalogue/traits.h"
 #include "output/json_document.h"
 #include "output/text_table.h"
 
@@ -12,34 +13,6 @@
 namespace iosphoto::tool {
 
 namespace {
-
-/// What a photo is or was made: its flag, the word in the table, the key in JSON.
-struct Trait
-{
-    bool CPhotoData::*flag;
-    const char *word;
-    const char *key;
-};
-
-constexpr Trait traits[] = {
-    {&CPhotoData::isVideo, "video", "isVideo"},
-    {&CPhotoData::isTimelapse, "time-lapse", "isTimelapse"},
-    {&CPhotoData::isSlomo, "slo-mo", "isSlomo"},
-    {&CPhotoData::isScreenRecording, "screen recording", "isScreenRecording"},
-    {&CPhotoData::isPanorama, "panorama", "isPanorama"},
-    {&CPhotoData::isBurst, "burst", "isBurst"},
-    {&CPhotoData::isScreenshot, "screenshot", "isScreenshot"},
-    {&CPhotoData::isLivePhoto, "live", "isLivePhoto"},
-    {&CPhotoData::isSelfie, "selfie", "isSelfie"},
-    {&CPhotoData::isPortrait, "portrait", "isPortrait"},
-    {&CPhotoData::isAnimated, "animated", "isAnimated"},
-    {&CPhotoData::isRaw, "RAW", "isRaw"},
-    {&CPhotoData::isProRes, "ProRes", "isProRes"},
-    {&CPhotoData::isFavorite, "favorite", "isFavorite"},
-    {&CPhotoData::isEdited, "edited", "isEdited"},
-    {&CPhotoData::isHidden, "hidden", "isHidden"},
-    {&CPhotoData::isDeleted, "deleted", "isDeleted"},
-};
 
 template <typename Items, typename Text>
 std::string joined(const Items &items, Text text)

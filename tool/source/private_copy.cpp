@@ -3,8 +3,10 @@
 #include "failure.h"
 
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
-#include <stdlib.h>
+#include <unistd.h>
 
 namespace iosphoto::tool {
 
@@ -21,7 +23,7 @@ Failure cannotRead(const fs::path &file, const std::string &reason)
 fs::path resolved(const fs::path &database)
 {
     std::error_code error;
-    const fs::path target = fs::canonical(database, error);
+    fs::path target = fs::canonical(database, error);
     if (error)
         throw cannotRead(database, error.message() + "; check the path");
     const fs::file_status status = fs::status(target, error);
@@ -33,26 +35,38 @@ fs::path resolved(const fs::path &database)
     return target;
 }
 
+/// Why a file cannot be opened for reading; empty if it can.
+std::string unreadableBecause(const fs::path &file)
+{
+    std::FILE *opened = std::fopen(file.c_str(), "rb");
+    if (opened == nullptr)
+        return std::strerror(errno);
+    std::fclose(opened);
+    return {};
+}
+
 void copyFile(const fs::path &from, const fs::path &to)
 {
+    if (const std::string reason = unreadableBecause(from); !reason.empty())
+        throw cannotRead(from, reason + "; run as a user who may read it, or copy it first");
     std::error_code error;
     fs::copy_file(from, to, error);
     if (!error)
         fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write, error);
-    if (error == std::errc::permission_denied)
-        throw cannotRead(from,
-                         error.message() + "; run as a user who may read it, or copy it first");
     if (error)
-        throw cannotRead(from, error.message());
+        throw Failure(CannotRead, "cannot copy '" + from.string() + "' to '" +
+                                      to.parent_path().string() + "': " + error.message() +
+                                      "; set TMPDIR to a folder with room for it");
 }
 
 fs::path makePrivateFolder()
 {
-    std::error_code error;
-    std::string name = (fs::temp_directory_path(error) / "iosphoto-XXXXXX").string();
-    if (error || mkdtemp(name.data()) == nullptr)
-        throw Failure(CannotRead, "cannot make a temporary folder '" + name +
-                                      "': " + (error ? error.message() : std::strerror(errno)) +
+    const char *const wanted = std::getenv("TMPDIR");
+    const fs::path parent = wanted != nullptr && *wanted != '\0' ? wanted : "/tmp";
+    std::string name = (parent / "iosphoto-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr)
+        throw Failure(CannotRead, "cannot make a temporary folder in '" + parent.string() +
+                                      "': " + std::strerror(errno) +
                                       "; set TMPDIR to a folder that can be written");
     return name;
 }
@@ -66,12 +80,17 @@ PrivateCopy::PrivateCopy(const fs::path &database)
     try {
         copy(source);
     } catch (...) {
-        fs::remove_all(folder_);
+        remove();
         throw;
     }
 }
 
 PrivateCopy::~PrivateCopy()
+{
+    remove();
+}
+
+void PrivateCopy::remove() const
 {
     std::error_code ignored;
     fs::remove_all(folder_, ignored);

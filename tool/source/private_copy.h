@@ -20,7 +20,8 @@ public:
     std::string database() const { return (folder_ / "Photos.sqlite").string(); }
 
 private:
-    void copy(const std::filesystem::path &database) const;
+    void copy(const std::filesystem::path &source) const;
+    void remove() const;
 
     std::filesystem::path folder_;
 };

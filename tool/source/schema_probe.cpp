@@ -5,6 +5,8 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -129,11 +131,11 @@ EntityNumbers readEntityNumbers(const Database &database)
 bool statementsFit(const Database &database, const EntityNumbers &numbers, const Device &device)
 {
     const DeviceProfile profile(device.iosVersion, QString::fromStdString(device.productType));
-    for (const StatementTable *table : {&cameraRollStatements, &photoLibraryStatements,
-                                        &userAlbumStatements, &albumContentsStatements})
-        if (!database.prepares(filledIn(choose(*table, profile), numbers)))
-            return false;
-    return true;
+    const StatementTable *const tables[] = {&cameraRollStatements, &photoLibraryStatements,
+                                            &userAlbumStatements, &albumContentsStatements};
+    return std::all_of(std::begin(tables), std::end(tables), [&](const StatementTable *table) {
+        return database.prepares(filledIn(choose(*table, profile), numbers));
+    });
 }
 
 Device completed(const Device &wanted, const KnownSchema &schema)
@@ -172,18 +174,18 @@ Failure noFit(const Database &database, const EntityNumbers &numbers, const std:
 
 } // namespace
 
-Device probe(const std::string &file, const std::string &shownName, const Device &wanted)
+Device probe(const std::string &database, const std::string &shownName, const Device &wanted)
 {
-    const Database database(file, shownName);
-    database.check();
-    if (!isPhotoDatabase(database))
+    const Database opened(database, shownName);
+    opened.check();
+    if (!isPhotoDatabase(opened))
         throw Failure(NotAPhotoDatabase, "'" + shownName +
                                              "' is a SQLite database without a photo library; name "
                                              "the Photos.sqlite of a phone or backup");
-    const EntityNumbers numbers = readEntityNumbers(database);
-    const auto device = findDevice(database, numbers, wanted);
+    const EntityNumbers numbers = readEntityNumbers(opened);
+    const auto device = findDevice(opened, numbers, wanted);
     if (!device)
-        throw noFit(database, numbers, shownName, wanted);
+        throw noFit(opened, numbers, shownName, wanted);
     return *device;
 }
 

@@ -6,37 +6,32 @@ namespace iosphoto::tool::sqlite_error_log {
 
 namespace {
 
-std::string &first()
-{
-    static std::string error;
-    return error;
-}
+int firstCode = SQLITE_OK;
 
 void note(void * /*unused*/, int code, const char * /*details*/)
 {
     constexpr int primaryCode = 0xff;
     const int primary = code & primaryCode;
     const bool isError = primary != SQLITE_NOTICE && primary != SQLITE_WARNING;
-    if (isError && first().empty())
-        first() = sqlite3_errstr(code);
+    if (isError && firstCode == SQLITE_OK)
+        firstCode = code;
 }
 
 } // namespace
 
 void install()
 {
-    first();
     sqlite3_config(SQLITE_CONFIG_LOG, note, nullptr);
 }
 
 void clear()
 {
-    first().clear();
+    firstCode = SQLITE_OK;
 }
 
 std::string firstError()
 {
-    return first();
+    return firstCode != SQLITE_OK ? sqlite3_errstr(firstCode) : "";
 }
 
 } // namespace iosphoto::tool::sqlite_error_log

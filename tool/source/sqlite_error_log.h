@@ -3,11 +3,9 @@
 
 #include <string>
 
-namespace iosphoto::tool {
-
 /// What goes wrong inside SQLite while the library reads. The library's result does not tell a
 /// damaged database from a short one; SQLite's own log does.
-namespace sqlite_error_log {
+namespace iosphoto::tool::sqlite_error_log {
 
 /// To be called before anything uses SQLite.
 void install();
@@ -18,8 +16,6 @@ void clear();
 /// The first error since then, such as "database disk image is malformed"; empty if there was none.
 std::string firstError();
 
-} // namespace sqlite_error_log
-
-} // namespace iosphoto::tool
+} // namespace iosphoto::tool::sqlite_error_log
 
 #endif // IOSPHOTO_TOOL_SQLITE_ERROR_LOG_H

@@ -17,7 +17,7 @@ void DatabaseVisit::Close::operator()(sqlite3 *connection) const
     sqlite3_close(connection);
 }
 
-void DatabaseVisit::Finish::operator()(sqlite3_stmt *statement) const
+DatabaseVisit::Prepared::~Prepared()
 {
     sqlite3_reset(statement);
     sqlite3_finalize(statement);
@@ -32,16 +32,16 @@ DatabaseVisit::DatabaseVisit(const QString &path, const QString &statement) : lo
         failure_ = -opened;
         return;
     }
-    if (!protectSource(connection))
-        return;
-    sqlite3_stmt *prepared = nullptr;
-    sqlite3_prepare_v2(connection, statement.toUtf8().constData(), -1, &prepared, nullptr);
-    statement_.reset(prepared);
+    prepared_.emplace();
+    if (protectSource(connection))
+        sqlite3_prepare_v2(connection, statement.toUtf8().constData(), -1, &prepared_->statement,
+                           nullptr);
 }
 
 bool DatabaseVisit::nextRow()
 {
-    return statement_ != nullptr && sqlite3_step(statement_.get()) == SQLITE_ROW;
+    return prepared_ && prepared_->statement != nullptr &&
+           sqlite3_step(prepared_->statement) == SQLITE_ROW;
 }
 
 } // namespace iosphoto

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -28,22 +29,28 @@ public:
 
     /// Moves to the next row; false at the end and on any error.
     bool nextRow();
-    Row row() const { return Row(statement_.get()); }
+    Row row() const { return Row(prepared_->statement); }
 
 private:
     struct Close
     {
         void operator()(sqlite3 *connection) const;
     };
-    struct Finish
+    /// Resets and finalizes, also what did not prepare: a null pointer is harmless there.
+    struct Prepared
     {
-        void operator()(sqlite3_stmt *statement) const;
+        Prepared() = default;
+        ~Prepared();
+        Prepared(const Prepared &) = delete;
+        Prepared &operator=(const Prepared &) = delete;
+
+        sqlite3_stmt *statement = nullptr;
     };
 
     // Destroyed from the last to the first.
     QMutexLocker lock_;
     std::unique_ptr<sqlite3, Close> connection_;
-    std::unique_ptr<sqlite3_stmt, Finish> statement_;
+    std::optional<Prepared> prepared_;
     int failure_ = 0;
 };
 
