@@ -50,6 +50,8 @@ TEST_P(CameraRollQuery, TakesRowsOfTheAssetEntityAlone)
 }
 
 INSTANTIATE_TEST_SUITE_P(Schemas, CameraRollQuery, testing::ValuesIn(allSchemas), SchemaName());
+INSTANTIATE_TEST_SUITE_P(WithoutProRaw, CameraRollQuery, testing::ValuesIn(schemasWithoutProRaw),
+                         SchemaName());
 
 namespace {
 
@@ -77,13 +79,14 @@ TEST(CameraRollAlbumUuid, IsThatOfAnUntitledAlbumWithTheParentEntityForAKey)
 
 TEST(CameraRollAlbumUuid, IsNotKnownWhereThereIsNoParentEntity)
 {
-    for (const Schema &schema : {ios14, ios15})
+    for (const Schema &schema : {ios14, ios15, withoutProRaw(ios15)})
         EXPECT_EQ(uuidOfUntitledAlbum(schema, schema.asset), "") << schema;
 }
 
 TEST(CameraRollAlbumUuid, NeedsNoKeyOnIos18)
 {
-    EXPECT_EQ(uuidOfUntitledAlbum(ios18, 0), "ALBUM");
+    for (const Schema &schema : {ios18, withoutProRaw(ios18)})
+        EXPECT_EQ(uuidOfUntitledAlbum(schema, 0), "ALBUM") << schema.productType;
 }
 
 TEST(CameraRollAlbumUuid, IsNotThatOfATitledAlbum)
