@@ -140,6 +140,16 @@ AssetRow LibraryBuilder::asset(const Value &fileName)
     return row;
 }
 
+AssetRow LibraryBuilder::cameraRollAsset(const Value &fileName)
+{
+    AssetRow row = asset(fileName);
+    if (!schema_.hasBlobUuids)
+        return row;
+    if (!untitledAlbum_)
+        untitledAlbum_ = album(nullptr);
+    return row.in(*untitledAlbum_);
+}
+
 AlbumRow LibraryBuilder::album(const Value &title)
 {
     return {*this, insertAlbum(schema_.album, title)};

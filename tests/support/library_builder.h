@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -74,6 +75,9 @@ public:
     ~LibraryBuilder();
 
     AssetRow asset(const Value &fileName);
+    /// An asset that the Camera Roll shows on every schema: below iOS 8 an untitled album must hold
+    /// it.
+    AssetRow cameraRollAsset(const Value &fileName);
     AlbumRow album(const Value &title);
     AlbumRow photoStream();
 
@@ -101,6 +105,7 @@ private:
     Schema schema_;
     TemporaryFolder folder_;
     sqlite3 *connection_ = nullptr;
+    std::optional<AlbumRow> untitledAlbum_;
     int assets_ = 0;
     int albums_ = 0;
 };

@@ -40,6 +40,14 @@ constexpr Schema ios18        = {"ios18",         "18.1", "iPhone14,2", 30, 34, 
 constexpr std::array<Schema, 9> allSchemas = {ios6,  ios7,  ios7SubTypes, ios8, ios9,
                                               ios11, ios14, ios15,        ios18};
 
+/// Where models without ProRAW are read with statements of their own, those models.
+constexpr Schema withoutProRaw(Schema schema)
+{
+    schema.productType = "iPhone13,2";
+    return schema;
+}
+constexpr std::array<Schema, 2> schemasWithoutProRaw = {withoutProRaw(ios15), withoutProRaw(ios18)};
+
 inline std::ostream &operator<<(std::ostream &stream, const Schema &schema)
 {
     return stream << schema.name;
