@@ -81,4 +81,12 @@ OwningManager::~OwningManager()
     destroyRecords(albums);
 }
 
+void OwningManager::prepare()
+{
+    SetDefaultAlbum();
+    GetPrimarykeyTabAssetInfo();
+    GetPrimarykeyTabAlbumInfo();
+    GetPrimarykeyTabPhotostreamAlbumInfo();
+}
+
 } // namespace iosphoto::test

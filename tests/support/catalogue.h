@@ -57,6 +57,10 @@ public:
     OwningManager(const std::string &path, const std::string &ios, const std::string &model);
     ~OwningManager() override;
 
+    /// Does what a build does before its first pass: lays the built-in albums down and looks the
+    /// entity numbers up.
+    void prepare();
+
     const CAlbumGroup *smart(AlbumKind::Code kind) const { return findAlbum(albums, kind, true); }
     const CAlbumGroup *plain(AlbumKind::Code kind) const { return findAlbum(albums, kind, false); }
 };
