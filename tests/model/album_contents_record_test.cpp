@@ -1,3 +1,4 @@
+#include "model/core_data_time.h"
 #include "support/album_contents.h"
 #include "support/photo_fields.h"
 
@@ -7,8 +8,6 @@ using namespace iosphoto;
 using namespace iosphoto::test;
 
 namespace {
-
-constexpr std::int64_t epoch = 978307200; // Unix time of 2001-01-01, as Core Data counts from it
 
 /// A library with one asset in one album, and the record that comes of it.
 struct OneAsset
@@ -114,10 +113,10 @@ TEST(AlbumContentsRecord, DateIsTheDayOfCreationOrOfAddingWhereThatIsNegative)
         {-1.0, 86400, "2001-01-02"},
         {-0.5, 86400, "2001-01-01"}, // the fraction is dropped before the sign is asked for
         {-1, -1, "2000-12-31"},
-        {-1, -epoch + 1, "1970-01-01"},
-        {-1, -epoch, "未知"},
-        {-epoch, -epoch - 1, "未知"},
-        {4294967296.0 - epoch, 0, "1970-01-01"},
+        {-1, -coreDataEpoch + 1, "1970-01-01"},
+        {-1, -coreDataEpoch, "未知"},
+        {-coreDataEpoch, -coreDataEpoch - 1, "未知"},
+        {4294967296.0 - coreDataEpoch, 0, "1970-01-01"},
     };
     for (const auto &date : cases) {
         one.asset.set("ZDATECREATED", date.created).set("ZADDEDDATE", date.added);
@@ -145,8 +144,8 @@ TEST_P(AlbumContentsRecordBeforeIos8, TakesTheDayOfCreationForTheDayOfAdding)
     OneAsset one(GetParam());
     one.asset.set("ZDATECREATED", 86400.5);
     EXPECT_EQ(one.record().addedTime, 86400);
-    one.asset.set("ZDATECREATED", -epoch);
-    EXPECT_EQ(one.record().addedTime, -epoch);
+    one.asset.set("ZDATECREATED", -coreDataEpoch);
+    EXPECT_EQ(one.record().addedTime, -coreDataEpoch);
     EXPECT_EQ(one.record().dateText, QString::fromUtf8("未知"));
 }
 

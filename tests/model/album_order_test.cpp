@@ -7,8 +7,6 @@ using namespace iosphoto::test;
 
 namespace {
 
-using Names = std::vector<std::string>;
-
 constexpr const char *importedRoll = "电脑导入相机胶卷";
 constexpr const char *importedLibrary = "电脑导入照片图库";
 
@@ -39,8 +37,8 @@ TEST_F(AlbumOrder, ImportedAlbumsComeThirdAndFourth)
     addUser(importedRoll);
     addUser("C");
     made.finish();
-    EXPECT_EQ(made.names(),
-              (Names{"Roll", "Library", importedRoll, importedLibrary, "A", "B", "C"}));
+    EXPECT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", importedRoll, importedLibrary, "A", "B", "C"}));
 }
 
 TEST_F(AlbumOrder, ImportedPhotoLibraryAloneComesThird)
@@ -50,7 +48,7 @@ TEST_F(AlbumOrder, ImportedPhotoLibraryAloneComesThird)
     addUser("B");
     addUser(importedLibrary, plain);
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", importedLibrary, "A", "B"}));
+    EXPECT_EQ(albumNames(made.albums), (AlbumNames{"Roll", "Library", importedLibrary, "A", "B"}));
 }
 
 TEST_F(AlbumOrder, ImportedCameraRollAloneComesThird)
@@ -59,7 +57,7 @@ TEST_F(AlbumOrder, ImportedCameraRollAloneComesThird)
     addUser("A");
     addUser(importedRoll);
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", importedRoll, "A"}));
+    EXPECT_EQ(albumNames(made.albums), (AlbumNames{"Roll", "Library", importedRoll, "A"}));
 }
 
 TEST_F(AlbumOrder, ImportedCameraRollThatIsThirdStaysAndThePhotoLibraryComesFourth)
@@ -69,7 +67,8 @@ TEST_F(AlbumOrder, ImportedCameraRollThatIsThirdStaysAndThePhotoLibraryComesFour
     addUser("A");
     addUser(importedLibrary, plain);
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", importedRoll, importedLibrary, "A"}));
+    EXPECT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", importedRoll, importedLibrary, "A"}));
 }
 
 TEST_F(AlbumOrder, ImportedAlbumsInPlaceStay)
@@ -79,7 +78,8 @@ TEST_F(AlbumOrder, ImportedAlbumsInPlaceStay)
     addUser(importedLibrary, plain);
     addUser("A");
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", importedRoll, importedLibrary, "A"}));
+    EXPECT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", importedRoll, importedLibrary, "A"}));
 }
 
 TEST_F(AlbumOrder, AlbumsInFrontOfTheirPlaceMoveBehindTheAlbumBeforeIt)
@@ -88,7 +88,7 @@ TEST_F(AlbumOrder, AlbumsInFrontOfTheirPlaceMoveBehindTheAlbumBeforeIt)
     addBuiltIn();
     addUser("A");
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", importedRoll, "Library", "A"}));
+    EXPECT_EQ(albumNames(made.albums), (AlbumNames{"Roll", importedRoll, "Library", "A"}));
 }
 
 TEST_F(AlbumOrder, ImportedCameraRollHasToBeSmart)
@@ -97,7 +97,7 @@ TEST_F(AlbumOrder, ImportedCameraRollHasToBeSmart)
     addUser("A");
     addUser(importedRoll, plain);
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", "A", importedRoll}));
+    EXPECT_EQ(albumNames(made.albums), (AlbumNames{"Roll", "Library", "A", importedRoll}));
 }
 
 TEST_F(AlbumOrder, ImportedPhotoLibraryHasNotToBeSmart)
@@ -106,7 +106,7 @@ TEST_F(AlbumOrder, ImportedPhotoLibraryHasNotToBeSmart)
     addUser("A");
     addUser(importedLibrary, smart);
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", "A", importedLibrary}));
+    EXPECT_EQ(albumNames(made.albums), (AlbumNames{"Roll", "Library", "A", importedLibrary}));
 }
 
 TEST_F(AlbumOrder, ImportedAlbumsHaveToBeUserAlbums)
@@ -116,7 +116,8 @@ TEST_F(AlbumOrder, ImportedAlbumsHaveToBeUserAlbums)
     made.add(AlbumKind::PhotoLibrary, smart, importedRoll);
     made.add(AlbumKind::PhotoLibrary, plain, importedLibrary);
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", "A", importedRoll, importedLibrary}));
+    EXPECT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", "A", importedRoll, importedLibrary}));
 }
 
 TEST_F(AlbumOrder, OfSeveralImportedAlbumsTheFirstThatFitsMoves)
@@ -128,8 +129,8 @@ TEST_F(AlbumOrder, OfSeveralImportedAlbumsTheFirstThatFitsMoves)
     made.albums.back().albumUuid = "first";
     addUser(importedRoll);
     made.finish();
-    EXPECT_EQ(made.names(),
-              (Names{"Roll", "Library", importedRoll, importedRoll, "A", importedRoll}));
+    EXPECT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", importedRoll, importedRoll, "A", importedRoll}));
     EXPECT_EQ(made.albums[2].albumUuid, "first");
 }
 
@@ -153,7 +154,8 @@ TEST_F(AlbumOrder, RecentlyDeletedComesLast)
     made.add(AlbumKind::RecentlyDeleted, smart, "Second deleted");
     addUser("B");
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", "A", "Second deleted", "B", "Deleted"}));
+    EXPECT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", "A", "Second deleted", "B", "Deleted"}));
     EXPECT_EQ(files(&made.albums.back()), (Files{"1.jpg"}));
 }
 
@@ -163,7 +165,7 @@ TEST_F(AlbumOrder, RecentlyDeletedHasToBeSmart)
     made.add(AlbumKind::RecentlyDeleted, plain, "Deleted");
     addUser("A");
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"Roll", "Library", "Deleted", "A"}));
+    EXPECT_EQ(albumNames(made.albums), (AlbumNames{"Roll", "Library", "Deleted", "A"}));
 }
 
 TEST_F(AlbumOrder, EmptyAlbumsOfAllKindsButFourAreDropped)
@@ -171,18 +173,18 @@ TEST_F(AlbumOrder, EmptyAlbumsOfAllKindsButFourAreDropped)
     for (int kind = AlbumKind::CameraRoll; kind <= AlbumKind::AllDeleted; ++kind)
         made.add(static_cast<AlbumKind::Code>(kind), plain, std::to_string(kind).c_str());
     made.finish();
-    EXPECT_EQ(made.names(), (Names{"1", "3", "9", "16"}));
+    EXPECT_EQ(albumNames(made.albums), (AlbumNames{"1", "3", "9", "16"}));
 }
 
 TEST_F(AlbumOrder, AlbumsThatShowSomethingAreKept)
 {
-    Names all;
+    AlbumNames all;
     for (int kind = AlbumKind::CameraRoll; kind <= AlbumKind::AllDeleted; ++kind) {
         all.push_back(std::to_string(kind));
         made.add(static_cast<AlbumKind::Code>(kind), plain, all.back().c_str(), {"1.jpg"});
     }
     made.finish();
-    EXPECT_EQ(made.names(), all);
+    EXPECT_EQ(albumNames(made.albums), all);
 }
 
 TEST_F(AlbumOrder, AlbumsAreNumberedAnewWhereOneWasDropped)
@@ -194,7 +196,8 @@ TEST_F(AlbumOrder, AlbumsAreNumberedAnewWhereOneWasDropped)
     made.add(AlbumKind::Favorites, smart, "Favorites");
     addUser(importedRoll);
     made.finish();
-    ASSERT_EQ(made.names(), (Names{"Roll", "Library", importedRoll, "A", "Deleted"}));
+    ASSERT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", importedRoll, "A", "Deleted"}));
     for (std::size_t i = 0; i < made.albums.size(); ++i)
         EXPECT_EQ(made.albums[i].albumIndex, static_cast<int>(i));
 }
@@ -206,7 +209,8 @@ TEST_F(AlbumOrder, AlbumsKeepTheirNumbersWhereNoneWasDropped)
     addUser(importedLibrary, plain);
     addUser(importedRoll);
     made.finish();
-    ASSERT_EQ(made.names(), (Names{"Roll", "Library", importedRoll, importedLibrary, "Deleted"}));
+    ASSERT_EQ(albumNames(made.albums),
+              (AlbumNames{"Roll", "Library", importedRoll, importedLibrary, "Deleted"}));
     std::vector<int> numbers;
     for (const CAlbumGroup &album : made.albums)
         numbers.push_back(album.albumIndex);
@@ -223,11 +227,9 @@ TEST(AlbumOrderOfALibrary, ImportedAlbumsFollowThePhotoLibraryAndRecentlyDeleted
 
     const Catalogue catalogue(library);
 
-    Names names;
-    for (const CAlbumGroup &album : catalogue.albums)
-        names.push_back(album.albumName.toStdString());
-    EXPECT_EQ(names, (Names{"相机胶卷", "照片图库", importedRoll, importedLibrary, "视频",
-                            "Holiday", "最近删除"}));
-    for (std::size_t i = 0; i < names.size(); ++i)
+    EXPECT_EQ(albumNames(catalogue.albums),
+              (AlbumNames{"相机胶卷", "照片图库", importedRoll, importedLibrary, "视频", "Holiday",
+                          "最近删除"}));
+    for (std::size_t i = 0; i < catalogue.albums.size(); ++i)
         EXPECT_EQ(catalogue.albums[i].albumIndex, static_cast<int>(i));
 }

@@ -7,16 +7,6 @@ using namespace iosphoto::test;
 
 namespace {
 
-using Kinds = std::vector<int>;
-
-Kinds kinds(const std::vector<CAlbumGroup> &albums)
-{
-    Kinds kinds;
-    for (const CAlbumGroup &album : albums)
-        kinds.push_back(album.albumKind);
-    return kinds;
-}
-
 /// A library with a photo for each album that collects on `schema`, so that none is dropped.
 struct CollectedLibrary
 {
@@ -38,10 +28,10 @@ TEST(CatalogueBuild, AlbumsThatCollectStandBetweenTheSmartOnesAndTheUsers)
     made.library.execute("update ZASSET set ZDEPTHTYPE = 1");
     made.library.execute("update ZADDITIONALASSETATTRIBUTES set ZCAMERACAPTUREDEVICE = 1");
     const Catalogue catalogue(made.library);
-    EXPECT_EQ(kinds(catalogue.albums),
-              (Kinds{AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Selfies,
-                     AlbumKind::Portrait, AlbumKind::Panoramas, AlbumKind::Screenshots,
-                     AlbumKind::User, AlbumKind::RecentlyDeleted}));
+    EXPECT_EQ(albumKinds(catalogue.albums),
+              (AlbumKinds{AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Selfies,
+                          AlbumKind::Portrait, AlbumKind::Panoramas, AlbumKind::Screenshots,
+                          AlbumKind::User, AlbumKind::RecentlyDeleted}));
     for (std::size_t i = 2; i < 6; ++i)
         EXPECT_FALSE(catalogue.albums[i].isSmartAlbum) << i;
     EXPECT_EQ(catalogue.plain(AlbumKind::Screenshots)->albumName, QString::fromUtf8("屏幕快照"));
@@ -51,9 +41,9 @@ TEST(CatalogueBuild, Ios8CollectsPanoramasAndScreenshotsUnderTheirOlderName)
 {
     const CollectedLibrary made(ios8);
     const Catalogue catalogue(made.library);
-    EXPECT_EQ(kinds(catalogue.albums),
-              (Kinds{AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Panoramas,
-                     AlbumKind::Screenshots, AlbumKind::User, AlbumKind::RecentlyDeleted}));
+    EXPECT_EQ(albumKinds(catalogue.albums),
+              (AlbumKinds{AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Panoramas,
+                          AlbumKind::Screenshots, AlbumKind::User, AlbumKind::RecentlyDeleted}));
     EXPECT_EQ(catalogue.plain(AlbumKind::Screenshots)->albumName, QString::fromUtf8("屏幕截图"));
 }
 
@@ -63,17 +53,17 @@ TEST(CatalogueBuild, SecondBuildAppendsASecondSetOfAlbums)
     library.asset("IMG_0001.MOV").video();
     OwningManager manager(library);
     EXPECT_EQ(manager.GetPhotoAlbumDatas(), 0);
-    const Kinds once = {AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Videos,
-                        AlbumKind::RecentlyDeleted};
-    EXPECT_EQ(kinds(manager.albums), once);
+    const AlbumKinds once = {AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Videos,
+                             AlbumKind::RecentlyDeleted};
+    EXPECT_EQ(albumKinds(manager.albums), once);
 
     EXPECT_EQ(manager.GetPhotoAlbumDatas(), 0);
 
     // The first Recently Deleted moved to the end once more.
-    EXPECT_EQ(kinds(manager.albums),
-              (Kinds{AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Videos,
-                     AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Videos,
-                     AlbumKind::RecentlyDeleted, AlbumKind::RecentlyDeleted}));
+    EXPECT_EQ(albumKinds(manager.albums),
+              (AlbumKinds{AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Videos,
+                          AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Videos,
+                          AlbumKind::RecentlyDeleted, AlbumKind::RecentlyDeleted}));
     // The first albums of the list take the photos again, the second Camera Roll none.
     EXPECT_EQ(files(&manager.albums[0]), (Files{"IMG_0001.MOV", "IMG_0001.MOV"}));
     EXPECT_EQ(files(&manager.albums[2]), (Files{"IMG_0001.MOV", "IMG_0001.MOV"}));
@@ -118,6 +108,6 @@ TEST(CatalogueBuild, FailedOpenLeavesTheBuiltInAlbumsAsTheyWereLaidDown)
     EXPECT_EQ(manager.GetPhotoAlbumDatas(), -14);
     OwningManager expected(folder.path().string(), "15.0", "iPhone14,2");
     expected.SetDefaultAlbum();
-    EXPECT_EQ(kinds(manager.albums), kinds(expected.albums));
+    EXPECT_EQ(albumKinds(manager.albums), albumKinds(expected.albums));
     EXPECT_EQ(manager.albums.size(), 19U);
 }

@@ -1,3 +1,4 @@
+#include "model/core_data_time.h"
 #include "support/catalogue.h"
 #include "support/photo_fields.h"
 
@@ -27,8 +28,6 @@ public:
 private:
     OwningManager manager_;
 };
-
-constexpr std::int64_t epoch = 978307200; // Unix time of 2001-01-01, as Core Data counts from it
 
 } // namespace
 
@@ -141,14 +140,14 @@ constexpr DateCase dateCases[] = {
     {"NextDay", 86400, 0, "2001-01-02"},
     {"NegativeCreatedUsesAdded", -1, 86400, "2001-01-02"},
     {"FractionBelowZeroUsesAdded", -0.5, 86400, "2001-01-02"},
-    {"AddedIsIgnoredOtherwise", 86400, -epoch, "2001-01-02"},
+    {"AddedIsIgnoredOtherwise", 86400, -coreDataEpoch, "2001-01-02"},
     {"AddedBeforeTheEpoch", -1, -1, "2000-12-31"},
-    {"BothExactlyAtUnixZero", -epoch, -epoch, "未知"},
-    {"AddedBelowUnixZero", -epoch, -epoch - 1, "未知"},
-    {"AddedFractionOfASecondAfterUnixZero", -epoch, -epoch + 0.5, "未知"},
-    {"AddedOneSecondAfterUnixZero", -epoch, -epoch + 1, "1970-01-01"},
-    {"Last32BitSecond", 4294967295.0 - epoch, 0, "2106-02-07"},
-    {"WrapsAfter32Bits", 4294967296.0 - epoch, 0, "1970-01-01"},
+    {"BothExactlyAtUnixZero", -coreDataEpoch, -coreDataEpoch, "未知"},
+    {"AddedBelowUnixZero", -coreDataEpoch, -coreDataEpoch - 1, "未知"},
+    {"AddedFractionOfASecondAfterUnixZero", -coreDataEpoch, -coreDataEpoch + 0.5, "未知"},
+    {"AddedOneSecondAfterUnixZero", -coreDataEpoch, -coreDataEpoch + 1, "1970-01-01"},
+    {"Last32BitSecond", 4294967295.0 - coreDataEpoch, 0, "2106-02-07"},
+    {"WrapsAfter32Bits", 4294967296.0 - coreDataEpoch, 0, "1970-01-01"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Dates, PhotoLibraryDate, testing::ValuesIn(dateCases),
@@ -191,7 +190,7 @@ TEST_P(PhotoLibraryRecordBeforeIos8, TakesTheDayOfCreationForTheDayOfAdding)
     asset.set("ZDATECREATED", -1.5);
     EXPECT_EQ(OnlyRecord(library)->addedTime, -1.5);
     EXPECT_EQ(OnlyRecord(library)->dateText, QStringLiteral("2000-12-31"));
-    asset.set("ZDATECREATED", -epoch);
+    asset.set("ZDATECREATED", -coreDataEpoch);
     EXPECT_EQ(OnlyRecord(library)->dateText, QString::fromUtf8("未知"));
 }
 

@@ -28,19 +28,15 @@ public:
     /// How many albums the table gave.
     std::size_t size() const { return albums.size() - builtIn; }
     const CAlbumGroup &operator[](std::size_t index) const { return albums.at(builtIn + index); }
-    std::vector<std::string> names() const
+    AlbumNames names() const
     {
-        std::vector<std::string> names;
-        for (std::size_t i = 0; i < size(); ++i)
-            names.push_back((*this)[i].albumName.toStdString());
-        return names;
+        const AlbumNames all = albumNames(albums);
+        return {all.begin() + static_cast<std::ptrdiff_t>(builtIn), all.end()};
     }
 
     std::size_t builtIn = 0;
     int result = 0;
 };
-
-using Names = std::vector<std::string>;
 
 } // namespace
 
@@ -57,7 +53,7 @@ TEST_P(UserAlbumsOfEverySchema, AreAppendedInTheTablesOrderBehindWhatIsThere)
     const UserAlbumsRead read(library);
 
     EXPECT_EQ(read.result, 2);
-    ASSERT_EQ(read.names(), (Names{"Holiday", "朋友"}));
+    ASSERT_EQ(read.names(), (AlbumNames{"Holiday", "朋友"}));
     EXPECT_EQ(read[0].albumUuid, holiday.uuid());
     EXPECT_EQ(read[1].albumUuid, friends.uuid());
     EXPECT_TRUE(read[0].isSmartAlbum);
@@ -78,7 +74,7 @@ TEST_P(UserAlbumsOfEverySchema, PhotoStreamIsSmartAndHasANameOfOurs)
 
     const UserAlbumsRead read(library);
 
-    ASSERT_EQ(read.names(), (Names{"我的照片流", "我的照片流"}));
+    ASSERT_EQ(read.names(), (AlbumNames{"我的照片流", "我的照片流"}));
     EXPECT_EQ(read[0].albumUuid, titled.uuid());
     EXPECT_EQ(read[1].albumUuid, untitled.uuid());
     for (std::size_t i = 0; i < read.size(); ++i) {
@@ -101,7 +97,7 @@ TEST_P(UserAlbumsOfEverySchema, RowsOfOtherEntitiesHighKindsOrNoTitleAreLeftOut)
     const UserAlbumsRead read(library);
 
     EXPECT_EQ(read.result, 1);
-    EXPECT_EQ(read.names(), (Names{"Last"}));
+    EXPECT_EQ(read.names(), (AlbumNames{"Last"}));
 }
 
 TEST_P(UserAlbumsOfEverySchema, EmptyTitleKeepsTheKindOfThePhotoLibrary)
@@ -111,7 +107,7 @@ TEST_P(UserAlbumsOfEverySchema, EmptyTitleKeepsTheKindOfThePhotoLibrary)
 
     const UserAlbumsRead read(library);
 
-    ASSERT_EQ(read.names(), (Names{""}));
+    ASSERT_EQ(read.names(), (AlbumNames{""}));
     EXPECT_EQ(read[0].albumKind, AlbumKind::PhotoLibrary);
     EXPECT_TRUE(read[0].isSmartAlbum);
 }
@@ -128,7 +124,7 @@ TEST_P(UserAlbumsOfEverySchema, RowWithAUuidThatIsListedIsCountedButDropped)
     UserAlbumsRead read(library);
 
     EXPECT_EQ(read.result, 3);
-    EXPECT_EQ(read.names(), (Names{"First", "Second"}));
+    EXPECT_EQ(read.names(), (AlbumNames{"First", "Second"}));
     EXPECT_EQ(read.GetPhotoGroups(), 3);
     EXPECT_EQ(read.size(), 2U);
 }
@@ -143,7 +139,7 @@ TEST_P(UserAlbumsOfEverySchema, RowWithoutAUuidIsDroppedAsTheBuiltInAlbumsHaveNo
     const UserAlbumsRead read(library);
 
     EXPECT_EQ(read.result, 3);
-    EXPECT_EQ(read.names(), (Names{"Holiday"}));
+    EXPECT_EQ(read.names(), (AlbumNames{"Holiday"}));
 }
 
 TEST_P(UserAlbumsOfEverySchema, FirstRowWithoutAUuidJoinsAListInWhichAllHaveOne)
@@ -246,7 +242,7 @@ TEST(UserAlbums, TrashedAlbumsAreLeftOutFromIos8On)
     library.album("Kept");
     library.photoStream().set("ZTRASHEDSTATE", 1);
 
-    EXPECT_EQ(UserAlbumsRead(library, "8.0").names(), (Names{"Zero", "Kept"}));
+    EXPECT_EQ(UserAlbumsRead(library, "8.0").names(), (AlbumNames{"Zero", "Kept"}));
     EXPECT_EQ(UserAlbumsRead(library, "7.9.9").size(), 6U);
 }
 

@@ -15,6 +15,12 @@ using Files = std::vector<std::string>;
 /// The file names of an album, in order; none for a null pointer.
 Files files(const CAlbumGroup *album);
 
+using AlbumNames = std::vector<std::string>;
+AlbumNames albumNames(const std::vector<CAlbumGroup> &albums);
+
+using AlbumKinds = std::vector<int>;
+AlbumKinds albumKinds(const std::vector<CAlbumGroup> &albums);
+
 const CAlbumGroup *findAlbum(const std::vector<CAlbumGroup> &albums, AlbumKind::Code kind,
                              bool isSmart);
 

@@ -45,14 +45,6 @@ public:
 
     void finish() { finishCatalogue(albums); }
 
-    std::vector<std::string> names() const
-    {
-        std::vector<std::string> names;
-        for (const CAlbumGroup &album : albums)
-            names.push_back(album.albumName.toStdString());
-        return names;
-    }
-
     std::vector<CAlbumGroup> albums;
 };
 
