@@ -153,7 +153,7 @@ TEST(PhotoData, AssignedToItselfStaysAsItIs)
 
 TEST(PhotoData, CloneCarriesAPictureThatTheHostPutIn)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "minimal");
     char name[] = "test";
     char *arguments[] = {name, nullptr};
     int count = 1;
