@@ -74,7 +74,7 @@ TEST(GetList, ReplacesTheListOnSuccess)
     EXPECT_EQ(ios_photo_get_list(library.path(), "15.0", "iPhone14,2", &albums), 0);
 
     EXPECT_EQ(albumKinds(albums), nothingFound);
-    EXPECT_EQ(files(&albums[0]), (Files{"IMG_0001.JPG"}));
+    EXPECT_EQ(files(&albums.front()), (Files{"IMG_0001.JPG"}));
     destroyRecords(albums);
 }
 

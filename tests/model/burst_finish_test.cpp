@@ -59,7 +59,7 @@ TEST(BurstFinish, PickWithoutABurstIsNotThinnedOut)
     CAlbumGroup &roll = made.add(AlbumKind::CameraRoll, plain, "Roll");
     HandMadeCatalogue::addPhoto(roll, "1.jpg").isBurstPick = 1;
     made.finish();
-    EXPECT_EQ(files(&made.albums[0]), (Files{"1.jpg"}));
+    EXPECT_EQ(files(&made.albums.front()), (Files{"1.jpg"}));
 }
 
 TEST(BurstFinish, AlbumThatThinningEmptiesStaysWithACountOfZero)
@@ -68,7 +68,7 @@ TEST(BurstFinish, AlbumThatThinningEmptiesStaysWithACountOfZero)
     addFrame(made.add(AlbumKind::Selfies, smart, "Selfies"), "1.jpg", "burst", frame);
     made.finish();
     ASSERT_EQ(made.albums.size(), 1U);
-    EXPECT_EQ(files(&made.albums[0]), Files());
+    EXPECT_EQ(files(&made.albums.front()), Files());
     EXPECT_EQ(made.albums[0].albumCount, 0);
 }
 

@@ -65,7 +65,7 @@ TEST(CatalogueBuild, SecondBuildAppendsASecondSetOfAlbums)
                           AlbumKind::CameraRoll, AlbumKind::PhotoLibrary, AlbumKind::Videos,
                           AlbumKind::RecentlyDeleted, AlbumKind::RecentlyDeleted}));
     // The first albums of the list take the photos again, the second Camera Roll none.
-    EXPECT_EQ(files(&manager.albums[0]), (Files{"IMG_0001.MOV", "IMG_0001.MOV"}));
+    EXPECT_EQ(files(&manager.albums.front()), (Files{"IMG_0001.MOV", "IMG_0001.MOV"}));
     EXPECT_EQ(files(&manager.albums[2]), (Files{"IMG_0001.MOV", "IMG_0001.MOV"}));
     EXPECT_EQ(files(&manager.albums[3]), Files());
     EXPECT_EQ(files(&manager.albums[5]), (Files{"IMG_0001.MOV"}));

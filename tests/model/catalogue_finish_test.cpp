@@ -28,7 +28,7 @@ TEST(VideosGathering, FillsEveryVideosAlbumWithCopiesOfItsOwn)
     made.add(AlbumKind::TimeLapse, smart, "Time-lapse", {"t.mov"});
     made.add(AlbumKind::Videos, plain, "Empty videos");
     made.finish();
-    ASSERT_EQ(files(&made.albums[0]), (Files{"v.mov", "t.mov"}));
+    ASSERT_EQ(files(&made.albums.front()), (Files{"v.mov", "t.mov"}));
     ASSERT_EQ(files(&made.albums[2]), (Files{"t.mov"}));
     EXPECT_NE(made.albums[0].photos[1], made.albums[1].photos[0]);
     EXPECT_NE(made.albums[0].photos[1], made.albums[2].photos[0]);

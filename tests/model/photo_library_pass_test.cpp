@@ -28,6 +28,7 @@ public:
 std::vector<std::string> albumUuids(const std::vector<CPhotoData *> &photos)
 {
     std::vector<std::string> uuids;
+    uuids.reserve(photos.size());
     for (const CPhotoData *photo : photos)
         uuids.push_back(photo->albumUuid);
     std::sort(uuids.begin(), uuids.end());
@@ -169,7 +170,7 @@ TEST(PhotoLibraryPass, WithFewerThanTwoAlbumsCountsRowsAndPlacesNone)
     for (const std::size_t albums : {0U, 1U}) {
         OwningManager manager(library);
         manager.prepare();
-        manager.albums.resize(albums);
+        manager.albums = std::vector<CAlbumGroup>(albums); // with no room for a second one
         EXPECT_EQ(manager.GetPhotosAlbum(), 1);
         ASSERT_EQ(manager.albums.size(), albums);
         for (const CAlbumGroup &album : manager.albums)

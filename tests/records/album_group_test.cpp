@@ -21,7 +21,7 @@ struct FilledAlbum
         album.albumKind = iosphoto::AlbumKind::User;
         album.albumName = QStringLiteral("Holiday");
         album.albumUuid = "B0000000-0000-0000-0000-000000000001";
-        album.photos = {&photos[0], &photos[1]};
+        album.photos = {&photos.front(), &photos.back()};
         album.albumId = 5;
         album.isSmartAlbum = true;
     }
@@ -83,7 +83,7 @@ TEST(AlbumGroup, CopyHasAListAndTextsOfItsOwn)
     const CAlbumGroup before(filled.album);
     CAlbumGroup assigned;
     assigned = filled.album;
-    const std::vector<CPhotoData *> photos = {&filled.photos[0], &filled.photos[1]};
+    const std::vector<CPhotoData *> photos = {&filled.photos.front(), &filled.photos.back()};
     change(filled.album);
     for (const CAlbumGroup *copy : {&before, &std::as_const(assigned)}) {
         EXPECT_EQ(copy->albumName, QStringLiteral("Holiday"));
