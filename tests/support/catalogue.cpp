@@ -16,6 +16,22 @@ Files files(const CAlbumGroup *album)
     return names;
 }
 
+AlbumNames albumNames(const std::vector<CAlbumGroup> &albums)
+{
+    AlbumNames names;
+    for (const CAlbumGroup &album : albums)
+        names.push_back(album.albumName.toStdString());
+    return names;
+}
+
+AlbumKinds albumKinds(const std::vector<CAlbumGroup> &albums)
+{
+    AlbumKinds kinds;
+    for (const CAlbumGroup &album : albums)
+        kinds.push_back(album.albumKind);
+    return kinds;
+}
+
 const CAlbumGroup *findAlbum(const std::vector<CAlbumGroup> &albums, AlbumKind::Code kind,
                              bool isSmart)
 {
@@ -79,6 +95,14 @@ OwningManager::OwningManager(const std::string &path, const std::string &ios,
 OwningManager::~OwningManager()
 {
     destroyRecords(albums);
+}
+
+void OwningManager::prepare()
+{
+    SetDefaultAlbum();
+    GetPrimarykeyTabAssetInfo();
+    GetPrimarykeyTabAlbumInfo();
+    GetPrimarykeyTabPhotostreamAlbumInfo();
 }
 
 } // namespace iosphoto::test

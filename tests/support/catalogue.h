@@ -15,6 +15,12 @@ using Files = std::vector<std::string>;
 /// The file names of an album, in order; none for a null pointer.
 Files files(const CAlbumGroup *album);
 
+using AlbumNames = std::vector<std::string>;
+AlbumNames albumNames(const std::vector<CAlbumGroup> &albums);
+
+using AlbumKinds = std::vector<int>;
+AlbumKinds albumKinds(const std::vector<CAlbumGroup> &albums);
+
 const CAlbumGroup *findAlbum(const std::vector<CAlbumGroup> &albums, AlbumKind::Code kind,
                              bool isSmart);
 
@@ -56,6 +62,10 @@ public:
     explicit OwningManager(const LibraryBuilder &library);
     OwningManager(const std::string &path, const std::string &ios, const std::string &model);
     ~OwningManager() override;
+
+    /// Does what a build does before its first pass: lays the built-in albums down and looks the
+    /// entity numbers up.
+    void prepare();
 
     const CAlbumGroup *smart(AlbumKind::Code kind) const { return findAlbum(albums, kind, true); }
     const CAlbumGroup *plain(AlbumKind::Code kind) const { return findAlbum(albums, kind, false); }

@@ -94,9 +94,15 @@ AssetRow &AssetRow::trashedAt(std::int64_t coreDataSeconds)
     return set("ZTRASHEDSTATE", 1).set("ZTRASHEDDATE", coreDataSeconds);
 }
 
+AssetRow &AssetRow::synced()
+{
+    uuidPrefix_ = '0'; // newer schemas tell synced assets by the zeros
+    return set("ZSAVEDASSETTYPE", 256).set("ZUUID", library_->uuidValue(uuidPrefix_, key_));
+}
+
 std::string AssetRow::uuid() const
 {
-    return catalogueUuid(library_->schema_, 'A', key_);
+    return catalogueUuid(library_->schema_, uuidPrefix_, key_);
 }
 
 LibraryBuilder::LibraryBuilder(const Schema &schema) : schema_(schema)
@@ -132,7 +138,7 @@ AssetRow LibraryBuilder::asset(const Value &fileName)
             " (Z_PK, ZASSET, ZORIGINALFILESIZE, ZEMBEDDEDTHUMBNAILHEIGHT) values (" +
             text + ", " + text + ", 1000, 120)");
     AssetRow row(*this, key);
-    row.set("ZFILENAME", fileName).set("ZUUID", uuidValue('A', key));
+    row.set("ZFILENAME", fileName).set("ZUUID", uuidValue(row.uuidPrefix_, key));
     if (schema_.hasGenericAsset())
         row.set("Z" + std::to_string(schema_.assetSuper) + "_ASSET", schema_.asset);
     if (hasColumn(schema_.assetTable(), "ZTRASHEDSTATE"))

@@ -52,6 +52,8 @@ public:
     AssetRow &in(const AlbumRow &album);
     AssetRow &video() { return set("ZUNIFORMTYPEIDENTIFIER", "com.apple.quicktime-movie"); }
     AssetRow &trashedAt(std::int64_t coreDataSeconds);
+    /// Makes it an asset that a computer synced.
+    AssetRow &synced();
     int key() const { return key_; }
     /// The uuid as the catalogue shows it.
     std::string uuid() const;
@@ -62,6 +64,7 @@ private:
 
     LibraryBuilder *library_;
     int key_;
+    char uuidPrefix_ = 'A';
 };
 
 /// Builds a photo database of one schema, row by row, in a temporary folder.

@@ -1,0 +1,176 @@
+#include "memory/failing_allocation.h"
+#include "records/record_ownership.h"
+#include "support/catalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace iosphoto;
+using namespace iosphoto::test;
+
+namespace {
+
+constexpr int outOfMemory = -7;
+
+/// A library in which every pass finds records, some of which are shown nowhere.
+void fill(LibraryBuilder &library)
+{
+    const bool hasTrash = !library.schema().hasBlobUuids;
+    const AlbumRow roll = library.album(hasTrash ? Value("") : Value());
+    const AlbumRow holiday = library.album("An album with a title of some length").set("ZKIND", 1);
+    const AlbumRow stream = library.photoStream();
+    library.asset("IMG_0001.JPG").in(roll).in(holiday).in(stream);
+    library.asset("").in(roll).in(holiday);
+    AssetRow video = library.asset("IMG_0003.MOV").video().in(roll);
+    library.asset("SYNC0004.JPG").synced();
+    library.asset("").synced();
+    if (!hasTrash)
+        return;
+    video.set("ZKINDSUBTYPE", 101);
+    library.asset("IMG_0006.JPG").trashedAt(0);
+    library.asset("IMG_0007.JPG").set("ZAVALANCHEPICKTYPE", 16).set("ZAVALANCHEUUID", "burst");
+    library.asset("IMG_0008.JPG").set("ZAVALANCHEPICKTYPE", 2).set("ZAVALANCHEUUID", "burst");
+    library.asset("IMG_0009.JPG").set("ZCLOUDASSETGUID", "guid").in(stream);
+    library.asset("IMG_0010.PNG").set("ZKINDSUBTYPE", 1).set("ZFAVORITE", 1).in(holiday);
+    library.asset("IMG_0011.JPG").set("ZDATECREATED", -1e9).set("ZADDEDDATE", -1e9).in(roll);
+}
+
+std::size_t recordCount(const std::vector<CAlbumGroup> &albums)
+{
+    std::size_t count = 0;
+    for (const CAlbumGroup &album : albums)
+        count += album.photos.size();
+    return count;
+}
+
+/// What one call did.
+struct Call
+{
+    int result = 0;
+    std::size_t records = 0;
+    bool isListUntouched = false;
+    bool hasFailed = false;
+    long leaked = 0; ///< blocks
+};
+
+/// Calls with the n-th allocation failing, or with none for 0.
+Call callFailing(const std::string &file, const char *ios, const char *model, long number)
+{
+    Call call;
+    const long before = liveAllocations();
+    {
+        std::string path = file;
+        std::string iosVersion = ios;
+        std::string productType = model;
+        std::vector<CAlbumGroup> albums(1);
+        const CAlbumGroup *const storage = albums.data();
+        {
+            const FailingAllocation failing(number);
+            call.result = ios_photo_get_list(std::move(path), std::move(iosVersion),
+                                             std::move(productType), &albums);
+            call.hasFailed = failing.hasFailed();
+        }
+        call.isListUntouched = albums.data() == storage && albums.size() == 1;
+        call.records = recordCount(albums);
+        destroyRecords(albums);
+    }
+    call.leaked = liveAllocations() - before;
+    return call;
+}
+
+class MemoryOfEverySchema : public testing::TestWithParam<Schema>
+{
+protected:
+    MemoryOfEverySchema() : library_(GetParam())
+    {
+        fill(library_);
+        path_ = library_.path();
+        folder_ = library_.folder().string();
+        // Whatever is allocated once and kept is allocated now.
+        call(path_);
+        call(folder_);
+    }
+
+    Call call(const std::string &file, long failing = 0) const
+    {
+        return callFailing(file, GetParam().iosVersion, GetParam().productType, failing);
+    }
+    int callWithoutList(const std::string &file) const
+    {
+        return ios_photo_get_list(file, GetParam().iosVersion, GetParam().productType, nullptr);
+    }
+
+    LibraryBuilder library_;
+    std::string path_;
+    std::string folder_;
+};
+
+} // namespace
+
+TEST_P(MemoryOfEverySchema, RecordsOfACatalogueAreTheCallersAndNothingElseIsLeft)
+{
+    const Call success = call(path_);
+    EXPECT_EQ(success.result, 0);
+    EXPECT_GT(success.records, 4U);
+    EXPECT_EQ(success.leaked, 0);
+}
+
+TEST_P(MemoryOfEverySchema, RecordsAreDestroyedWhereThereIsNoList)
+{
+    const long before = liveAllocations();
+    const int result = callWithoutList(path_);
+    const long leaked = liveAllocations() - before;
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(leaked, 0);
+}
+
+TEST_P(MemoryOfEverySchema, FailedOpenLeavesNothing)
+{
+    EXPECT_EQ(call(folder_).result, -14);
+    EXPECT_EQ(call(folder_).leaked, 0);
+    const long before = liveAllocations();
+    callWithoutList(folder_);
+    EXPECT_EQ(liveAllocations() - before, 0);
+}
+
+TEST_P(MemoryOfEverySchema, LackOfMemoryAtAnyMomentGivesItsCodeAndLeavesNothing)
+{
+    const Call complete = call(path_);
+    long number = 1;
+    for (;; ++number) {
+        SCOPED_TRACE(testing::Message() << "allocation " << number);
+        const Call attempt = call(path_, number);
+        ASSERT_EQ(attempt.leaked, 0);
+        if (!attempt.hasFailed) {
+            EXPECT_EQ(attempt.result, 0);
+            break;
+        }
+        if (attempt.result == 0) { // could do without
+            ASSERT_EQ(attempt.records, complete.records);
+        } else {
+            ASSERT_EQ(attempt.result, outOfMemory);
+            ASSERT_TRUE(attempt.isListUntouched);
+        }
+    }
+    EXPECT_GT(number, static_cast<long>(complete.records)); // each record failed once
+}
+
+TEST_P(MemoryOfEverySchema, LackOfMemoryLeavesNoBuiltInAlbumsHalfLaidDown)
+{
+    OwningManager manager(library_);
+    long number = 1;
+    for (;; ++number) {
+        const FailingAllocation failing(number);
+        const int result = manager.SetDefaultAlbum();
+        if (!failing.hasFailed()) {
+            EXPECT_EQ(result, 0);
+            break;
+        }
+        ASSERT_EQ(result, outOfMemory) << "allocation " << number;
+        ASSERT_TRUE(manager.albums.empty()) << "allocation " << number;
+    }
+    EXPECT_GT(number, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Schemas, MemoryOfEverySchema, testing::ValuesIn(allSchemas), SchemaName());
