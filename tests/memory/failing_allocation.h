@@ -20,6 +20,22 @@ public:
     bool hasFailed() const;
 };
 
+/// Makes the malloc of that number fail while it lives, whoever calls it: strings of Qt and SQLite
+/// ask malloc, not operator new.
+class FailingMalloc
+{
+public:
+    explicit FailingMalloc(long number);
+    ~FailingMalloc();
+    FailingMalloc(const FailingMalloc &) = delete;
+    FailingMalloc &operator=(const FailingMalloc &) = delete;
+
+    bool hasFailed() const;
+
+    /// False where malloc cannot be replaced: under a sanitizer, and without the GNU C library.
+    static bool isPossible();
+};
+
 } // namespace iosphoto::test
 
 #endif // IOSPHOTO_TESTS_FAILING_ALLOCATION_H

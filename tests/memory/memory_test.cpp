@@ -2,6 +2,7 @@
 #include "records/record_ownership.h"
 #include "support/catalogue.h"
 
+#include <QtGlobal>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -55,6 +56,7 @@ struct Call
 };
 
 /// Calls with the n-th allocation failing, or with none for 0.
+template <typename Failing>
 Call callFailing(const std::string &file, const char *ios, const char *model, long number)
 {
     Call call;
@@ -66,7 +68,7 @@ Call callFailing(const std::string &file, const char *ios, const char *model, lo
         std::vector<CAlbumGroup> albums(1);
         const CAlbumGroup *const storage = albums.data();
         {
-            const FailingAllocation failing(number);
+            const Failing failing(number);
             call.result = ios_photo_get_list(std::move(path), std::move(iosVersion),
                                              std::move(productType), &albums);
             call.hasFailed = failing.hasFailed();
@@ -92,9 +94,10 @@ protected:
         call(folder_);
     }
 
+    template <typename Failing = FailingAllocation>
     Call call(const std::string &file, long failing = 0) const
     {
-        return callFailing(file, GetParam().iosVersion, GetParam().productType, failing);
+        return callFailing<Failing>(file, GetParam().iosVersion, GetParam().productType, failing);
     }
     int callWithoutList(const std::string &file) const
     {
@@ -171,6 +174,29 @@ TEST_P(MemoryOfEverySchema, LackOfMemoryLeavesNoBuiltInAlbumsHalfLaidDown)
         ASSERT_TRUE(manager.albums.empty()) << "allocation " << number;
     }
     EXPECT_GT(number, 1);
+}
+
+TEST_P(MemoryOfEverySchema, FailureOfAnyMallocIsSurvived)
+{
+    if (!FailingMalloc::isPossible())
+        GTEST_SKIP() << "malloc cannot be replaced here";
+    const QtMessageHandler shown =
+        qInstallMessageHandler([](QtMsgType /*type*/, const QMessageLogContext & /*context*/,
+                                  const QString & /*text*/) {});
+    library_.asset("550F4600-492B-4411-8A64-D3FC5131659B.JPG"); // one that is traced
+    call(path_);
+    constexpr long stride = 31; // of some six thousand; every one of them takes minutes
+    for (long number = 1;; number += stride) {
+        SCOPED_TRACE(testing::Message() << "malloc " << number);
+        const Call attempt = call<FailingMalloc>(path_, number);
+        ASSERT_EQ(attempt.leaked, 0);
+        if (!attempt.hasFailed)
+            break;
+        // SQLite's lack of memory while it reads is the end of the rows, as any error is.
+        ASSERT_TRUE(attempt.result == 0 || attempt.result == outOfMemory) << attempt.result;
+        ASSERT_EQ(attempt.result != 0, attempt.isListUntouched);
+    }
+    qInstallMessageHandler(shown);
 }
 
 INSTANTIATE_TEST_SUITE_P(Schemas, MemoryOfEverySchema, testing::ValuesIn(allSchemas), SchemaName());
