@@ -104,6 +104,12 @@ TEST(GetList, PathWithoutAFileGivesTheBuiltInAlbumsThatAreNeverDropped)
     expectNothingFound(Catalogue((folder / "Photos.sqlite").string(), "15.0", "iPhone14,2"));
 }
 
+TEST(GetList, NamesThatMeanADatabaseInMemoryGiveTheBuiltInAlbumsThatAreNeverDropped)
+{
+    for (const char *name : {"", ":memory:"})
+        expectNothingFound(Catalogue(name, "15.0", "iPhone14,2"));
+}
+
 TEST(GetList, FileThatIsNoDatabaseGivesTheBuiltInAlbumsThatAreNeverDropped)
 {
     const TemporaryFolder folder;

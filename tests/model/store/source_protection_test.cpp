@@ -163,6 +163,19 @@ TEST_P(SourceProtection, LogBesideTheTargetOfALinkIsReadAndKept)
     EXPECT_EQ(contentsOf(elsewhere.path()).size(), 1U);
 }
 
+TEST_P(SourceProtection, LogIsKeptWhenThePathIsRelative)
+{
+    const Evidence evidence = Evidence::withLog();
+    const Contents before = evidence.contents();
+    const fs::path here = fs::current_path();
+    fs::current_path(evidence.folder());
+
+    EXPECT_EQ(photosIn("Photos.sqlite"), (Files{"IMG_0001.JPG", "IMG_0002.JPG"}));
+
+    fs::current_path(here);
+    expectUnchanged(before, evidence.contents(), {"Photos.sqlite-shm"});
+}
+
 TEST_P(SourceProtection, NothingIsLeftWhereNoLogWas)
 {
     for (const Evidence &evidence : {Evidence::withoutLog(), Evidence::inRollbackMode()}) {
