@@ -17,6 +17,8 @@ void DatabaseVisit::Close::operator()(sqlite3 *connection) const
     sqlite3_close(connection);
 }
 
+DatabaseVisit::Prepared::Prepared() = default;
+
 DatabaseVisit::Prepared::~Prepared()
 {
     sqlite3_reset(statement);

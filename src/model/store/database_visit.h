@@ -39,7 +39,7 @@ private:
     /// Resets and finalizes, also what did not prepare: a null pointer is harmless there.
     struct Prepared
     {
-        Prepared() = default;
+        Prepared();
         ~Prepared();
         Prepared(const Prepared &) = delete;
         Prepared &operator=(const Prepared &) = delete;
