@@ -1,5 +1,6 @@
 # Installs the build into an empty folder, builds the host against it, as its author would, and runs
-# it on a database. cmake -DBUILD=... -DSOURCE=... -DFOLDER=... -DSCHEMA=... -DFLAGS=... -P check.cmake
+# it on a database. cmake -DBUILD=... -DSOURCE=... -DFOLDER=... -DSCHEMA=... -DFLAGS=...
+# -DGENERATOR=... -DCOMPILER=... -P check.cmake
 function(run)
     execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output
                     ERROR_VARIABLE output)
@@ -14,7 +15,8 @@ file(GLOB headers RELATIVE ${FOLDER}/prefix/include ${FOLDER}/prefix/include/*/*
 if(NOT headers STREQUAL "iosphoto/ios_photo.h;iosphoto/model_devicephoto_dbmgr.h")
     message(FATAL_ERROR "installed headers: ${headers}")
 endif()
-run(${CMAKE_COMMAND} -S ${SOURCE} -B ${FOLDER}/host -DCMAKE_PREFIX_PATH=${FOLDER}/prefix
+run(${CMAKE_COMMAND} -G ${GENERATOR} -S ${SOURCE} -B ${FOLDER}/host
+    -DCMAKE_CXX_COMPILER=${COMPILER} -DCMAKE_PREFIX_PATH=${FOLDER}/prefix
     -DCMAKE_CXX_FLAGS=${FLAGS})
 run(${CMAKE_COMMAND} --build ${FOLDER}/host)
 run(${CMAKE_COMMAND} -E rm -f ${FOLDER}/Photos.sqlite)

@@ -18,6 +18,11 @@ struct RealLibrary
     const char *iosVersion;
 };
 
+std::ostream &operator<<(std::ostream &stream, const RealLibrary &library)
+{
+    return stream << library.name;
+}
+
 constexpr RealLibrary realLibraries[] = {
     {"ios13_a", "13.7"}, {"ios14_a", "14.8"}, {"ios15_a", "15.7"},
     {"ios16_a", "16.5"}, {"ios18_a", "18.1"},

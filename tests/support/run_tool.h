@@ -2,6 +2,7 @@
 #define IOSPHOTO_TESTS_RUN_TOOL_H
 
 #include <map>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -27,6 +28,10 @@ using Environment = std::map<std::string, std::string>;
 
 /// Runs the tool with no input, in our environment with these variables set besides.
 ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment = {});
+
+/// Runs the tool as a user without special rights; nothing where this process may not do that, or
+/// the other user may not run the tool.
+std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &arguments);
 
 } // namespace iosphoto::test
 

@@ -1,5 +1,4 @@
 #include "support/library_builder.h"
-#include "support/plain_user.h"
 #include "support/run_tool.h"
 
 #include <gmock/gmock.h>
@@ -82,17 +81,13 @@ TEST_F(ToolBadInput, PathThatNamesNoFile)
 
 TEST_F(ToolBadInput, FileThatThisUserMayNotRead)
 {
-    const PlainUser user;
-    if (!user.isPlain())
-        GTEST_SKIP() << "this process may not become another user";
-    const TemporaryFolder folder;
-    const fs::path secret = folder / "Photos.sqlite";
+    const fs::path secret = folder_ / "Photos.sqlite";
     writeFile(secret, "secret");
     fs::permissions(secret, fs::perms::none);
-    const ToolRun run = runTool({"albums", secret.string()});
-    if (run.status == 127)
-        GTEST_SKIP() << "the other user may not run the tool";
-    expectFailure(run, "cannot read " + quoted(secret) + ": Permission denied; run as a user", 3);
+    const auto run = runToolAsPlainUser({"albums", secret.string()});
+    if (!run)
+        GTEST_SKIP() << "no other user can run the tool here";
+    expectFailure(*run, "cannot read " + quoted(secret) + ": Permission denied; run as a user", 3);
 }
 
 TEST_F(ToolBadInput, FileThatIsNoPhotoDatabase)
