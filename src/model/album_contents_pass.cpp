@@ -1,9 +1,7 @@
 #include "model/albums_by_uuid.h"
 #include "model/asset_codes.h"
 #include "model/asset_row_decoder.h"
-#include "model/model_devicephoto_dbmgr.h"
-#include "model/statement_tables.h"
-#include "model/store/database_visit.h"
+#include "model/read_rows.h"
 #include "no_throw.h"
 #include "records/record_ownership.h"
 
@@ -137,9 +135,8 @@ int QDevPhotoDbMgr::GetPhotoDatas()
         const DeviceProfile device(iosVersion, productType);
         const AlbumContentsPass pass(albums, device);
         int memberships = 0;
-        const int rows = visitRows(
-            dataPath, filledIn(choose(albumContentsStatements, device), entityNumbers(*this)),
-            [&](const Row &row) { memberships += pass.take(row) ? 1 : 0; });
+        const int rows = readRows(*this, albumContentsStatements, device,
+                                  [&](const Row &row) { memberships += pass.take(row) ? 1 : 0; });
         return rows < 0 ? rows : memberships;
     });
 }

@@ -4,10 +4,8 @@
 #include "model/asset_trace.h"
 #include "model/bursts.h"
 #include "model/camera_roll_columns.h"
-#include "model/model_devicephoto_dbmgr.h"
+#include "model/read_rows.h"
 #include "model/smart_album_rules.h"
-#include "model/statement_tables.h"
-#include "model/store/database_visit.h"
 #include "no_throw.h"
 #include "records/record_ownership.h"
 
@@ -103,8 +101,7 @@ int QDevPhotoDbMgr::GetCameraAlbum()
     return withoutThrowing([this] {
         const DeviceProfile device(iosVersion, productType);
         const CameraRollPass pass(albums, device);
-        return visitRows(dataPath,
-                         filledIn(choose(cameraRollStatements, device), entityNumbers(*this)),
-                         [&](const Row &row) { pass.take(row); });
+        return readRows(*this, cameraRollStatements, device,
+                        [&](const Row &row) { pass.take(row); });
     });
 }

@@ -1,8 +1,6 @@
 #include "model/album_names.h"
 #include "model/asset_row_decoder.h"
-#include "model/model_devicephoto_dbmgr.h"
-#include "model/statement_tables.h"
-#include "model/store/database_visit.h"
+#include "model/read_rows.h"
 #include "no_throw.h"
 #include "records/record_ownership.h"
 
@@ -38,12 +36,10 @@ int QDevPhotoDbMgr::GetPhotosAlbum()
     return withoutThrowing([this] {
         const DeviceProfile device(iosVersion, productType);
         const AssetRowDecoder decoder(layout, device, tr(album_names::photoLibrary));
-        return visitRows(dataPath,
-                         filledIn(choose(photoLibraryStatements, device), entityNumbers(*this)),
-                         [&](const Row &row) {
-                             std::unique_ptr<CPhotoData> photo = decoder.decode(row);
-                             if (!photo->fileName.isEmpty() && albums.size() > photoLibraryIndex)
-                                 append(albums[photoLibraryIndex], std::move(photo));
-                         });
+        return readRows(*this, photoLibraryStatements, device, [&](const Row &row) {
+            std::unique_ptr<CPhotoData> photo = decoder.decode(row);
+            if (!photo->fileName.isEmpty() && albums.size() > photoLibraryIndex)
+                append(albums[photoLibraryIndex], std::move(photo));
+        });
     });
 }

@@ -1,9 +1,7 @@
 #include "model/album_names.h"
 #include "model/albums_by_uuid.h"
-#include "model/model_devicephoto_dbmgr.h"
+#include "model/read_rows.h"
 #include "model/row_columns.h"
-#include "model/statement_tables.h"
-#include "model/store/database_visit.h"
 #include "no_throw.h"
 
 #include <cstring>
@@ -66,14 +64,12 @@ int QDevPhotoDbMgr::GetPhotoGroups()
         const QString photoStreamName = tr(album_names::photoStream);
         // The built-in albums have no uuid, so an album of the table without one is a duplicate.
         AlbumsByUuid known(albums);
-        return visitRows(dataPath,
-                         filledIn(choose(userAlbumStatements, device), entityNumbers(*this)),
-                         [&](const Row &row) {
-                             CAlbumGroup album = readAlbum(row, device.ios, photoStreamName);
-                             if (!known.add(album.albumUuid, albums.size()))
-                                 return;
-                             album.albumIndex = static_cast<std::int32_t>(albums.size());
-                             albums.push_back(std::move(album));
-                         });
+        return readRows(*this, userAlbumStatements, device, [&](const Row &row) {
+            CAlbumGroup album = readAlbum(row, device.ios, photoStreamName);
+            if (!known.add(album.albumUuid, albums.size()))
+                return;
+            album.albumIndex = static_cast<std::int32_t>(albums.size());
+            albums.push_back(std::move(album));
+        });
     });
 }
