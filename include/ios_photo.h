@@ -161,8 +161,8 @@ public:
 /// leave a `-shm` there; where none does nothing is left, except for a database in write-ahead-log
 /// mode that this user may not write (an empty `-wal` and a `-shm`). Where reading alone would
 /// change a file, nothing is read and the catalogue is empty: a database of 0 bytes with a log or
-/// journal beside it, and one whose `-journal` holds an unfinished change that SQLite would roll
-/// back (read a copy of both files instead).
+/// journal beside it, and one whose `-journal` holds the change of a writer that died, which SQLite
+/// would roll back (read a copy of both files instead).
 ///
 /// @param databasePath  UTF-8 path of the database file, such as ".../PhotoData/Photos.sqlite".
 /// @param iosVersion    dotted decimal, such as "15.7"; it chooses the statements. Those of iOS 6

@@ -21,12 +21,21 @@ bool isEmpty(const char *file)
     return std::filesystem::file_size(file, error) == 0 && !error;
 }
 
-/// Whether SQLite would roll an unfinished change back: a journal that is done with starts with a
-/// zero byte or is empty.
-bool isHotJournal(const char *journal)
+/// Whether a journal holds something: one that is done with starts with a zero byte or is empty.
+bool holdsAChange(const char *journal)
 {
     const int firstByte = std::ifstream(journal, std::ios::binary).get();
     return firstByte != std::ifstream::traits_type::eof() && firstByte != 0;
+}
+
+/// Whether somebody is at work on the database, who will see to the journal himself.
+bool isBeingWritten(sqlite3 *connection)
+{
+    sqlite3_file *file = nullptr;
+    sqlite3_file_control(connection, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    int isReserved = 0;
+    return file != nullptr && file->pMethods != nullptr &&
+           file->pMethods->xCheckReservedLock(file, &isReserved) == SQLITE_OK && isReserved != 0;
 }
 
 } // namespace
@@ -41,10 +50,13 @@ bool protectSource(sqlite3 *connection)
     // Without a log the setting would leave an empty one behind.
     if (hasLog)
         sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    const bool isWithoutPages = isEmpty(database);
+    if (isWithoutPages && hasLog) // SQLite would delete the log as left over
+        return false;
+    // Left by a writer that died, a journal would be rolled back, or deleted beside an empty file.
     const char *const journal = sqlite3_filename_journal(database);
-    if (isEmpty(database)) // its log or journal would be deleted as left over
-        return !hasLog && !exists(journal);
-    return !isHotJournal(journal);
+    const bool wouldBeTouched = isWithoutPages ? exists(journal) : holdsAChange(journal);
+    return !wouldBeTouched || isBeingWritten(connection);
 }
 
 } // namespace iosphoto

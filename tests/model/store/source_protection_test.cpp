@@ -206,6 +206,23 @@ TEST_P(SourceProtection, UnfinishedChangeIsNotRolledBack)
     EXPECT_EQ(evidence.contents(), before);
 }
 
+TEST_P(SourceProtection, ChangeThatIsBeingMadeIsNotSeenAndNotDisturbed)
+{
+    LibraryBuilder library(ios15);
+    fs::permissions(library.path(), fs::perms(0666));
+    library.asset("IMG_0001.JPG");
+    library.execute("begin");
+    library.asset("UNFINISHED.JPG");
+    const std::string journal = readFile(library.path() + "-journal");
+    ASSERT_FALSE(journal.empty());
+
+    EXPECT_EQ(photosIn(library.path()), (Files{"IMG_0001.JPG"}));
+
+    EXPECT_EQ(readFile(library.path() + "-journal"), journal);
+    library.execute("commit");
+    EXPECT_EQ(photosIn(library.path()), (Files{"IMG_0001.JPG", "UNFINISHED.JPG"}));
+}
+
 TEST_P(SourceProtection, JournalThatIsDoneWithDoesNotMatter)
 {
     const Evidence evidence = Evidence::inRollbackMode();
