@@ -1,6 +1,7 @@
 /// @file
 /// The public face of iosphoto: reads the photo library of an iOS device from its photo database
-/// and returns the catalogue of albums with the metadata of their photos.
+/// and returns the catalogue of albums with the metadata of their photos; decodes single pictures
+/// out of thumbnail caches.
 ///
 /// The database is only read. Neither it nor the write-ahead log (`-wal`) beside it is changed; see
 /// ios_photo_get_list() for the files that SQLite may leave next to them.
@@ -11,18 +12,14 @@
 #ifndef IOSPHOTO_IOS_PHOTO_H
 #define IOSPHOTO_IOS_PHOTO_H
 
+#include "iosphoto_export.h"
+
 #include <QPixmap>
 #include <QString>
 
 #include <cstdint>
 #include <string>
 #include <vector>
-
-#if defined(__GNUC__)
-#define IOSPHOTO_EXPORT __attribute__((visibility("default")))
-#else
-#define IOSPHOTO_EXPORT
-#endif
 
 namespace iosphoto {
 
@@ -179,5 +176,25 @@ public:
 ///         albums that are never dropped, empty.
 IOSPHOTO_EXPORT int ios_photo_get_list(std::string databasePath, std::string iosVersion,
                                        std::string productType, std::vector<CAlbumGroup> *albums);
+
+/// Decodes one thumbnail out of a cache (`.ithmb`) into a complete BMP image of 16-bit pixels.
+///
+/// For a grid that shows an asset: `index` is its CPhotoData::thumbnailIndex. The file is opened,
+/// its format found by the record asked for, and nothing but that record and the ends of a few
+/// others is read. Nothing is kept. Thread-safe, without a lock. Nothing is thrown.
+///
+/// @param cacheFile  path of the cache as the file system has it. It is only read.
+/// @param index      number of the record, from 0
+/// @param buffer     the caller's, 55,178 bytes. Only the bytes of the image are written.
+/// @param width      [out] of the thumbnail, in pixels. The image of a format with pictures of one
+///                   size is larger than a thumbnail that does not fill it; its header says by how
+///                   much.
+/// @param height     [out] likewise
+/// @param size       [out] bytes of the image. This and the other two keep their values when there
+///                   is nothing to decode: set it to 0 before the call to tell.
+/// @return -1 for a negative index or a null pointer; otherwise 0, also when the file cannot be
+///         opened, is no cache, or has no such record
+IOSPHOTO_EXPORT int ios_photo_get_thumb(const char *cacheFile, int index, char *buffer, int &width,
+                                        int &height, int &size);
 
 #endif // IOSPHOTO_IOS_PHOTO_H

@@ -1,5 +1,6 @@
 #include "ios_photo.h"
 
+#include "ithmb/ithmb.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "no_throw.h"
 #include "records/record_ownership.h"
@@ -19,4 +20,13 @@ int ios_photo_get_list(std::string databasePath, std::string iosVersion, std::st
             iosphoto::destroyRecords(manager.albums);
         return result;
     });
+}
+
+int ios_photo_get_thumb(const char *cacheFile, int index, char *buffer, int &width, int &height,
+                        int &size)
+{
+    if (index < 0 || cacheFile == nullptr || buffer == nullptr)
+        return -1;
+    GetBmp(cacheFile, index, buffer, size, width, height);
+    return 0;
 }
