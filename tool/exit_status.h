@@ -9,8 +9,9 @@ enum ExitStatus {
     Incomplete = 1,        ///< read, but something is missing from what was shown
     WrongUsage = 2,        ///< the command line is wrong
     CannotRead = 3,        ///< a file cannot be opened, read or written
-    NotAPhotoDatabase = 4, ///< the file is something else
+    NotAPhotoDatabase = 4, ///< the file is something else, or not a thumbnail cache
     SchemaDoesNotFit = 5,  ///< a photo database, but of no known schema or not of the given iOS
+    Interrupted = 130,     ///< by Ctrl-C or another signal to end
 };
 
 } // namespace iosphoto::tool

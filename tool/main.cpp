@@ -1,5 +1,6 @@
 #include "commands/albums.h"
 #include "commands/photos.h"
+#include "commands/thumb.h"
 #include "failure.h"
 #include "output/notice.h"
 #include "source/sqlite_error_log.h"
@@ -73,6 +74,33 @@ int showPhotos(const Options &options)
     return library.status();
 }
 
+/// Adds the command that reads a thumbnail cache.
+CLI::App &addThumb(CLI::App &app, ThumbRequest &request)
+{
+    CLI::App &thumb =
+        *app.add_subcommand("thumb", "List or write the pictures of a thumbnail cache");
+    thumb
+        .add_option("CACHE", request.cache, "thumbnail cache, such as .../Thumbnails/120x120.ithmb")
+        ->required();
+    CLI::Option *output = thumb.add_option("-o,--output", request.output,
+                                           "file (--index) or folder (--all) to write");
+    CLI::Option *index = thumb.add_option("--index", request.index, "write this thumbnail")
+                             ->check(CLI::NonNegativeNumber)
+                             ->needs(output);
+    CLI::Option *all = thumb.add_flag("--all", request.all, "write all thumbnails")
+                           ->needs(output)
+                           ->excludes(index);
+    thumb.add_flag("--png", request.asPng, "write PNG files instead of BMP")->needs(all);
+    thumb.add_option("--sheet", request.sheet, "draw all on a contact sheet, a PNG file")
+        ->excludes(index, all, output);
+    thumb.add_flag("--json", request.asJson, "print a JSON document");
+    thumb.footer("Examples:\n  iosphoto thumb 120x120.ithmb\n"
+                 "  iosphoto thumb 120x120.ithmb --index 7 -o photo.png\n"
+                 "  iosphoto thumb 120x120.ithmb --all -o thumbnails\n"
+                 "  iosphoto thumb 120x120.ithmb --sheet sheet.png");
+    return thumb;
+}
+
 /// Parses and runs a command.
 int run(int argumentCount, char **arguments)
 {
@@ -90,6 +118,8 @@ int run(int argumentCount, char **arguments)
                       "only the albums of this name, kind (such as selfies) or uuid");
     photos.footer("Examples:\n  iosphoto photos Photos.sqlite --album favorites\n"
                   "  iosphoto photos Photos.sqlite --album \"Summer 2019\" --json");
+    ThumbRequest thumbRequest;
+    CLI::App &thumb = addThumb(app, thumbRequest);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {
@@ -97,6 +127,8 @@ int run(int argumentCount, char **arguments)
             return app.exit(error);
         throw Failure(WrongUsage, std::string(error.what()) + "; see iosphoto --help");
     }
+    if (thumb.parsed())
+        return showThumbnails(thumbRequest, std::cout);
     return albums.parsed() ? showAlbums(options) : showPhotos(options);
 }
 

@@ -1,9 +1,9 @@
 #include "source/private_copy.h"
 
 #include "failure.h"
+#include "source/source_file.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <unistd.h>
@@ -14,41 +14,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-Failure cannotRead(const fs::path &file, const std::string &reason)
-{
-    return {CannotRead, "cannot read '" + file.string() + "': " + reason};
-}
-
-/// The database with links resolved: the files beside it lie beside the link's target.
-fs::path resolved(const fs::path &database)
-{
-    std::error_code error;
-    fs::path target = fs::canonical(database, error);
-    if (error)
-        throw cannotRead(database, error.message() + "; check the path");
-    const fs::file_status status = fs::status(target, error);
-    if (fs::is_directory(status))
-        throw cannotRead(
-            database, "it is a folder; name the database in it, such as PhotoData/Photos.sqlite");
-    if (!fs::is_regular_file(status))
-        throw cannotRead(database, "it is not a file");
-    return target;
-}
-
-/// Why a file cannot be opened for reading; empty if it can.
-std::string unreadableBecause(const fs::path &file)
-{
-    std::FILE *opened = std::fopen(file.c_str(), "rb");
-    if (opened == nullptr)
-        return std::strerror(errno);
-    std::fclose(opened);
-    return {};
-}
-
 void copyFile(const fs::path &from, const fs::path &to)
 {
-    if (const std::string reason = unreadableBecause(from); !reason.empty())
-        throw cannotRead(from, reason + "; run as a user who may read it, or copy it first");
+    requireReadable(from);
     std::error_code error;
     fs::copy_file(from, to, error);
     if (!error)
@@ -75,7 +43,9 @@ fs::path makePrivateFolder()
 
 PrivateCopy::PrivateCopy(const fs::path &database)
 {
-    const fs::path source = resolved(database);
+    // The files beside a database lie beside the target of a link.
+    const fs::path source =
+        sourceFile(database, "the database in it, such as PhotoData/Photos.sqlite");
     folder_ = makePrivateFolder();
     try {
         copy(source);

@@ -1,0 +1,22 @@
+#ifndef IOSPHOTO_TOOL_INTERRUPTION_H
+#define IOSPHOTO_TOOL_INTERRUPTION_H
+
+namespace iosphoto::tool {
+
+/// While it lives, the wish to end the command (Ctrl-C, a closed terminal) waits for the next
+/// throwIfAskedFor(), so that nothing half done is left behind. One at a time.
+class Interruption
+{
+public:
+    Interruption();
+    ~Interruption();
+    Interruption(const Interruption &) = delete;
+    Interruption &operator=(const Interruption &) = delete;
+
+    /// Throws Failure when somebody wished the command to end.
+    static void throwIfAskedFor();
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_INTERRUPTION_H

@@ -1,0 +1,21 @@
+#ifndef IOSPHOTO_TOOL_OUTPUT_FILE_H
+#define IOSPHOTO_TOOL_OUTPUT_FILE_H
+
+#include <QByteArray>
+
+#include <filesystem>
+
+namespace iosphoto::tool {
+
+/// Writes a file whole or not at all: one that was there before is replaced at the end.
+///
+/// Throws Failure when it cannot be written, and when `file` is `source`, which is never changed.
+void writeOutput(const std::filesystem::path &file, const QByteArray &content,
+                 const std::filesystem::path &source);
+
+/// Makes a folder for output, with those above it. Throws Failure when that cannot be done.
+void makeOutputFolder(const std::filesystem::path &folder);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_OUTPUT_FILE_H

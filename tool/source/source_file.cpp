@@ -1,0 +1,50 @@
+#include "source/source_file.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Failure cannotRead(const fs::path &file, const std::string &reason)
+{
+    return {CannotRead, "cannot read '" + file.string() + "': " + reason};
+}
+
+/// Why a file cannot be opened for reading; empty if it can.
+std::string unreadableBecause(const fs::path &file)
+{
+    std::FILE *opened = std::fopen(file.c_str(), "rb");
+    if (opened == nullptr)
+        return std::strerror(errno);
+    std::fclose(opened);
+    return {};
+}
+
+} // namespace
+
+fs::path sourceFile(const fs::path &path, const std::string &toName)
+{
+    std::error_code error;
+    fs::path target = fs::canonical(path, error);
+    if (error)
+        throw cannotRead(path, error.message() + "; check the path");
+    const fs::file_status status = fs::status(target, error);
+    if (fs::is_directory(status))
+        throw cannotRead(path, "it is a folder; name " + toName);
+    if (!fs::is_regular_file(status))
+        throw cannotRead(path, "it is not a file");
+    return target;
+}
+
+void requireReadable(const fs::path &file)
+{
+    if (const std::string reason = unreadableBecause(file); !reason.empty())
+        throw cannotRead(file, reason + "; run as a user who may read it, or copy it first");
+}
+
+} // namespace iosphoto::tool

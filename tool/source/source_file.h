@@ -1,0 +1,21 @@
+#ifndef IOSPHOTO_TOOL_SOURCE_FILE_H
+#define IOSPHOTO_TOOL_SOURCE_FILE_H
+
+#include "failure.h"
+
+#include <filesystem>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// A file that the user named, with links resolved. Throws Failure when nothing is there, or
+/// something else than a file.
+/// @param toName  what to name instead of a folder, such as "the database in it"
+std::filesystem::path sourceFile(const std::filesystem::path &path, const std::string &toName);
+
+/// Throws Failure when this user may not read the file.
+void requireReadable(const std::filesystem::path &file);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_SOURCE_FILE_H

@@ -1,0 +1,69 @@
+#include "thumbnails/cache_format.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr int probedBytes = 12; ///< at the start and at the end of a record
+
+bool isZero(ifile &file, int offset)
+{
+    std::array<char, probedBytes> bytes = {};
+    return file.seekg(offset) == 0 && file.read(bytes.data(), probedBytes) &&
+           std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte == 0; });
+}
+
+struct Fit
+{
+    int plausible = 0;
+    int damaged = 0;
+};
+
+Fit fitOf(ifile &file, const ThumbFormat &format)
+{
+    Fit fit;
+    for (int index = recordCount(file, format) - 1; index >= 0; --index) {
+        const RecordState state = recordState(file, format, index);
+        fit.plausible += state == RecordState::Plausible ? 1 : 0;
+        fit.damaged += state == RecordState::Damaged ? 1 : 0;
+    }
+    return fit;
+}
+
+} // namespace
+
+RecordState recordState(ifile &file, const ThumbFormat &format, int index)
+{
+    const int start = index * format.recordSize;
+    const int end = start + format.recordSize;
+    if (detect_type(end, file))
+        return RecordState::Plausible;
+    return isZero(file, start) && isZero(file, end - probedBytes) ? RecordState::Empty
+                                                                  : RecordState::Damaged;
+}
+
+int recordCount(ifile &file, const ThumbFormat &format)
+{
+    const long reach = std::min<long>(file.getlength(), std::numeric_limits<int>::max());
+    return static_cast<int>(reach / format.recordSize);
+}
+
+const ThumbFormat *findFormat(ifile &file)
+{
+    const ThumbFormat *found = nullptr;
+    int most = 1;
+    for (const ThumbFormat &format : thumbFormats) {
+        const Fit fit = fitOf(file, format);
+        if (fit.plausible >= std::max(most, fit.damaged)) {
+            most = fit.plausible;
+            found = &format;
+        }
+    }
+    return found;
+}
+
+} // namespace iosphoto::tool

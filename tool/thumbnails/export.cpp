@@ -1,0 +1,98 @@
+#include "thumbnails/export.h"
+
+#include "failure.h"
+#include "output/interruption.h"
+#include "output/output_file.h"
+#include "output/progress_bar.h"
+#include "thumbnails/contact_sheet.h"
+#include "thumbnails/picture.h"
+
+#include <QString>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string lowerSuffix(const fs::path &file)
+{
+    return QString::fromStdString(file.extension().string()).toLower().toStdString();
+}
+
+QByteArray content(const ThumbCache &cache, const Thumbnail &thumbnail, bool asPng)
+{
+    const QByteArray bmp = cache.image(thumbnail);
+    return asPng ? tool::asPng(pictureOf(bmp)) : bmp;
+}
+
+/// An index with as many digits as the last one, so that files sort.
+std::string paddedIndex(int index, int last)
+{
+    std::string digits = std::to_string(index);
+    const std::size_t width = std::max<std::size_t>(4, std::to_string(last).size());
+    return std::string(width - digits.size(), '0') + digits;
+}
+
+fs::path sheetName(const fs::path &file, int sheet)
+{
+    if (sheet == 0)
+        return file;
+    fs::path name = file;
+    name.replace_filename(file.stem().string() + "-" + std::to_string(sheet + 1) +
+                          file.extension().string());
+    return name;
+}
+
+} // namespace
+
+WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail, const std::string &file)
+{
+    const std::string suffix = lowerSuffix(file);
+    if (!suffix.empty() && suffix != ".bmp" && suffix != ".png")
+        throw Failure(WrongUsage, "cannot write '" + file +
+                                      "': thumbnails are written as .bmp or "
+                                      ".png; name such a file");
+    writeOutput(file, content(cache, thumbnail, suffix == ".png"), cache.file());
+    return {file};
+}
+
+WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool asPng)
+{
+    const Interruption interruption;
+    makeOutputFolder(folder);
+    const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
+    ProgressBar progress("writing thumbnails", static_cast<int>(thumbnails.size()));
+    WrittenFiles written;
+    for (const Thumbnail &thumbnail : thumbnails) {
+        Interruption::throwIfAskedFor();
+        const std::string name =
+            paddedIndex(thumbnail.index, thumbnails.back().index) + (asPng ? ".png" : ".bmp");
+        const fs::path file = fs::path(folder) / name;
+        writeOutput(file, content(cache, thumbnail, asPng), cache.file());
+        written.push_back(file.string());
+        progress.show(static_cast<int>(written.size()));
+    }
+    return written;
+}
+
+WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file)
+{
+    if (lowerSuffix(file) != ".png")
+        throw Failure(WrongUsage, "cannot write '" + file +
+                                      "': a contact sheet is a PNG file; "
+                                      "name a file that ends in .png");
+    const Interruption interruption;
+    ProgressBar progress("drawing sheets", sheetCount(cache));
+    WrittenFiles written;
+    for (int sheet = 0; sheet < sheetCount(cache); ++sheet) {
+        Interruption::throwIfAskedFor();
+        const fs::path name = sheetName(file, sheet);
+        writeOutput(name, asPng(drawSheet(cache, sheet)), cache.file());
+        written.push_back(name.string());
+        progress.show(sheet + 1);
+    }
+    return written;
+}
+
+} // namespace iosphoto::tool

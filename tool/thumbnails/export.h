@@ -1,0 +1,28 @@
+#ifndef IOSPHOTO_TOOL_THUMBNAIL_EXPORT_H
+#define IOSPHOTO_TOOL_THUMBNAIL_EXPORT_H
+
+#include "thumbnails/thumb_cache.h"
+
+#include <string>
+#include <vector>
+
+namespace iosphoto::tool {
+
+/// Files that an export wrote: the name of each, in order.
+using WrittenFiles = std::vector<std::string>;
+
+/// Writes a thumbnail: BMP as the library decodes it, or PNG where the file's name says so. Throws
+/// Failure as writeOutput() does, and when the name says something else.
+WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail,
+                       const std::string &file);
+
+/// Writes all thumbnails into a folder, named by their indexes, and makes the folder.
+WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool asPng);
+
+/// Draws all thumbnails on a contact sheet. Those that have no room go to further sheets, numbered
+/// from 2: "sheet.png", "sheet-2.png".
+WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_THUMBNAIL_EXPORT_H
