@@ -127,8 +127,11 @@ int run(int argumentCount, char **arguments)
             return app.exit(error);
         throw Failure(WrongUsage, std::string(error.what()) + "; see iosphoto --help");
     }
-    if (thumb.parsed())
+    if (thumb.parsed()) {
+        if (!thumbRequest.output.empty() && !thumbRequest.index && !thumbRequest.all)
+            throw Failure(WrongUsage, "--output requires --index or --all; see iosphoto --help");
         return showThumbnails(thumbRequest, std::cout);
+    }
     return albums.parsed() ? showAlbums(options) : showPhotos(options);
 }
 

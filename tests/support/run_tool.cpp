@@ -2,8 +2,10 @@
 
 #include "support/temporary_folder.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -70,6 +72,15 @@ std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &argume
             _exit(notRun);
     });
     return result.status != notRun ? std::make_optional(result) : std::nullopt;
+}
+
+ToolRun runToolOnFullDisk(const std::vector<std::string> &arguments, std::size_t bytes)
+{
+    return run(arguments, [=] {
+        std::signal(SIGXFSZ, SIG_IGN); // too large a file is an error of its own then
+        const rlimit limit = {bytes, bytes};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    });
 }
 
 } // namespace iosphoto::test

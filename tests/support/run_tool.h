@@ -33,6 +33,9 @@ ToolRun runTool(const std::vector<std::string> &arguments, const Environment &en
 /// the other user may not run the tool.
 std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &arguments);
 
+/// Runs the tool on a disk that has no room for a file of more than `bytes`.
+ToolRun runToolOnFullDisk(const std::vector<std::string> &arguments, std::size_t bytes);
+
 } // namespace iosphoto::test
 
 #endif // IOSPHOTO_TESTS_RUN_TOOL_H

@@ -1,8 +1,5 @@
+#include "support/expect_failure.h"
 #include "support/library_builder.h"
-#include "support/run_tool.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <fstream>
 #include <sys/stat.h>
@@ -11,25 +8,6 @@ using namespace iosphoto::test;
 using testing::HasSubstr;
 
 namespace fs = std::filesystem;
-
-namespace {
-
-/// Nothing on stdout, one line on stderr that begins like `error`, and the status.
-void expectFailure(const ToolRun &run, const std::string &error, int status)
-{
-    EXPECT_EQ(run.out, "");
-    EXPECT_THAT(run.error, testing::StartsWith("iosphoto: " + error));
-    EXPECT_EQ(std::count(run.error.begin(), run.error.end(), '\n'), 1) << run.error;
-    EXPECT_EQ(run.error.back(), '\n');
-    EXPECT_EQ(run.status, status);
-}
-
-std::string quoted(const fs::path &path)
-{
-    return "'" + path.string() + "'";
-}
-
-} // namespace
 
 class ToolBadInput : public testing::Test
 {

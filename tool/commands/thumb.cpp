@@ -34,13 +34,26 @@ void printList(const ThumbCache &cache, std::ostream &out)
 
 void printWritten(const WrittenFiles &files, std::ostream &out)
 {
-    const bool isOne = files.size() == 1;
-    const std::string last = isOne ? "" : " to " + printable(files.back());
-    out << "wrote " << (isOne ? "" : grouped(static_cast<int>(files.size())) + " files, ")
-        << printable(files.front()) << last << '\n';
+    const std::string first = printable(files.begin()->second);
+    if (files.size() == 1)
+        out << "wrote " << first << '\n';
+    else
+        out << "wrote " << grouped(static_cast<int>(files.size())) << " files, " << first << " to "
+            << printable(files.rbegin()->second) << '\n';
 }
 
-void printAsJson(const ThumbCache &cache, const WrittenFiles &files, std::ostream &out)
+Json thumbnailAsJson(const Thumbnail &thumbnail, const WrittenFiles &files)
+{
+    const auto file = files.find(thumbnail.index);
+    return {{"index", thumbnail.index},
+            {"width", thumbnail.width},
+            {"height", thumbnail.height},
+            {"bmpBytes", thumbnail.bytes},
+            {"file", file != files.end() ? Json(file->second) : Json()}};
+}
+
+void printAsJson(const ThumbCache &cache, const WrittenFiles &pictures, const WrittenFiles &sheets,
+                 std::ostream &out)
 {
     Json document = {{"cache", cache.path()},
                      {"format", cache.format().code},
@@ -50,21 +63,18 @@ void printAsJson(const ThumbCache &cache, const WrittenFiles &files, std::ostrea
                      {"isComplete", cache.missing().empty()}};
     Json &thumbnails = document["thumbnails"] = Json::array();
     for (const Thumbnail &thumbnail : cache.thumbnails())
-        thumbnails.push_back({{"index", thumbnail.index},
-                              {"width", thumbnail.width},
-                              {"height", thumbnail.height},
-                              {"bmpBytes", thumbnail.bytes}});
-    document["written"] = files;
+        thumbnails.push_back(thumbnailAsJson(thumbnail, pictures));
+    Json &sheetNames = document["sheets"] = Json::array();
+    for (const auto &[number, name] : sheets)
+        sheetNames.push_back(name);
     print(document, out);
 }
 
-WrittenFiles writeWanted(const ThumbCache &cache, const ThumbRequest &request)
+WrittenFiles writePictures(const ThumbCache &cache, const ThumbRequest &request)
 {
     if (request.index)
         return exportOne(cache, cache.at(*request.index), request.output);
-    if (request.all)
-        return exportAll(cache, request.output, request.asPng);
-    return exportSheets(cache, *request.sheet);
+    return request.all ? exportAll(cache, request.output, request.asPng) : WrittenFiles();
 }
 
 } // namespace
@@ -72,18 +82,19 @@ WrittenFiles writeWanted(const ThumbCache &cache, const ThumbRequest &request)
 ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
 {
     const ThumbCache cache(request.cache);
-    const bool isList = !request.index && !request.all && !request.sheet;
-    const WrittenFiles files = isList ? WrittenFiles() : writeWanted(cache, request);
+    const WrittenFiles pictures = writePictures(cache, request);
+    const WrittenFiles sheets =
+        request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
     if (request.asJson)
-        printAsJson(cache, files, out);
-    else if (isList)
+        printAsJson(cache, pictures, sheets, out);
+    else if (pictures.empty() && sheets.empty())
         printList(cache, out);
     else
-        printWritten(files, out);
-    const std::string missing = request.index ? std::string() : cache.missing();
-    if (!missing.empty())
-        notice(missing + "; copy it from the device again");
-    return missing.empty() ? Good : Incomplete;
+        printWritten(request.sheet ? sheets : pictures, out);
+    if (request.index || cache.missing().empty())
+        return Good;
+    notice(cache.missing() + "; copy it from the device again");
+    return Incomplete;
 }
 
 } // namespace iosphoto::tool

@@ -45,12 +45,13 @@ private:
     int rows_;
 };
 
-/// Thumbnails of one size cannot be told from what surrounds them; those of various sizes stand on
-/// their index, as on a shelf.
-QPoint placeOnShelf(const QImage &picture, const QRect &area)
+/// Pictures stand on their index as on a shelf; one wider than its place is scaled down.
+void drawPicture(QPainter &painter, const QRect &area, QImage picture)
 {
-    return {area.left() + (area.width() - picture.width()) / 2,
-            area.top() + area.height() - picture.height()};
+    if (picture.width() > area.width())
+        picture = picture.scaledToWidth(area.width(), Qt::SmoothTransformation);
+    painter.drawImage(area.left() + (area.width() - picture.width()) / 2,
+                      area.top() + area.height() - picture.height(), picture);
 }
 
 } // namespace
@@ -66,16 +67,14 @@ QImage drawSheet(const ThumbCache &cache, int sheet)
     const int first = sheet * thumbnailsPerSheet;
     const int count =
         std::min(static_cast<int>(cache.thumbnails().size()) - first, thumbnailsPerSheet);
-    int side = cache.format().code;
-    const Grid grid(count, side);
+    const Grid grid(count, cache.format().code);
     QImage image(grid.size(), QImage::Format_RGB32);
     image.fill(background);
     QPainter painter(&image);
     for (int place = 0; place < count; ++place) {
         const Thumbnail &thumbnail = cache.thumbnails().at(static_cast<std::size_t>(first + place));
         const QRect area = grid.picture(place);
-        const QImage picture = pictureOf(cache.image(thumbnail));
-        painter.drawImage(placeOnShelf(picture, area), picture);
+        drawPicture(painter, area, pictureOf(cache.image(thumbnail)));
         drawNumber(painter, area.translated(0, area.height() + margin), thumbnail.index, ink);
     }
     return image;

@@ -54,7 +54,7 @@ WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail, cons
                                       "': thumbnails are written as .bmp or "
                                       ".png; name such a file");
     writeOutput(file, content(cache, thumbnail, suffix == ".png"), cache.file());
-    return {file};
+    return {{thumbnail.index, file}};
 }
 
 WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool asPng)
@@ -70,7 +70,7 @@ WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool 
             paddedIndex(thumbnail.index, thumbnails.back().index) + (asPng ? ".png" : ".bmp");
         const fs::path file = fs::path(folder) / name;
         writeOutput(file, content(cache, thumbnail, asPng), cache.file());
-        written.push_back(file.string());
+        written[thumbnail.index] = file.string();
         progress.show(static_cast<int>(written.size()));
     }
     return written;
@@ -89,7 +89,7 @@ WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file)
         Interruption::throwIfAskedFor();
         const fs::path name = sheetName(file, sheet);
         writeOutput(name, asPng(drawSheet(cache, sheet)), cache.file());
-        written.push_back(name.string());
+        written[sheet] = name.string();
         progress.show(sheet + 1);
     }
     return written;

@@ -3,13 +3,13 @@
 
 #include "thumbnails/thumb_cache.h"
 
+#include <map>
 #include <string>
-#include <vector>
 
 namespace iosphoto::tool {
 
-/// Files that an export wrote: the name of each, in order.
-using WrittenFiles = std::vector<std::string>;
+/// Files that an export wrote, by the index of the thumbnail or the number of the sheet.
+using WrittenFiles = std::map<int, std::string>;
 
 /// Writes a thumbnail: BMP as the library decodes it, or PNG where the file's name says so. Throws
 /// Failure as writeOutput() does, and when the name says something else.
