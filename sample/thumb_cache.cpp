@@ -94,7 +94,7 @@ int main(int argumentCount, char **arguments)
                         static_cast<std::uint32_t>(picture.height()),
                         [&](int x, int y) { return pixelOf(picture, x, y); });
     }
-    constexpr int recordsPerStep = 64; // in which phones make caches grow
+    constexpr int recordsPerStep = 64; // in which caches grow
     cache.empty(recordsPerStep - pictures - 3);
     std::ofstream file(arguments[1], std::ios::binary);
     file << cache.bytes();
