@@ -184,7 +184,8 @@ IOSPHOTO_EXPORT int ios_photo_get_list(std::string databasePath, std::string ios
 /// others is read. Nothing is kept. Thread-safe, without a lock. Nothing is thrown.
 ///
 /// @param cacheFile  path of the cache as the file system has it. It is only read.
-/// @param index      number of the record, from 0
+/// @param index      number of the record, from 0; one whose record would start beyond 2 GiB gives
+///                   nothing or, as offsets wrap at 32 bits, another record
 /// @param buffer     the caller's, 55,178 bytes. Only the bytes of the image are written.
 /// @param width      [out] of the thumbnail, in pixels. The image of a format with pictures of one
 ///                   size is larger than a thumbnail that does not fill it; its header says by how

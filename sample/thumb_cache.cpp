@@ -17,6 +17,7 @@ namespace {
 
 constexpr int format = 120;
 constexpr int pictures = 24;
+constexpr int gap = 3; ///< empty records, as deleted photos leave them
 
 /// Sizes as phones have them: landscape, portrait, square, panorama.
 constexpr std::array<QSize, 4> sizes = {QSize(120, 90), QSize(90, 120), QSize(120, 120),
@@ -30,7 +31,7 @@ void paintSky(QPainter &painter, QSize size, double hour)
     sky.setColorAt(1, QColor::fromHsvF(std::fmod(0.08 + 0.4 * hour, 1.0), 0.5, 1.0));
     painter.fillRect(QRect(QPoint(0, 0), size), sky);
     constexpr int radius = 9;
-    const double height = 0.6 - 0.4 * std::sin(3.14 * hour);
+    const double height = 0.6 - 0.4 * std::sin(M_PI * hour);
     painter.setBrush(QColor(255, 240, 190));
     painter.drawEllipse(QPointF(size.width() * hour, size.height() * height), radius, radius);
 }
@@ -87,7 +88,7 @@ int main(int argumentCount, char **arguments)
     ThumbCacheBuilder cache(format);
     for (int number = 0; number < pictures; ++number) {
         if (number == pictures / 2)
-            cache.empty(3); // deleted photos leave gaps
+            cache.empty(gap);
         const QImage picture =
             landscape(sizes.at(static_cast<std::size_t>(number) % sizes.size()), number);
         cache.thumbnail(static_cast<std::uint32_t>(picture.width()),
@@ -95,7 +96,7 @@ int main(int argumentCount, char **arguments)
                         [&](int x, int y) { return pixelOf(picture, x, y); });
     }
     constexpr int recordsPerStep = 64; // in which caches grow
-    cache.empty(recordsPerStep - pictures - 3);
+    cache.empty(recordsPerStep - pictures - gap);
     std::ofstream file(arguments[1], std::ios::binary);
     file << cache.bytes();
     file.close();

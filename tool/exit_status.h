@@ -6,12 +6,12 @@ namespace iosphoto::tool {
 /// What the tool's exit status says. Where it is not Good, a line on stderr says more.
 enum ExitStatus {
     Good = 0,
-    Incomplete = 1,        ///< read, but something is missing from what was shown
-    WrongUsage = 2,        ///< the command line is wrong
-    CannotRead = 3,        ///< a file cannot be opened, read or written
-    NotAPhotoDatabase = 4, ///< the file is something else, or not a thumbnail cache
-    SchemaDoesNotFit = 5,  ///< a photo database, but of no known schema or not of the given iOS
-    Interrupted = 130,     ///< by Ctrl-C or another signal to end
+    Incomplete = 1,       ///< read, but something is missing from what was shown
+    WrongUsage = 2,       ///< the command line is wrong
+    CannotAccess = 3,     ///< a file cannot be opened, read or written
+    WrongKindOfFile = 4,  ///< the file is something else, or not a thumbnail cache
+    SchemaDoesNotFit = 5, ///< a photo database, but of no known schema or not of the given iOS
+    Interrupted = 128,    ///< plus the number of the signal, such as 2 for Ctrl-C
 };
 
 } // namespace iosphoto::tool

@@ -8,8 +8,10 @@
 #include <CLI/CLI.hpp>
 #include <QRegularExpression>
 
+#include <csignal>
 #include <cstdio>
 #include <iostream>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -74,6 +76,9 @@ int showPhotos(const Options &options)
     return library.status();
 }
 
+const CLI::Validator notEmpty(
+    [](const std::string &text) { return std::string(text.empty() ? "names no file" : ""); }, "");
+
 /// Adds the command that reads a thumbnail cache.
 CLI::App &addThumb(CLI::App &app, ThumbRequest &request)
 {
@@ -84,15 +89,27 @@ CLI::App &addThumb(CLI::App &app, ThumbRequest &request)
         ->required();
     CLI::Option *output = thumb.add_option("-o,--output", request.output,
                                            "file (--index) or folder (--all) to write");
-    CLI::Option *index = thumb.add_option("--index", request.index, "write this thumbnail")
-                             ->check(CLI::NonNegativeNumber)
+    // As text: files are named "0010.bmp", and a zero in front must not make the index octal.
+    const auto takeIndex = [&request](const std::string &digits) {
+        bool isInt = false;
+        const int index = QString::fromStdString(digits).toInt(&isInt);
+        request.index = isInt ? index : std::numeric_limits<int>::max();
+    };
+    CLI::Option *index = thumb
+                             .add_option_function<std::string>(
+                                 "--index", takeIndex, "write this thumbnail, as .bmp or .png")
+                             ->check(looksLike("[0-9]+", "7"))
                              ->needs(output);
     CLI::Option *all = thumb.add_flag("--all", request.all, "write all thumbnails")
                            ->needs(output)
                            ->excludes(index);
     thumb.add_flag("--png", request.asPng, "write PNG files instead of BMP")->needs(all);
-    thumb.add_option("--sheet", request.sheet, "draw all on a contact sheet, a PNG file")
-        ->excludes(index, all, output);
+    CLI::Option *sheet = thumb.add_option("--sheet", request.sheet,
+                                          "draw all on a contact sheet, a .png file; from 501 on "
+                                          "also on FILE-2.png and so on");
+    sheet->excludes(index, all, output);
+    output->check(notEmpty);
+    sheet->check(notEmpty);
     thumb.add_flag("--json", request.asJson, "print a JSON document");
     thumb.footer("Examples:\n  iosphoto thumb 120x120.ithmb\n"
                  "  iosphoto thumb 120x120.ithmb --index 7 -o photo.png\n"
@@ -128,7 +145,7 @@ int run(int argumentCount, char **arguments)
         throw Failure(WrongUsage, std::string(error.what()) + "; see iosphoto --help");
     }
     if (thumb.parsed()) {
-        if (!thumbRequest.output.empty() && !thumbRequest.index && !thumbRequest.all)
+        if (thumbRequest.output && !thumbRequest.index && !thumbRequest.all)
             throw Failure(WrongUsage, "--output requires --index or --all; see iosphoto --help");
         return showThumbnails(thumbRequest, std::cout);
     }
@@ -140,17 +157,18 @@ int run(int argumentCount, char **arguments)
 int main(int argumentCount, char **arguments)
 {
     sqlite_error_log::install();
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is an error like others
     try {
         const int status = run(argumentCount, arguments);
         std::cout.flush();
         if (!std::cout)
-            throw Failure(CannotRead, "cannot write the output; is the disk full?");
+            throw Failure(CannotAccess, "cannot write the output; is the disk full?");
         return status;
     } catch (const Failure &failure) {
         notice(failure.what());
         return failure.status();
     } catch (const std::exception &error) { // lack of memory, a temporary folder that vanished
         std::fprintf(stderr, "iosphoto: %s\n", error.what());
-        return CannotRead;
+        return CannotAccess;
     }
 }

@@ -1,7 +1,5 @@
 #include "ithmb/bmp_header.h"
 
-#include "ithmb/thumb_formats.h"
-
 #include <QtEndian>
 
 namespace iosphoto {

@@ -3,6 +3,8 @@
 
 namespace iosphoto {
 
+constexpr int bmpHeaderSize = 66; ///< bytes
+
 /// What differs between the headers of BMP images of 16-bit pixels with 5-5-5 masks.
 struct BmpHeader
 {

@@ -10,8 +10,7 @@ using namespace iosphoto;
 
 namespace {
 
-constexpr int wordSize = 4;
-constexpr int probeSize = 3 * wordSize;
+constexpr int probeSize = 12;
 
 bool isPlausibleSide(quint32 pixels)
 {
@@ -26,8 +25,8 @@ bool detect_type(int endOffset, ifile &file)
     if (file.seekg(wrappingSum(endOffset, -probeSize)) != 0 || !file.read(probe, probeSize))
         return false;
     return isPlausibleSide(qFromLittleEndian<quint32>(probe)) &&
-           isPlausibleSide(qFromLittleEndian<quint32>(probe + wordSize)) &&
-           qFromLittleEndian<quint32>(probe + 2 * wordSize) == 0;
+           isPlausibleSide(qFromLittleEndian<quint32>(probe + 4)) &&
+           qFromLittleEndian<quint32>(probe + 8) == 0;
 }
 
 int detect_ithmb_size(ifile &file, int index)

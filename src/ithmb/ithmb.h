@@ -15,7 +15,8 @@
 /// the third word is 0.
 ///
 /// Files are only read, and only these bytes of them. Nothing is thrown, whatever a file holds.
-/// Offsets of detection and decoding are 32-bit: records beyond 2 GiB are not reached.
+/// Offsets of detection and decoding are 32-bit and wrap: an index whose record would start beyond
+/// 2 GiB gives nothing or, wrapped round, another record. Callers keep below the number of records.
 ///
 /// Threads: the functions share nothing; an ifile serves one thread at a time.
 #ifndef IOSPHOTO_ITHMB_H
@@ -95,10 +96,12 @@ IOSPHOTO_EXPORT int GetBmp(char const *path, int index, char *buffer, int &size,
 /// The picture is as wide and high as the format's name says, whatever part of it the thumbnail
 /// fills; that of format 120 is exactly the thumbnail, cut out of the middle of its record.
 ///
-/// What a truncated record lacks is black, and without a trailer its width and height are 0.
-/// Nothing is written, and the last three arguments keep their values, when the file is not open,
-/// when the record starts beyond the end of the file, and for a thumbnail of format 120 that is
-/// higher than 120 pixels, reaches out of its record, or is larger than 55,178 bytes as an image.
+/// What a truncated record lacks is black, and without a trailer its width and height are 0; so is
+/// all of a record that would start right at the end of the file. Nothing is written, and the last
+/// three arguments keep their values, when the file is not open, when the buffer is a null pointer,
+/// when the record starts beyond the end of the file or at a negative offset, and for a thumbnail
+/// of format 120 that is higher than 120 pixels, reaches out of its record, or is larger than
+/// 55,178 bytes as an image.
 ///
 /// @param buffer  the caller's; 55,178 bytes are enough for every format. Only the bytes of the
 ///                image are written.

@@ -74,10 +74,13 @@ bool isDecodable(const Picture &picture, const ThumbFormat &format)
 void copyBottomUp(const Picture &picture, const ThumbFormat &format, const Record &record,
                   char *out)
 {
+    const auto rowBytes = static_cast<std::size_t>(picture.rowBytes);
     const char *source = record.bytes + picture.firstByte;
-    for (int row = picture.rows - 1; row >= 0; --row, source += format.stride)
-        std::memcpy(out + row * picture.rowBytes, source,
-                    static_cast<std::size_t>(picture.rowBytes));
+    out += static_cast<std::size_t>(picture.rows) * rowBytes;
+    for (int row = 0; row < picture.rows; ++row, source += format.stride) {
+        out -= rowBytes;
+        std::memcpy(out, source, rowBytes);
+    }
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_THUMB_FORMATS_H
 #define IOSPHOTO_THUMB_FORMATS_H
 
+#include "ithmb/bmp_header.h"
+
 #include <array>
 
 namespace iosphoto {
@@ -16,8 +18,8 @@ struct ThumbFormat
     int stride;   ///< from one row to the next
     int rowBytes; ///< of a row in the image: two bytes a pixel, made up to a multiple of four
     int rows;
-    /// What the size fields of the image's header say. Three formats carry those of another one;
-    /// hosts compare images byte by byte, so they stay.
+    /// What the size fields of the image's header say: three formats are defined with those of
+    /// another one.
     int statedFileSize;
     int statedImageSize;
     bool isCentred; ///< the thumbnail may be smaller than the picture, and only it is decoded
@@ -36,7 +38,6 @@ inline constexpr std::array<ThumbFormat, 7> thumbFormats = {{
     {166, 55804, 55772, 55776, 336, 332, 166, 55178, 55112, false, true},
 }};
 
-constexpr int bmpHeaderSize = 66;
 constexpr int largestRecord = 55804;
 constexpr int largestImage = 55178; ///< with its header; what callers' buffers hold
 constexpr int trailerSize = 28;
@@ -53,6 +54,7 @@ constexpr bool isConsistent(const ThumbFormat &format)
 
 constexpr bool areConsistent()
 {
+    // NOLINTNEXTLINE(readability-use-anyofallof): std::all_of is not constexpr
     for (const ThumbFormat &format : thumbFormats)
         if (!isConsistent(format))
             return false;

@@ -2,7 +2,6 @@
 
 #include "support/temporary_folder.h"
 
-#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -77,7 +76,6 @@ std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &argume
 ToolRun runToolOnFullDisk(const std::vector<std::string> &arguments, std::size_t bytes)
 {
     return run(arguments, [=] {
-        std::signal(SIGXFSZ, SIG_IGN); // too large a file is an error of its own then
         const rlimit limit = {bytes, bytes};
         setrlimit(RLIMIT_FSIZE, &limit);
     });

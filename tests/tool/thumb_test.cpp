@@ -49,7 +49,7 @@ QRgb colourOf(std::uint16_t pixel)
     return qRgb(part(10), part(5), part(0));
 }
 
-/// Whether the picture of thumbnail `number` of 80x60 in the sample stands at a place of an image.
+/// Whether the first thumbnail of the sample, 80x60, stands at a place of an image.
 bool showsFirstThumbnail(const QImage &image, QPoint place)
 {
     for (int y = 0; y < 60; ++y)
@@ -133,6 +133,28 @@ TEST_F(ToolThumb, WritesOneAsPngWhereTheFileIsNamedSo)
     const QImage picture(QString::fromStdString(file.string()), "PNG");
     ASSERT_EQ(picture.size(), QSize(80, 60));
     EXPECT_TRUE(showsFirstThumbnail(picture, {0, 0}));
+}
+
+TEST_F(ToolThumb, TakesAnIndexAsFilesAreNamed)
+{
+    ThumbCacheBuilder cache(78);
+    for (int number = 0; number < 11; ++number)
+        cache.thumbnail(78, 78, pixelsOf(number));
+    writeFile(cache_, cache.bytes());
+    EXPECT_EQ(thumb({"--index", "0010", "-o", (folder_ / "one.bmp").string()}).status, 0);
+    EXPECT_EQ(readFile(folder_ / "one.bmp"), decodedByLibrary(cache_, 10));
+}
+
+TEST_F(ToolThumb, ReplacesTheTargetOfALinkAndKeepsItsRights)
+{
+    writeFile(folder_ / "target", "old");
+    fs::permissions(folder_ / "target", fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink("target", folder_ / "link.bmp");
+    EXPECT_EQ(thumb({"--index", "0", "-o", (folder_ / "link.bmp").string()}).status, 0);
+    EXPECT_TRUE(fs::is_symlink(folder_ / "link.bmp"));
+    EXPECT_EQ(readFile(folder_ / "target"), decodedByLibrary(cache_, 0));
+    EXPECT_EQ(fs::status(folder_ / "target").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
 }
 
 TEST_F(ToolThumb, ReplacesAFileThatIsThere)

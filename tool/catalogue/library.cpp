@@ -52,14 +52,14 @@ void Library::read(const std::string &copy)
     const int result = ios_photo_get_list(copy, device_.iosVersion, device_.productType, &albums_);
     const std::string advice = "; copy it from the device or the backup again, its -wal with it";
     if (result != 0)
-        throw Failure(CannotRead, "cannot read '" + database_ + "': SQLite error " +
-                                      std::to_string(-result) + advice);
+        throw Failure(CannotAccess, "cannot read '" + database_ + "': SQLite error " +
+                                        std::to_string(-result) + advice);
     const std::string error = sqlite_error_log::firstError();
     if (error.empty())
         return;
     const std::string what = "'" + database_ + "' is damaged (" + error + ")";
     if (isWithoutPhotos(albums_))
-        throw Failure(CannotRead, what + " and no photo could be read" + advice);
+        throw Failure(CannotAccess, what + " and no photo could be read" + advice);
     damage_ = what + " and photos are missing here" + advice;
     status_ = Incomplete;
 }

@@ -1,27 +1,22 @@
 #include "commands/thumb.h"
 
+#include "output/counted.h"
+#include "output/interruption.h"
 #include "output/json_document.h"
 #include "output/notice.h"
 #include "output/printable.h"
 #include "output/text_table.h"
 #include "thumbnails/export.h"
 
-#include <QLocale>
-
 namespace iosphoto::tool {
 
 namespace {
 
-std::string grouped(int number)
-{
-    return QLocale(QLocale::English).toString(number).toStdString();
-}
-
 void printList(const ThumbCache &cache, std::ostream &out)
 {
     using Align = TextTable::Align;
-    out << "format " << cache.format().code << ", " << grouped(cache.recordCount())
-        << " records of " << grouped(cache.format().recordSize) << " bytes, "
+    out << "format " << cache.format().code << ", " << counted(cache.recordCount(), "record")
+        << " of " << grouped(cache.format().recordSize) << " bytes, "
         << grouped(static_cast<int>(cache.thumbnails().size())) << " with a thumbnail\n\n";
     TextTable table(
         {{"INDEX", Align::Right}, {"PIXELS", Align::Right}, {"BMP BYTES", Align::Right}});
@@ -38,8 +33,8 @@ void printWritten(const WrittenFiles &files, std::ostream &out)
     if (files.size() == 1)
         out << "wrote " << first << '\n';
     else
-        out << "wrote " << grouped(static_cast<int>(files.size())) << " files, " << first << " to "
-            << printable(files.rbegin()->second) << '\n';
+        out << "wrote " << counted(static_cast<int>(files.size()), "file") << ", " << first
+            << " to " << printable(files.rbegin()->second) << '\n';
 }
 
 Json thumbnailAsJson(const Thumbnail &thumbnail, const WrittenFiles &files)
@@ -73,8 +68,8 @@ void printAsJson(const ThumbCache &cache, const WrittenFiles &pictures, const Wr
 WrittenFiles writePictures(const ThumbCache &cache, const ThumbRequest &request)
 {
     if (request.index)
-        return exportOne(cache, cache.at(*request.index), request.output);
-    return request.all ? exportAll(cache, request.output, request.asPng) : WrittenFiles();
+        return exportOne(cache, cache.at(*request.index), *request.output);
+    return request.all ? exportAll(cache, *request.output, request.asPng) : WrittenFiles();
 }
 
 } // namespace
@@ -82,18 +77,24 @@ WrittenFiles writePictures(const ThumbCache &cache, const ThumbRequest &request)
 ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
 {
     const ThumbCache cache(request.cache);
-    const WrittenFiles pictures = writePictures(cache, request);
-    const WrittenFiles sheets =
-        request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
+    WrittenFiles pictures;
+    WrittenFiles sheets;
+    {
+        const Interruption interruption;
+        pictures = writePictures(cache, request);
+        sheets = request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
+        Interruption::throwIfAskedFor();
+    }
     if (request.asJson)
         printAsJson(cache, pictures, sheets, out);
     else if (pictures.empty() && sheets.empty())
         printList(cache, out);
     else
         printWritten(request.sheet ? sheets : pictures, out);
+    // Who asked for one thumbnail has all of it.
     if (request.index || cache.missing().empty())
         return Good;
-    notice(cache.missing() + "; copy it from the device again");
+    notice(cache.missing());
     return Incomplete;
 }
 

@@ -13,11 +13,11 @@ namespace iosphoto::tool {
 struct ThumbRequest
 {
     std::string cache;
-    std::optional<int> index;         ///< write this thumbnail to `output`
-    bool all = false;                 ///< write all thumbnails into the folder `output`
-    std::optional<std::string> sheet; ///< draw all on a contact sheet
-    std::string output;
-    bool asPng = false; ///< with `all`
+    std::optional<int> index;          ///< write this thumbnail to `output`
+    bool all = false;                  ///< write all thumbnails into the folder `output`
+    std::optional<std::string> sheet;  ///< draw all on a contact sheet
+    std::optional<std::string> output; ///< there with index and all
+    bool asPng = false;                ///< with `all`
     bool asJson = false;
 };
 

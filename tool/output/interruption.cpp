@@ -2,13 +2,11 @@
 
 #include "failure.h"
 
-#include <csignal>
-
 namespace iosphoto::tool {
 
 namespace {
 
-constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
+constexpr std::array<int, 3> signals = {SIGINT, SIGTERM, SIGHUP};
 
 volatile std::sig_atomic_t askedBy = 0;
 
@@ -17,31 +15,32 @@ void remember(int signal)
     askedBy = signal;
 }
 
-void handleSignals(void (*handler)(int))
-{
-    struct sigaction action = {};
-    action.sa_handler = handler;
-    action.sa_flags = SA_RESTART;
-    for (const int signal : signals)
-        sigaction(signal, &action, nullptr);
-}
-
 } // namespace
 
 Interruption::Interruption()
 {
-    handleSignals(remember);
+    askedBy = 0;
+    struct sigaction action = {};
+    action.sa_handler = remember;
+    action.sa_flags = SA_RESTART;
+    for (std::size_t i = 0; i < signals.size(); ++i) {
+        sigaction(signals.at(i), nullptr, &before_.at(i));
+        if (before_.at(i).sa_handler != SIG_IGN) // as nohup asks for
+            sigaction(signals.at(i), &action, nullptr);
+    }
 }
 
 Interruption::~Interruption()
 {
-    handleSignals(SIG_DFL);
+    for (std::size_t i = 0; i < signals.size(); ++i)
+        sigaction(signals.at(i), &before_.at(i), nullptr);
 }
 
 void Interruption::throwIfAskedFor()
 {
     if (askedBy != 0)
-        throw Failure(Interrupted, "interrupted; what was written until then is complete");
+        throw Failure(static_cast<ExitStatus>(Interrupted + askedBy),
+                      "interrupted; every file that was written is complete");
 }
 
 } // namespace iosphoto::tool

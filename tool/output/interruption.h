@@ -1,6 +1,9 @@
 #ifndef IOSPHOTO_TOOL_INTERRUPTION_H
 #define IOSPHOTO_TOOL_INTERRUPTION_H
 
+#include <array>
+#include <csignal>
+
 namespace iosphoto::tool {
 
 /// While it lives, the wish to end the command (Ctrl-C, a closed terminal) waits for the next
@@ -15,6 +18,9 @@ public:
 
     /// Throws Failure when somebody wished the command to end.
     static void throwIfAskedFor();
+
+private:
+    std::array<struct sigaction, 3> before_ = {};
 };
 
 } // namespace iosphoto::tool

@@ -17,12 +17,15 @@ namespace {
 
 Failure cannotWrite(const fs::path &file, const std::string &reason)
 {
-    return {CannotRead, "cannot write '" + file.string() + "': " + reason};
+    return {CannotAccess, "cannot write '" + file.string() + "': " + reason};
 }
 
-/// The rights that a new file gets from the process.
-mode_t usualMode()
+/// The rights of the file that is replaced; of a new one, what the process gives.
+mode_t modeFor(const fs::path &file)
 {
+    struct stat old = {};
+    if (stat(file.c_str(), &old) == 0)
+        return old.st_mode & 0777;
     const mode_t mask = umask(0);
     umask(mask);
     return 0666 & ~mask;
@@ -32,7 +35,8 @@ mode_t usualMode()
 class UnfinishedFile
 {
 public:
-    explicit UnfinishedFile(const fs::path &file) : file_(file), name_(file.string() + ".XXXXXX")
+    explicit UnfinishedFile(const fs::path &file)
+        : file_(file), name_((file.parent_path() / ".iosphoto-XXXXXX").string())
     {
         descriptor_ = mkstemp(name_.data());
         if (descriptor_ < 0)
@@ -61,7 +65,7 @@ public:
 
     void finish()
     {
-        if (fchmod(descriptor_, usualMode()) != 0)
+        if (fchmod(descriptor_, modeFor(file_)) != 0)
             fail();
         if (close(std::exchange(descriptor_, -1)) != 0 ||
             rename(name_.c_str(), file_.c_str()) != 0) {
@@ -98,7 +102,7 @@ void writeOutput(const fs::path &file, const QByteArray &content, const fs::path
         throw Failure(WrongUsage, "'" + file.string() +
                                       "' is the source, which is never changed; choose another "
                                       "place for the output");
-    UnfinishedFile unfinished(file);
+    UnfinishedFile unfinished(fs::exists(status) ? fs::canonical(file, ignored) : file);
     unfinished.write(content);
     unfinished.finish();
 }
@@ -110,8 +114,8 @@ void makeOutputFolder(const fs::path &folder)
     if (!error && !fs::is_directory(folder))
         error = std::make_error_code(std::errc::not_a_directory);
     if (error)
-        throw Failure(CannotRead, "cannot make the folder '" + folder.string() + "': " +
-                                      error.message() + "; choose another place for the output");
+        throw Failure(CannotAccess, "cannot make the folder '" + folder.string() + "': " +
+                                        error.message() + "; choose another place for the output");
 }
 
 } // namespace iosphoto::tool

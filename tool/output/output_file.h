@@ -7,7 +7,8 @@
 
 namespace iosphoto::tool {
 
-/// Writes a file whole or not at all: one that was there before is replaced at the end.
+/// Writes a file whole or not at all: one that was there before is replaced at the end,
+/// keeping its rights; a link is followed.
 ///
 /// Throws Failure when it cannot be written, and when `file` is `source`, which is never changed.
 void writeOutput(const std::filesystem::path &file, const QByteArray &content,

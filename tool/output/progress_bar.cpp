@@ -1,6 +1,8 @@
 #include "output/progress_bar.h"
 
+#include <algorithm>
 #include <iostream>
+#include <sys/ioctl.h>
 #include <unistd.h>
 #include <utility>
 
@@ -12,14 +14,28 @@ constexpr std::chrono::milliseconds patience{500};
 constexpr std::chrono::milliseconds betweenShows{100};
 constexpr const char *clearLine = "\r\x1b[K";
 
-std::string bar(int done, int total)
+std::size_t terminalColumns()
 {
-    constexpr int cells = 20; // short enough for a narrow terminal
-    const auto full = static_cast<std::size_t>(cells * std::int64_t{done} / total);
-    return "[" + std::string(full, '#') + std::string(cells - full, ' ') + "]";
+    constexpr std::size_t usual = 80;
+    winsize size = {};
+    return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
 }
 
 } // namespace
+
+std::string progressLine(const std::string &doing, int done, int total, std::size_t columns)
+{
+    constexpr std::size_t mostCells = 20;
+    constexpr std::size_t fewestCells = 4;
+    const std::string counts = std::to_string(done) + "/" + std::to_string(total);
+    const std::size_t others = doing.size() + counts.size() + 5; // gaps, brackets, last column
+    if (columns < others + fewestCells)
+        return counts;
+    const std::size_t cells = std::min(mostCells, columns - others);
+    const std::size_t full =
+        cells * static_cast<std::size_t>(done) / static_cast<std::size_t>(total);
+    return doing + " [" + std::string(full, '#') + std::string(cells - full, ' ') + "] " + counts;
+}
 
 ProgressBar::ProgressBar(std::string doing, int total)
     : doing_(std::move(doing)), total_(total), isOnTerminal_(isatty(STDERR_FILENO) == 1),
@@ -37,9 +53,7 @@ void ProgressBar::show(int done)
 {
     if (!isOnTerminal_ || Clock::now() < nextShow_)
         return;
-    std::cerr << clearLine + doing_ + " " + bar(done, total_) + " " + std::to_string(done) + "/" +
-                     std::to_string(total_)
-              << std::flush;
+    std::cerr << clearLine + progressLine(doing_, done, total_, terminalColumns()) << std::flush;
     nextShow_ = Clock::now() + betweenShows;
     isShown_ = true;
 }

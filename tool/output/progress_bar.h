@@ -6,6 +6,10 @@
 
 namespace iosphoto::tool {
 
+/// A line of at most `columns` - 1 columns, such as "writing thumbnails [####    ] 20/40"; only the
+/// numbers where there is no room.
+std::string progressLine(const std::string &doing, int done, int total, std::size_t columns);
+
 /// How far a command is, on stderr. Shown only on a terminal, from half a second on; its line is
 /// cleared when it goes.
 class ProgressBar

@@ -22,9 +22,9 @@ void copyFile(const fs::path &from, const fs::path &to)
     if (!error)
         fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write, error);
     if (error)
-        throw Failure(CannotRead, "cannot copy '" + from.string() + "' to '" +
-                                      to.parent_path().string() + "': " + error.message() +
-                                      "; set TMPDIR to a folder with room for it");
+        throw Failure(CannotAccess, "cannot copy '" + from.string() + "' to '" +
+                                        to.parent_path().string() + "': " + error.message() +
+                                        "; set TMPDIR to a folder with room for it");
 }
 
 fs::path makePrivateFolder()
@@ -33,9 +33,9 @@ fs::path makePrivateFolder()
     const fs::path parent = wanted != nullptr && *wanted != '\0' ? wanted : "/tmp";
     std::string name = (parent / "iosphoto-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr)
-        throw Failure(CannotRead, "cannot make a temporary folder in '" + parent.string() +
-                                      "': " + std::strerror(errno) +
-                                      "; set TMPDIR to a folder that can be written");
+        throw Failure(CannotAccess, "cannot make a temporary folder in '" + parent.string() +
+                                        "': " + std::strerror(errno) +
+                                        "; set TMPDIR to a folder that can be written");
     return name;
 }
 

@@ -55,7 +55,7 @@ public:
         const int result = sqlite3_exec(connection_.get(), "select name from sqlite_master",
                                         nullptr, nullptr, nullptr);
         if (result == SQLITE_NOTADB)
-            throw Failure(NotAPhotoDatabase,
+            throw Failure(WrongKindOfFile,
                           "'" + shownName_ +
                               "' is not a SQLite database, or it is encrypted; name the "
                               "Photos.sqlite of a phone or of an unencrypted backup");
@@ -104,9 +104,9 @@ private:
 
     Failure unreadable() const
     {
-        return {CannotRead, "cannot read '" + shownName_ +
-                                "': " + sqlite3_errmsg(connection_.get()) +
-                                "; copy it from the device or the backup again"};
+        return {CannotAccess, "cannot read '" + shownName_ +
+                                  "': " + sqlite3_errmsg(connection_.get()) +
+                                  "; copy it from the device or the backup again"};
     }
 
     std::unique_ptr<sqlite3, Close> connection_;
@@ -179,9 +179,9 @@ Device probe(const std::string &database, const std::string &shownName, const De
     const Database opened(database, shownName);
     opened.check();
     if (!isPhotoDatabase(opened))
-        throw Failure(NotAPhotoDatabase, "'" + shownName +
-                                             "' is a SQLite database without a photo library; name "
-                                             "the Photos.sqlite of a phone or backup");
+        throw Failure(WrongKindOfFile, "'" + shownName +
+                                           "' is a SQLite database without a photo library; name "
+                                           "the Photos.sqlite of a phone or backup");
     const EntityNumbers numbers = readEntityNumbers(opened);
     const auto device = findDevice(opened, numbers, wanted);
     if (!device)

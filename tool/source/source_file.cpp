@@ -12,7 +12,7 @@ namespace {
 
 Failure cannotRead(const fs::path &file, const std::string &reason)
 {
-    return {CannotRead, "cannot read '" + file.string() + "': " + reason};
+    return {CannotAccess, "cannot read '" + file.string() + "': " + reason};
 }
 
 /// Why a file cannot be opened for reading; empty if it can.

@@ -1,8 +1,8 @@
 #include "thumbnails/cache_format.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -10,23 +10,19 @@ namespace {
 
 constexpr int probedBytes = 12; ///< at the start and at the end of a record
 
-bool isZero(ifile &file, int offset)
-{
-    std::array<char, probedBytes> bytes = {};
-    return file.seekg(offset) == 0 && file.read(bytes.data(), probedBytes) &&
-           std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte == 0; });
-}
-
 struct Fit
 {
     int plausible = 0;
     int damaged = 0;
 };
 
+/// Looks at the first records that are not empty; a large file need not be read as a whole.
 Fit fitOf(ifile &file, const ThumbFormat &format)
 {
+    constexpr int enough = 1000;
     Fit fit;
-    for (int index = recordCount(file, format) - 1; index >= 0; --index) {
+    const int count = recordCount(file, format);
+    for (int index = 0; index < count && fit.plausible + fit.damaged < enough; ++index) {
         const RecordState state = recordState(file, format, index);
         fit.plausible += state == RecordState::Plausible ? 1 : 0;
         fit.damaged += state == RecordState::Damaged ? 1 : 0;
@@ -36,14 +32,22 @@ Fit fitOf(ifile &file, const ThumbFormat &format)
 
 } // namespace
 
+bool isZero(ifile &file, long offset, int count)
+{
+    std::vector<char> bytes(static_cast<std::size_t>(count));
+    return file.seekg(offset) == 0 && file.read(bytes.data(), count) &&
+           std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte == 0; });
+}
+
 RecordState recordState(ifile &file, const ThumbFormat &format, int index)
 {
     const int start = index * format.recordSize;
     const int end = start + format.recordSize;
     if (detect_type(end, file))
         return RecordState::Plausible;
-    return isZero(file, start) && isZero(file, end - probedBytes) ? RecordState::Empty
-                                                                  : RecordState::Damaged;
+    return isZero(file, start, probedBytes) && isZero(file, end - probedBytes, probedBytes)
+               ? RecordState::Empty
+               : RecordState::Damaged;
 }
 
 int recordCount(ifile &file, const ThumbFormat &format)

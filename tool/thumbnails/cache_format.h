@@ -9,14 +9,17 @@ namespace iosphoto::tool {
 /// What a record of a cache holds.
 enum class RecordState { Empty, Plausible, Damaged };
 
+/// Whether `count` bytes from an offset are all there and 0.
+bool isZero(ifile &file, long offset, int count);
+
 RecordState recordState(ifile &file, const ThumbFormat &format, int index);
 
 /// Records of a format that fit into the file, as far as the library reaches.
 int recordCount(ifile &file, const ThumbFormat &format);
 
-/// The format in which most records of a file are plausible, the last in probe order if it is that
-/// of several; a null pointer when more records are damaged than plausible, as in any file that is
-/// no cache.
+/// The format in which most of the first thousand records that are not empty are plausible, the
+/// last in probe order if that is so in several; a null pointer when more are damaged than
+/// plausible, as in any file that is no cache.
 const ThumbFormat *findFormat(ifile &file);
 
 } // namespace iosphoto::tool

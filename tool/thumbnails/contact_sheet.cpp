@@ -1,5 +1,6 @@
 #include "thumbnails/contact_sheet.h"
 
+#include "output/interruption.h"
 #include "thumbnails/digits.h"
 #include "thumbnails/picture.h"
 
@@ -72,7 +73,9 @@ QImage drawSheet(const ThumbCache &cache, int sheet)
     image.fill(background);
     QPainter painter(&image);
     for (int place = 0; place < count; ++place) {
-        const Thumbnail &thumbnail = cache.thumbnails().at(static_cast<std::size_t>(first + place));
+        Interruption::throwIfAskedFor();
+        const auto number = static_cast<std::size_t>(first) + static_cast<std::size_t>(place);
+        const Thumbnail &thumbnail = cache.thumbnails().at(number);
         const QRect area = grid.picture(place);
         drawPicture(painter, area, pictureOf(cache.image(thumbnail)));
         drawNumber(painter, area.translated(0, area.height() + margin), thumbnail.index, ink);

@@ -9,9 +9,8 @@ namespace {
 
 constexpr int columns = 5;
 constexpr int rows = 7;
-constexpr int dot = 2; ///< pixels that a dot of a glyph is wide and high
-
-static_assert(digitAdvance == (columns + 1) * dot && digitHeight == rows * dot);
+constexpr int dot = digitHeight / rows; ///< pixels that a dot of a glyph is wide and high
+constexpr int digitAdvance = (columns + 1) * dot;
 
 constexpr std::array<std::array<const char *, rows>, 10> glyphs = {{
     {" ### ", "#   #", "#   #", "#   #", "#   #", "#   #", " ### "},

@@ -6,9 +6,7 @@
 
 namespace iosphoto::tool {
 
-/// Size of drawNumber()'s digits, with the gap behind each, in pixels.
-constexpr int digitAdvance = 12;
-constexpr int digitHeight = 14;
+constexpr int digitHeight = 14; ///< pixels
 
 /// Draws a number, centred at the top of `area`. Qt's own texts need a display's plugin and fonts,
 /// which a server lacks, and leave a folder behind.

@@ -7,7 +7,9 @@
 #include "thumbnails/contact_sheet.h"
 #include "thumbnails/picture.h"
 
-#include <QString>
+#include <QFileInfo>
+
+#include <algorithm>
 
 namespace iosphoto::tool {
 
@@ -15,9 +17,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string lowerSuffix(const fs::path &file)
+QString lowerSuffix(const fs::path &file)
 {
-    return QString::fromStdString(file.extension().string()).toLower().toStdString();
+    return QFileInfo(QString::fromStdString(file.filename().string())).suffix().toLower();
+}
+
+Failure wrongName(const std::string &file, const std::string &why)
+{
+    return {WrongUsage, "cannot write '" + file + "': " + why};
 }
 
 QByteArray content(const ThumbCache &cache, const Thumbnail &thumbnail, bool asPng)
@@ -48,18 +55,15 @@ fs::path sheetName(const fs::path &file, int sheet)
 
 WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail, const std::string &file)
 {
-    const std::string suffix = lowerSuffix(file);
-    if (!suffix.empty() && suffix != ".bmp" && suffix != ".png")
-        throw Failure(WrongUsage, "cannot write '" + file +
-                                      "': thumbnails are written as .bmp or "
-                                      ".png; name such a file");
-    writeOutput(file, content(cache, thumbnail, suffix == ".png"), cache.file());
+    const QString suffix = lowerSuffix(file);
+    if (!suffix.isEmpty() && suffix != "bmp" && suffix != "png")
+        throw wrongName(file, "thumbnails are written as .bmp or .png; name such a file");
+    writeOutput(file, content(cache, thumbnail, suffix == "png"), cache.file());
     return {{thumbnail.index, file}};
 }
 
 WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool asPng)
 {
-    const Interruption interruption;
     makeOutputFolder(folder);
     const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
     ProgressBar progress("writing thumbnails", static_cast<int>(thumbnails.size()));
@@ -78,11 +82,8 @@ WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool 
 
 WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file)
 {
-    if (lowerSuffix(file) != ".png")
-        throw Failure(WrongUsage, "cannot write '" + file +
-                                      "': a contact sheet is a PNG file; "
-                                      "name a file that ends in .png");
-    const Interruption interruption;
+    if (lowerSuffix(file) != "png")
+        throw wrongName(file, "a contact sheet is a PNG file; name one that ends in .png");
     ProgressBar progress("drawing sheets", sheetCount(cache));
     WrittenFiles written;
     for (int sheet = 0; sheet < sheetCount(cache); ++sheet) {

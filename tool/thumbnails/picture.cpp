@@ -6,6 +6,7 @@
 #include <QtEndian>
 
 #include <cstring>
+#include <new>
 
 namespace iosphoto::tool {
 
@@ -37,7 +38,8 @@ QByteArray asPng(const QImage &picture)
 {
     QBuffer buffer;
     buffer.open(QBuffer::WriteOnly);
-    picture.save(&buffer, "PNG");
+    if (!picture.save(&buffer, "PNG"))
+        throw std::bad_alloc(); // into memory, nothing else goes wrong
     return buffer.data();
 }
 

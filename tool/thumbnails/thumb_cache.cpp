@@ -2,6 +2,7 @@
 
 #include "failure.h"
 #include "ithmb/thumb_decode.h"
+#include "output/counted.h"
 #include "source/source_file.h"
 #include "thumbnails/cache_format.h"
 
@@ -11,27 +12,13 @@
 
 namespace iosphoto::tool {
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr const char *example = "120x120.ithmb of PhotoData/Thumbnails";
 
 Failure notACache(const std::string &path, const std::string &reason)
 {
-    return {NotAPhotoDatabase, "'" + path + "' " + reason + "; name one, such as " + example};
-}
-
-bool hasContent(ifile &file, long offset, long end)
-{
-    std::vector<char> bytes(static_cast<std::size_t>(end - offset));
-    return file.seekg(offset) == 0 && file.read(bytes.data(), static_cast<int>(bytes.size())) &&
-           std::any_of(bytes.begin(), bytes.end(), [](char byte) { return byte != 0; });
-}
-
-std::string counted(int count, const std::string &noun)
-{
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+    return {WrongKindOfFile, "'" + path + "' " + reason + "; name one, such as " + example};
 }
 
 } // namespace
@@ -63,9 +50,10 @@ void ThumbCache::readRecords()
             ++damagedCount_;
     }
     const long length = reader_.getlength();
-    const long end = long{recordCount_} * format_->recordSize;
     isBeyondReach_ = length > std::numeric_limits<int>::max();
-    isCutOff_ = !isBeyondReach_ && hasContent(reader_, end, length);
+    const long rest = length - long{recordCount_} * format_->recordSize;
+    isCutOff_ =
+        !isBeyondReach_ && rest > 0 && !isZero(reader_, length - rest, static_cast<int>(rest));
 }
 
 const Thumbnail &ThumbCache::at(int index) const
@@ -75,24 +63,26 @@ const Thumbnail &ThumbCache::at(int index) const
     if (found != thumbnails_.end())
         return *found;
     const std::string subject = "'" + path_ + "' has no thumbnail " + std::to_string(index) + ": ";
-    if (index >= recordCount_)
-        throw Failure(WrongUsage,
-                      subject + "its last record is " + std::to_string(recordCount_ - 1));
+    if (index >= recordCount_) {
+        const std::string last =
+            isBeyondReach_ ? "the last within 2 GiB is " : "its last record is ";
+        throw Failure(WrongUsage, subject + last + std::to_string(recordCount_ - 1));
+    }
     if (recordState(reader_, *format_, index) == RecordState::Empty)
         throw Failure(WrongUsage, subject + "that record is empty; leave out --index to see which "
                                             "are not");
-    throw Failure(CannotRead, subject + "that record is damaged; copy the file from the device "
-                                        "again");
+    throw Failure(CannotAccess, subject + "that record is damaged; copy the file from the device "
+                                          "again");
 }
 
 QByteArray ThumbCache::image(const Thumbnail &thumbnail) const
 {
     Thumbnail again = thumbnail;
     QByteArray image = decode(thumbnail.index, again);
-    if (image.isEmpty())
-        throw Failure(CannotRead, "cannot read '" + path_ +
-                                      "': it changed while it was read; copy "
-                                      "it first");
+    if (again.width != thumbnail.width || again.height != thumbnail.height ||
+        again.bytes != thumbnail.bytes)
+        throw Failure(CannotAccess,
+                      "cannot read '" + path_ + "': it changed while it was read; copy it first");
     return image;
 }
 
@@ -108,13 +98,15 @@ QByteArray ThumbCache::decode(int index, Thumbnail &thumbnail) const
 std::string ThumbCache::missing() const
 {
     std::string what;
-    const auto add = [&](const std::string &part) { what += (what.empty() ? "" : " and ") + part; };
+    const auto add = [&](const std::string &part) {
+        what += (what.empty() ? "" : ", and ") + part;
+    };
     if (damagedCount_ > 0)
-        add(counted(damagedCount_, "damaged record"));
+        add(counted(damagedCount_, "damaged record") + " (copy it from the device again)");
     if (isCutOff_)
-        add("a last record that is cut off");
+        add("a last record that is cut off (copy it from the device again)");
     if (isBeyondReach_)
-        add("the records beyond 2 GiB");
+        add("the records beyond 2 GiB, which are not reached");
     return what.empty() ? what : "'" + path_ + "' has more than is shown here: " + what;
 }
 

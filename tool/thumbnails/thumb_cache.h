@@ -53,7 +53,7 @@ private:
 
     std::string path_;
     std::filesystem::path file_;
-    mutable ifile reader_;
+    mutable ifile reader_; // reading moves its position, which is no state of ours
     const ThumbFormat *format_ = nullptr;
     int recordCount_ = 0;
     std::vector<Thumbnail> thumbnails_;
