@@ -3,6 +3,23 @@
 
 #include <cstdio>
 
+int checkThumbs(const char *cache);
+
+namespace {
+
+/// Uses the cache that checkThumbs() leaves.
+bool isThumbShown(const char *cache)
+{
+    std::vector<char> image(55178);
+    int width = 0;
+    int height = 0;
+    int size = 0;
+    return ios_photo_get_thumb(cache, 1, image.data(), width, height, size) == 0 && width == 100 &&
+           height == 80 && size == 55178 && image[0] == 'B';
+}
+
+} // namespace
+
 /// Uses everything that the package exports; exits 0 when all answers are right.
 int main(int, char **arguments)
 {
@@ -36,6 +53,12 @@ int main(int, char **arguments)
     if (cmpiOSVersion(manager.iosVersion, "9") != 8 ||
         cmpProductVersion(manager.productType, "iPhone8,1") != 6)
         return 6;
+
+    const std::string cache = std::string(arguments[1]) + ".ithmb";
+    if (const int failure = checkThumbs(cache.c_str()))
+        return failure;
+    if (!isThumbShown(cache.c_str()))
+        return 7;
     std::puts("the package works");
     return 0;
 }
