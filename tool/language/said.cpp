@@ -1,0 +1,54 @@
+#include "language/said.h"
+
+#include "chinese.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cstdlib>
+#include <map>
+
+namespace iosphoto::tool {
+
+namespace {
+
+using Texts = std::map<std::string, std::string>;
+
+Language spoken = Language::English;
+
+const Texts &chineseTexts()
+{
+    static const auto texts = nlohmann::json::parse(chinese).get<Texts>();
+    return texts;
+}
+
+} // namespace
+
+void speak(Language language)
+{
+    spoken = language;
+}
+
+Language spokenLanguage()
+{
+    return spoken;
+}
+
+Language languageOfLocale()
+{
+    for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const char *const value = std::getenv(variable);
+        if (value != nullptr && *value != '\0')
+            return std::string(value).rfind("zh", 0) == 0 ? Language::Chinese : Language::English;
+    }
+    return Language::English;
+}
+
+std::string translated(const std::string &english)
+{
+    if (spoken == Language::English)
+        return english;
+    const auto found = chineseTexts().find(english);
+    return found != chineseTexts().end() ? found->second : english;
+}
+
+} // namespace iosphoto::tool

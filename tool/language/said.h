@@ -1,0 +1,33 @@
+#ifndef IOSPHOTO_TOOL_SAID_H
+#define IOSPHOTO_TOOL_SAID_H
+
+#include <fmt/format.h>
+
+#include <string>
+
+namespace iosphoto::tool {
+
+enum class Language { English, Chinese };
+
+/// The language in which the command speaks from now on. English before.
+void speak(Language language);
+Language spokenLanguage();
+
+/// The language that the environment asks for, as LC_ALL, LC_MESSAGES and LANG say in this order.
+Language languageOfLocale();
+
+/// An English text in the language that is spoken: tool/language/chinese.json has the others. A
+/// text that is not there stays English.
+std::string translated(const std::string &english);
+
+/// The same with its places {0}, {1} ... filled in. Every text that a person reads is made here, of
+/// a literal, so that a test can tell which ones lack a translation.
+template <typename... Values>
+std::string said(const char *english, const Values &...values)
+{
+    return fmt::format(fmt::runtime(translated(english)), values...);
+}
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_SAID_H
