@@ -3,7 +3,7 @@
 #include "model/asset_codes.h"
 #include "model/camera_roll_columns.h"
 #include "model/clock.h"
-#include "model/core_data_time.h"
+#include "model/trash.h"
 #include "records/record_ownership.h"
 
 #include <cstring>
@@ -14,8 +14,6 @@ namespace {
 
 using Kind = AlbumKind;
 using Ios = IosGeneration;
-
-constexpr std::int64_t trashKeptFor = 2592000; // 30 days, in seconds
 
 enum class Search { First, Every };
 
@@ -76,15 +74,6 @@ std::vector<CAlbumGroup *> smartAlbums(std::vector<CAlbumGroup> &albums, const P
     return found;
 }
 
-/// Unix time at which an asset was trashed; 0 when the database does not say. A negative date is a
-/// number of 32 unsigned bits that has no epoch added, and so lies far in the future.
-std::int64_t trashTime(std::int32_t trashedDate)
-{
-    if (trashedDate < 0)
-        return static_cast<std::uint32_t>(trashedDate);
-    return trashedDate > 0 ? trashedDate + coreDataEpoch : 0;
-}
-
 bool isVideoType(const char *uniformTypeIdentifier)
 {
     return uniformTypeIdentifier != nullptr &&
@@ -107,7 +96,7 @@ bool SmartAlbumRules::sort(CPhotoData &photo, const Row &row) const
 {
     const bool isTrashed =
         device_.ios >= Ios::Ios8 && row.int32(camera_roll::trashedState) == inTrash;
-    if (isTrashed && isTrashedTooLong(row))
+    if (isTrashed && isTrashedTooLong(row.int32(camera_roll::trashedDate), now_))
         return false;
 
     bool isSorted = isTrashed;
@@ -136,11 +125,6 @@ void SmartAlbumRules::copyTo(AlbumKind::Code kind, const CPhotoData &photo) cons
         return;
     for (CAlbumGroup *album : target.albums)
         appendCopy(*album, photo);
-}
-
-bool SmartAlbumRules::isTrashedTooLong(const Row &row) const
-{
-    return trashTime(row.int32(camera_roll::trashedDate)) + trashKeptFor <= now_;
 }
 
 void SmartAlbumRules::sortTrashed(CPhotoData &photo) const

@@ -34,7 +34,6 @@ private:
         std::vector<CAlbumGroup *> albums;
     };
 
-    bool isTrashedTooLong(const Row &row) const;
     void copyTo(AlbumKind::Code kind, const CPhotoData &photo) const;
 
     void sortTrashed(CPhotoData &photo) const;

@@ -36,7 +36,7 @@ std::vector<const CAlbumGroup *> selectAlbums(const Library &library, const std:
     }
     if (selected.empty())
         throw Failure(WrongUsage, "no album fits '" + wanted + "'; 'iosphoto albums " +
-                                      library.database() + "' lists them");
+                                      library.name() + "' lists them");
     if (selected.size() > 1)
         notice("'" + wanted + "' fits " + std::to_string(selected.size()) +
                " albums, all are shown: " + listed);

@@ -3,7 +3,8 @@
 #include "catalogue/traits.h"
 
 #include <algorithm>
-#include <map>
+#include <numeric>
+#include <utility>
 
 namespace iosphoto::tool {
 
@@ -24,35 +25,78 @@ void merge(CPhotoData &facts, const CPhotoData &record)
         facts.burstUuid = record.burstUuid;
 }
 
-} // namespace
-
-std::vector<Asset> assetsOf(const std::vector<CAlbumGroup> &catalogue)
+std::vector<Appearance> allAppearances(const std::vector<CAlbumGroup> &catalogue)
 {
-    std::vector<Asset> assets;
-    std::map<std::string, std::size_t> indexes; // ordered: no choice of uuids makes it slow
-    for (const CAlbumGroup &album : catalogue) {
-        for (const CPhotoData *record : album.photos) {
-            const auto known = record->uuid.empty() ? indexes.end() : indexes.find(record->uuid);
-            const std::size_t index = known != indexes.end() ? known->second : assets.size();
-            if (index == assets.size()) {
-                assets.push_back({*record, {}});
-                indexes.emplace(record->uuid, index);
-            } else {
-                merge(assets[index].facts, *record);
-            }
-            std::vector<const CAlbumGroup *> &albums = assets[index].albums;
-            if (albums.empty() || albums.back() != &album)
-                albums.push_back(&album);
-        }
-    }
-    return assets;
+    std::vector<Appearance> all;
+    for (const CAlbumGroup &album : catalogue)
+        for (const CPhotoData *record : album.photos)
+            all.push_back({record, &album});
+    return all;
 }
 
-bool isShownBy(const Asset &asset, const std::vector<const CAlbumGroup *> &albums)
+/// For each appearance the index of the first one of the same asset. Sorted, not hashed: no choice
+/// of uuids makes it slow.
+std::vector<std::size_t> firstOfSame(const std::vector<Appearance> &appearances)
 {
-    return std::any_of(asset.albums.begin(), asset.albums.end(), [&](const CAlbumGroup *album) {
-        return std::find(albums.begin(), albums.end(), album) != albums.end();
+    const auto uuid = [&](std::size_t index) -> const std::string & {
+        return appearances[index].record->uuid;
+    };
+    std::vector<std::size_t> order(appearances.size());
+    std::iota(order.begin(), order.end(), std::size_t(0));
+    std::sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
+        const int compared = uuid(left).compare(uuid(right));
+        return compared < 0 || (compared == 0 && left < right);
     });
+    std::vector<std::size_t> first(appearances.size());
+    std::size_t head = 0;
+    for (const std::size_t index : order) {
+        if (uuid(index).empty() || uuid(index) != uuid(head))
+            head = index;
+        first[index] = head;
+    }
+    return first;
+}
+
+} // namespace
+
+CPhotoData Asset::facts() const
+{
+    CPhotoData facts = *first_->record;
+    for (const Appearance *other = first_ + 1; other != last_; ++other)
+        merge(facts, *other->record);
+    return facts;
+}
+
+std::vector<const CAlbumGroup *> Asset::albums() const
+{
+    std::vector<const CAlbumGroup *> albums;
+    for (const Appearance &appearance : *this)
+        if (albums.empty() || albums.back() != appearance.album)
+            albums.push_back(appearance.album);
+    return albums;
+}
+
+AssetList::AssetList(const std::vector<CAlbumGroup> &catalogue)
+{
+    const std::vector<Appearance> all = allAppearances(catalogue);
+    const std::vector<std::size_t> first = firstOfSame(all);
+
+    // Counts each asset's appearances at its first one, then gives it room from there on.
+    std::vector<std::size_t> places(all.size(), 0);
+    for (const std::size_t index : first)
+        ++places[index];
+    std::size_t end = 0;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (first[i] != i)
+            continue;
+        starts_.push_back(end);
+        end += std::exchange(places[i], end);
+    }
+    starts_.push_back(end);
+
+    appearances_.resize(all.size());
+    for (std::size_t i = 0; i < all.size(); ++i)
+        appearances_[places[first[i]]++] = all[i];
 }
 
 } // namespace iosphoto::tool

@@ -3,26 +3,62 @@
 
 #include "ios_photo.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace iosphoto::tool {
 
-/// One photo or video, put together from the records of it in all albums.
-struct Asset
+/// A record of an asset in an album.
+struct Appearance
 {
+    const CPhotoData *record;
+    const CAlbumGroup *album;
+};
+
+/// One photo or video of a catalogue: all its records, in the order of their albums. There is at
+/// least one.
+class Asset
+{
+public:
+    Asset(const Appearance *first, const Appearance *last) : first_(first), last_(last) {}
+
+    const Appearance *begin() const { return first_; }
+    const Appearance *end() const { return last_; }
+
+    const std::string &uuid() const { return first_->record->uuid; }
+
     /// The first record, with what others know besides: every flag that any of them has, and the
     /// duration, row key and burst, which not all albums read.
-    CPhotoData facts;
-    /// The albums that show it, in the catalogue's order.
-    std::vector<const CAlbumGroup *> albums;
+    CPhotoData facts() const;
+
+    /// The albums that show it, each once.
+    std::vector<const CAlbumGroup *> albums() const;
+
+private:
+    const Appearance *first_;
+    const Appearance *last_;
 };
 
 /// Every asset of a catalogue once, in the order in which its albums first show it. Assets are the
 /// same when their uuids are; records without one stand for themselves.
-std::vector<Asset> assetsOf(const std::vector<CAlbumGroup> &catalogue);
+class AssetList
+{
+public:
+    /// @param catalogue  has to outlive the list
+    explicit AssetList(const std::vector<CAlbumGroup> &catalogue);
 
-/// Whether one of `albums` shows the asset.
-bool isShownBy(const Asset &asset, const std::vector<const CAlbumGroup *> &albums);
+    std::size_t size() const { return starts_.size() - 1; }
+    Asset operator[](std::size_t index) const
+    {
+        return {&appearances_[starts_[index]], &appearances_[starts_[index]] + count(index)};
+    }
+
+private:
+    std::size_t count(std::size_t index) const { return starts_[index + 1] - starts_[index]; }
+
+    std::vector<Appearance> appearances_; ///< those of one asset side by side
+    std::vector<std::size_t> starts_;     ///< where each asset's begin; and the end
+};
 
 } // namespace iosphoto::tool
 

@@ -1,29 +1,19 @@
 #include "catalogue/library.h"
 
 #include "failure.h"
+#include "language/said.h"
+#include "model/clock.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
 #include "source/private_copy.h"
-#include "source/schema_probe.h"
 #include "source/sqlite_error_log.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace iosphoto::tool {
 
 namespace {
-
-void sayWhatWasAssumed(const Device &wanted, const Device &device)
-{
-    std::string assumed;
-    if (wanted.iosVersion.empty())
-        assumed = "iOS " + device.iosVersion + ", the newest with these tables and columns (--ios)";
-    if (wanted.productType.empty())
-        assumed += (assumed.empty() ? "" : ", and ") + device.productType +
-                   ", which hides no album (--product)";
-    if (!assumed.empty())
-        notice("reading as " + assumed);
-}
 
 bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
 {
@@ -31,14 +21,37 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
                        [](const CAlbumGroup &album) { return album.photos.empty(); });
 }
 
+/// The clock that the library reads counts 32 bits.
+std::uint32_t clockTime(std::int64_t unixTime)
+{
+    return static_cast<std::uint32_t>(
+        std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
+}
+
+std::string withReason(const std::string &what, const std::string &why)
+{
+    return why.empty() ? what : said("{0} ({1})", what, why);
+}
+
+std::string adviceToCopyAgain()
+{
+    return said("copy it from the device or the backup again, its -wal with it");
+}
+
 } // namespace
 
-Library::Library(const std::string &database, const Device &wanted)
-    : database_(database), wanted_(wanted)
+Library::Library(const LibraryRequest &request) : request_(request)
 {
-    const PrivateCopy copy(database);
-    device_ = probe(copy.database(), database, wanted);
+    const PrivateCopy copy(request.source);
+    {
+        const CopyDatabase database(copy.database(), request.source);
+        schema_ = probe(database, request.device, {});
+        trash_ = Trash(database);
+    }
+    asOf_ = {request.asOf.value_or(currentUnixTime()), ""};
+    const StoppedClock asOf(clockTime(asOf_.unixTime));
     read(copy.database());
+    leftOut_ = trash_.leftOutOf(albums_, asOf_.unixTime);
 }
 
 Library::~Library()
@@ -49,26 +62,44 @@ Library::~Library()
 void Library::read(const std::string &copy)
 {
     sqlite_error_log::clear();
-    const int result = ios_photo_get_list(copy, device_.iosVersion, device_.productType, &albums_);
-    const std::string advice = "; copy it from the device or the backup again, its -wal with it";
+    const int result =
+        ios_photo_get_list(copy, device().iosVersion, device().productType, &albums_);
     if (result != 0)
-        throw Failure(CannotAccess, "cannot read '" + database_ + "': SQLite error " +
-                                        std::to_string(-result) + advice);
+        throw Failure(CannotAccess, said("cannot read '{0}': SQLite error {1}; {2}", name(),
+                                         -result, adviceToCopyAgain()));
     const std::string error = sqlite_error_log::firstError();
     if (error.empty())
         return;
-    const std::string what = "'" + database_ + "' is damaged (" + error + ")";
     if (isWithoutPhotos(albums_))
-        throw Failure(CannotAccess, what + " and no photo could be read" + advice);
-    damage_ = what + " and photos are missing here" + advice;
-    status_ = Incomplete;
+        throw Failure(CannotAccess, said("'{0}' is damaged ({1}) and no photo could be read; {2}",
+                                         name(), error, adviceToCopyAgain()));
+    missing_.push_back(said("'{0}' is damaged ({1}) and photos are missing here; {2}", name(),
+                            error, adviceToCopyAgain()));
+}
+
+std::string Library::assumptions() const
+{
+    const std::string ios = withReason("iOS " + device().iosVersion, schema_.iosWhy);
+    const std::string product = withReason(device().productType, schema_.deviceWhy);
+    const std::string when = withReason(localTimeText(asOf_.unixTime), asOf_.why);
+    return said("reading as {0} and {1}, as of {2}", ios, product, when);
 }
 
 void Library::sayHowItWasRead() const
 {
-    sayWhatWasAssumed(wanted_, device_);
-    if (!damage_.empty())
-        notice(damage_);
+    std::string line;
+    if (!(schema_.iosWhy.empty() && schema_.deviceWhy.empty() && asOf_.why.empty()))
+        line = assumptions();
+    if (leftOut_ > 0)
+        line +=
+            (line.empty() ? "" : "; ") +
+            said("left out since they were in the trash for 30 days: {0} (see --as-of)", leftOut_);
+    if (!line.empty())
+        notice(line);
+    if (!schema_.warning.empty())
+        notice(schema_.warning);
+    for (const std::string &text : missing_)
+        notice(text);
 }
 
 } // namespace iosphoto::tool

@@ -1,14 +1,25 @@
 #ifndef IOSPHOTO_TOOL_LIBRARY_H
 #define IOSPHOTO_TOOL_LIBRARY_H
 
+#include "catalogue/moment.h"
+#include "catalogue/trash.h"
 #include "exit_status.h"
 #include "ios_photo.h"
-#include "source/device.h"
+#include "source/schema_probe.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace iosphoto::tool {
+
+/// Which library to read, and as what.
+struct LibraryRequest
+{
+    std::string source;
+    Device device;                    ///< as far as the user named it
+    std::optional<std::int64_t> asOf; ///< Unix time; by default the source's own time
+};
 
 /// A photo library that was read, with the records of its catalogue.
 class Library
@@ -16,30 +27,39 @@ class Library
 public:
     /// Reads the database through a private copy, which is gone when this returns. Throws Failure
     /// when the library cannot be read.
-    Library(const std::string &database, const Device &wanted);
+    explicit Library(const LibraryRequest &request);
     ~Library();
     Library(const Library &) = delete;
     Library &operator=(const Library &) = delete;
 
-    const std::string &database() const { return database_; }
-    const Device &device() const { return device_; }
+    const std::string &name() const { return request_.source; } ///< as the user named it
+    const Device &device() const { return schema_.device; }
+    const ProbedSchema &schema() const { return schema_; }
     const std::vector<CAlbumGroup> &albums() const { return albums_; }
+    const Moment &asOf() const { return asOf_; }
+    const Trash &trash() const { return trash_; }
 
-    /// Good, or Incomplete when damage cut the reading short.
-    ExitStatus status() const { return status_; }
+    /// How many assets are left out since they were in the trash for too long.
+    int leftOut() const { return leftOut_; }
 
-    /// Says on stderr what was assumed about the device, and what is missing.
+    /// Good, or Incomplete when something is missing from what was read.
+    ExitStatus status() const { return missing_.empty() ? Good : Incomplete; }
+
+    /// Says on stderr in one line what was assumed and what is left out, and in others what does
+    /// not agree and what is missing.
     void sayHowItWasRead() const;
 
 private:
     void read(const std::string &copy);
+    std::string assumptions() const;
 
-    std::string database_;
-    Device wanted_;
-    Device device_;
+    LibraryRequest request_;
+    ProbedSchema schema_;
+    Moment asOf_ = {};
+    Trash trash_;
     std::vector<CAlbumGroup> albums_;
-    ExitStatus status_ = Good;
-    std::string damage_;
+    int leftOut_ = 0;
+    std::vector<std::string> missing_;
 };
 
 } // namespace iosphoto::tool

@@ -1,10 +1,20 @@
-#include "commands/albums.h"
-
 #include "catalogue/album_kinds.h"
+#include "catalogue/library.h"
+#include "commands/command.h"
+#include "commands/library_options.h"
+#include "language/said.h"
 #include "output/json_document.h"
 #include "output/text_table.h"
 
 namespace iosphoto::tool {
+
+namespace {
+
+struct AlbumsRequest
+{
+    LibraryRequest library;
+    bool asJson = false;
+};
 
 void printAlbums(const Library &library, std::ostream &out)
 {
@@ -30,6 +40,26 @@ void printAlbumsAsJson(const Library &library, std::ostream &out)
         albums.push_back(std::move(entry));
     }
     print(document, out);
+}
+
+ExitStatus showAlbums(const AlbumsRequest &request, std::ostream &out)
+{
+    const Library library(request.library);
+    library.sayHowItWasRead();
+    (request.asJson ? printAlbumsAsJson : printAlbums)(library, out);
+    return library.status();
+}
+
+} // namespace
+
+Command addAlbums(CLI::App &app)
+{
+    const auto request = std::make_shared<AlbumsRequest>();
+    CLI::App *command = app.add_subcommand("albums", said("List the albums of a library"));
+    addLibraryOptions(*command, request->library);
+    command->add_flag("--json", request->asJson, said("print a JSON document"));
+    command->footer(said("Example:") + "\n  iosphoto albums Photos.sqlite");
+    return {command, [request](std::ostream &out) { return showAlbums(*request, out); }};
 }
 
 } // namespace iosphoto::tool

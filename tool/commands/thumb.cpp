@@ -1,5 +1,6 @@
-#include "commands/thumb.h"
-
+#include "commands/command.h"
+#include "commands/looks_like.h"
+#include "language/said.h"
 #include "output/counted.h"
 #include "output/interruption.h"
 #include "output/json_document.h"
@@ -8,9 +9,24 @@
 #include "output/text_table.h"
 #include "thumbnails/export.h"
 
+#include <limits>
+#include <optional>
+
 namespace iosphoto::tool {
 
 namespace {
+
+/// What `iosphoto thumb` is asked for. With none of index, all and sheet: the list.
+struct ThumbRequest
+{
+    std::string cache;
+    std::optional<int> index;          ///< write this thumbnail to `output`
+    bool all = false;                  ///< write all thumbnails into the folder `output`
+    std::optional<std::string> sheet;  ///< draw all on a contact sheet
+    std::optional<std::string> output; ///< there with index and all
+    bool asPng = false;                ///< with `all`
+    bool asJson = false;
+};
 
 void printList(const ThumbCache &cache, std::ostream &out)
 {
@@ -72,10 +88,10 @@ WrittenFiles writePictures(const ThumbCache &cache, const ThumbRequest &request)
     return request.all ? exportAll(cache, *request.output, request.asPng) : WrittenFiles();
 }
 
-} // namespace
-
 ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
 {
+    if (request.output && !request.index && !request.all)
+        throw Failure(WrongUsage, said("--output requires --index or --all; see iosphoto --help"));
     const ThumbCache cache(request.cache);
     WrittenFiles pictures;
     WrittenFiles sheets;
@@ -96,6 +112,48 @@ ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
         return Good;
     notice(cache.missing());
     return Incomplete;
+}
+
+} // namespace
+
+Command addThumb(CLI::App &app)
+{
+    const auto request = std::make_shared<ThumbRequest>();
+    CLI::App &thumb =
+        *app.add_subcommand("thumb", said("List or write the pictures of a thumbnail cache"));
+    thumb
+        .add_option("CACHE", request->cache,
+                    "thumbnail cache, such as .../Thumbnails/120x120.ithmb")
+        ->required();
+    CLI::Option *output = thumb.add_option("-o,--output", request->output,
+                                           "file (--index) or folder (--all) to write");
+    // As text: files are named "0010.bmp", and a zero in front must not make the index octal.
+    const auto takeIndex = [request](const std::string &digits) {
+        bool isInt = false;
+        const int index = QString::fromStdString(digits).toInt(&isInt);
+        request->index = isInt ? index : std::numeric_limits<int>::max();
+    };
+    CLI::Option *index = thumb
+                             .add_option_function<std::string>(
+                                 "--index", takeIndex, "write this thumbnail, as .bmp or .png")
+                             ->check(looksLike("[0-9]+", "7"))
+                             ->needs(output);
+    CLI::Option *all = thumb.add_flag("--all", request->all, "write all thumbnails")
+                           ->needs(output)
+                           ->excludes(index);
+    thumb.add_flag("--png", request->asPng, "write PNG files instead of BMP")->needs(all);
+    CLI::Option *sheet = thumb.add_option("--sheet", request->sheet,
+                                          "draw all on a contact sheet, a .png file; from 501 on "
+                                          "also on FILE-2.png and so on");
+    sheet->excludes(index, all, output);
+    output->check(notEmpty());
+    sheet->check(notEmpty());
+    thumb.add_flag("--json", request->asJson, "print a JSON document");
+    thumb.footer("Examples:\n  iosphoto thumb 120x120.ithmb\n"
+                 "  iosphoto thumb 120x120.ithmb --index 7 -o photo.png\n"
+                 "  iosphoto thumb 120x120.ithmb --all -o thumbnails\n"
+                 "  iosphoto thumb 120x120.ithmb --sheet sheet.png");
+    return {&thumb, [request](std::ostream &out) { return showThumbnails(*request, out); }};
 }
 
 } // namespace iosphoto::tool

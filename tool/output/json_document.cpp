@@ -3,15 +3,14 @@
 #include "catalogue/album_kinds.h"
 #include "model/core_data_time.h"
 
-#include <QDateTime>
-
 namespace iosphoto::tool {
 
 Json libraryHead(const Library &library)
 {
-    return {{"database", library.database()},
+    return {{"source", library.name()},
             {"iosVersion", library.device().iosVersion},
             {"productType", library.device().productType},
+            {"asOf", textOrNull(utcTimeText(library.asOf().unixTime))},
             {"isComplete", library.status() == Good}};
 }
 
@@ -40,8 +39,7 @@ Json utcTime(double coreDataSeconds)
     constexpr double years = 366.0 * 24 * 60 * 60;
     if (!(coreDataSeconds > -9999 * years && coreDataSeconds < 9999 * years))
         return {};
-    const std::int64_t unixTime = wholeSeconds(coreDataSeconds) + coreDataEpoch;
-    return textOrNull(QDateTime::fromSecsSinceEpoch(unixTime, Qt::UTC).toString(Qt::ISODate));
+    return textOrNull(utcTimeText(wholeSeconds(coreDataSeconds) + coreDataEpoch));
 }
 
 void print(const Json &document, std::ostream &out)

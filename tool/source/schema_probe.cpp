@@ -1,192 +1,139 @@
 #include "source/schema_probe.h"
 
-#include "failure.h"
-#include "model/statement_tables.h"
-
-#include <sqlite3.h>
-
-#include <algorithm>
-#include <iterator>
-#include <memory>
-#include <optional>
+#include "language/said.h"
 
 namespace iosphoto::tool {
 
 namespace {
 
-/// One kind of schema: the newest device that writes it.
-struct KnownSchema
+void requirePhotoDatabase(const CopyDatabase &database)
 {
-    const char *iosVersion;
-    const char *productType;
-    /// A column of ZADDITIONALASSETATTRIBUTES that this schema no longer has, where the columns
-    /// that its statements read do not tell it from the one before.
-    const char *goneColumn = nullptr;
-};
-
-constexpr char hidesNoAlbum[] = "iPhone14,2";
-constexpr char withoutIos7SubTypes[] = "iPhone3,1";
-
-constexpr KnownSchema newestFirst[] = {
-    {"18", hidesNoAlbum}, {"17", hidesNoAlbum, "ZCREATORBUNDLEID"},
-    {"14", hidesNoAlbum}, {"13", hidesNoAlbum},
-    {"10", hidesNoAlbum}, {"8", hidesNoAlbum},
-    {"7", hidesNoAlbum},  {"7", withoutIos7SubTypes},
-    {"6", hidesNoAlbum},
-};
-
-/// A connection to a private copy.
-class Database
-{
-public:
-    Database(const std::string &file, std::string shownName) : shownName_(std::move(shownName))
-    {
-        sqlite3 *connection = nullptr;
-        const int opened = sqlite3_open(file.c_str(), &connection);
-        connection_.reset(connection);
-        if (opened != SQLITE_OK)
-            throw unreadable();
-    }
-
-    /// Throws Failure when the file is no database that can be read.
-    void check() const
-    {
-        // Reads the first page, and so meets a wrong header, an encrypted file and a bad journal.
-        const int result = sqlite3_exec(connection_.get(), "select name from sqlite_master",
-                                        nullptr, nullptr, nullptr);
-        if (result == SQLITE_NOTADB)
-            throw Failure(WrongKindOfFile,
-                          "'" + shownName_ +
-                              "' is not a SQLite database, or it is encrypted; name the "
-                              "Photos.sqlite of a phone or of an unencrypted backup");
-        if (result != SQLITE_OK)
-            throw unreadable();
-    }
-
-    bool hasTable(const char *table) const { return hasColumn(table, nullptr); }
-
-    bool hasColumn(const char *table, const char *column) const
-    {
-        return sqlite3_table_column_metadata(connection_.get(), nullptr, table, column, nullptr,
-                                             nullptr, nullptr, nullptr, nullptr) == SQLITE_OK;
-    }
-
-    bool prepares(const QString &statement) const { return prepare(statement) != nullptr; }
-
-    /// A number that a lookup finds, in its last row; 0 when it finds none.
-    std::int32_t number(const Statement &lookup, int column) const
-    {
-        const auto statement = prepare(QString::fromUtf8(lookup.text));
-        if (statement == nullptr)
-            return 0;
-        std::int32_t found = 0;
-        int result = SQLITE_ROW;
-        while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
-            found = sqlite3_column_int(statement.get(), column);
-        if (result != SQLITE_DONE)
-            throw unreadable();
-        return found;
-    }
-
-private:
-    struct Close
-    {
-        void operator()(sqlite3 *connection) const { sqlite3_close(connection); }
-        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
-    };
-
-    std::unique_ptr<sqlite3_stmt, Close> prepare(const QString &text) const
-    {
-        sqlite3_stmt *statement = nullptr;
-        sqlite3_prepare_v2(connection_.get(), text.toUtf8().constData(), -1, &statement, nullptr);
-        return std::unique_ptr<sqlite3_stmt, Close>(statement);
-    }
-
-    Failure unreadable() const
-    {
-        return {CannotAccess, "cannot read '" + shownName_ +
-                                  "': " + sqlite3_errmsg(connection_.get()) +
-                                  "; copy it from the device or the backup again"};
-    }
-
-    std::unique_ptr<sqlite3, Close> connection_;
-    std::string shownName_;
-};
-
-bool isPhotoDatabase(const Database &database)
-{
-    return database.hasTable("Z_PRIMARYKEY") && database.hasTable("ZGENERICALBUM") &&
-           database.hasTable("ZADDITIONALASSETATTRIBUTES") &&
-           (database.hasTable("ZASSET") || database.hasTable("ZGENERICASSET"));
+    if (database.hasTable("PhotoAlbum") && database.hasTable("PhotoExtras"))
+        throw Failure(SchemaDoesNotFit,
+                      said("'{0}' is a photo database of iOS 5 or earlier, which is not known; "
+                           "libraries of iOS 6 to 18 can be read",
+                           database.shownName()));
+    if (!database.hasTable("Z_PRIMARYKEY") || !database.hasTable("ZGENERICALBUM") ||
+        !database.hasTable("ZADDITIONALASSETATTRIBUTES") || database.assetTable().empty())
+        throw Failure(WrongKindOfFile, said("'{0}' is a SQLite database without a photo library; "
+                                            "name the Photos.sqlite of a phone or backup",
+                                            database.shownName()));
 }
 
-EntityNumbers readEntityNumbers(const Database &database)
+/// Whether the model number and the tables tell of the same iOS.
+bool agree(const std::optional<int> &iosMajor, const KnownSchema *schema)
 {
-    return {database.number(albumEntityStatement, 0),
-            database.number(photoStreamAlbumEntityStatement, 0),
-            database.number(assetEntityStatement, 0), database.number(assetEntityStatement, 1)};
+    if (!iosMajor)
+        return false;
+    return schema == nullptr || (*iosMajor >= schema->firstIos && *iosMajor <= schema->lastIos) ||
+           (schema == &newestSchema() && *iosMajor > schema->lastIos);
 }
 
-/// Whether every statement that the library chooses for the device runs on the database.
-bool statementsFit(const Database &database, const EntityNumbers &numbers, const Device &device)
+std::string modelWords(const StoreMetadata &metadata)
 {
-    const DeviceProfile profile(device.iosVersion, QString::fromStdString(device.productType));
-    const StatementTable *const tables[] = {&cameraRollStatements, &photoLibraryStatements,
-                                            &userAlbumStatements, &albumContentsStatements};
-    return std::all_of(std::begin(tables), std::end(tables), [&](const StatementTable *table) {
-        return database.prepares(filledIn(choose(*table, profile), numbers));
-    });
+    const std::string model = std::to_string(*metadata.modelVersion);
+    if (metadata.isOfMac())
+        return said("schema {0} of a Mac, build {1}", model, metadata.build);
+    return metadata.build.empty() ? said("schema {0}", model)
+                                  : said("schema {0}, build {1}", model, metadata.build);
 }
 
-Device completed(const Device &wanted, const KnownSchema &schema)
+void decideIos(ProbedSchema &probed, const Device &wanted, const SourceDevice &says,
+               const KnownSchema *schema)
 {
-    return {wanted.iosVersion.empty() ? schema.iosVersion : wanted.iosVersion,
-            wanted.productType.empty() ? schema.productType : wanted.productType};
-}
-
-std::optional<Device> findDevice(const Database &database, const EntityNumbers &numbers,
-                                 const Device &wanted)
-{
-    for (const KnownSchema &schema : newestFirst) {
-        const bool isOlder = schema.goneColumn != nullptr && wanted.iosVersion.empty() &&
-                             database.hasColumn("ZADDITIONALASSETATTRIBUTES", schema.goneColumn);
-        const Device device = completed(wanted, schema);
-        if (!isOlder && statementsFit(database, numbers, device))
-            return device;
+    probed.iosBuild = says.build.empty() ? probed.metadata.build : says.build;
+    if (!wanted.iosVersion.empty()) {
+        probed.device.iosVersion = wanted.iosVersion;
+    } else if (!says.device.iosVersion.empty()) {
+        probed.device.iosVersion = says.device.iosVersion;
+        probed.iosWhy = says.file;
+    } else if (const auto major = probed.metadata.iosMajor(); agree(major, schema)) {
+        probed.device.iosVersion = std::to_string(*major);
+        probed.iosWhy = modelWords(probed.metadata);
+    } else if (schema != nullptr) {
+        probed.device.iosVersion = schema->iosVersion;
+        probed.iosWhy = said("the newest with these tables and columns");
     }
-    return std::nullopt;
 }
 
-Failure noFit(const Database &database, const EntityNumbers &numbers, const std::string &shownName,
-              const Device &wanted)
+void decideProduct(ProbedSchema &probed, const Device &wanted, const SourceDevice &says,
+                   const KnownSchema *schema)
 {
-    const std::string subject = "'" + shownName + "' is a photo database";
-    const auto fitting = findDevice(database, numbers, {});
-    if (!fitting)
-        return {SchemaDoesNotFit,
-                subject + " of no known schema: no iOS from 6 to 18 has these tables"};
-    const std::string given =
-        (wanted.iosVersion.empty() ? "" : " --ios " + wanted.iosVersion) +
-        (wanted.productType.empty() ? "" : " --product " + wanted.productType);
-    return {SchemaDoesNotFit, subject + ", but not of" + given + "; try --ios " +
-                                  fitting->iosVersion + " --product " + fitting->productType};
+    if (!wanted.productType.empty()) {
+        probed.device.productType = wanted.productType;
+    } else if (!says.device.productType.empty()) {
+        probed.device.productType = says.device.productType;
+        probed.deviceWhy = says.file;
+    } else {
+        probed.device.productType =
+            schema != nullptr ? schema->productType : productThatHidesNoAlbum;
+        probed.deviceWhy = said("hides no album");
+    }
+}
+
+std::string disagreement(const ProbedSchema &probed, const KnownSchema *schema)
+{
+    const int major = std::atoi(probed.device.iosVersion.c_str());
+    const KnownSchema &newest = newestSchema();
+    if (major > newest.lastIos && (schema == nullptr || schema == &newest))
+        return said("iOS {0} is newer than all that are known, so it is read like iOS {1}; check "
+                    "a few photos against the device",
+                    probed.device.iosVersion, newest.lastIos);
+    const std::optional<int> model = probed.metadata.iosMajor();
+    const bool modelTells = agree(model, schema);
+    const int first = modelTells ? *model : schema != nullptr ? schema->firstIos : major;
+    const int last = modelTells ? *model : schema != nullptr ? schema->lastIos : major;
+    if (major >= first && major <= last)
+        return {};
+    const std::string name = first == last ? fmt::format("iOS {}", last) : schema->name();
+    return said("the database has the schema of {0}, not of iOS {1}, and photos may be wrong or "
+                "missing; try --ios {2}",
+                name, probed.device.iosVersion, last);
+}
+
+std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)
+{
+    const std::optional<int> model = probed.metadata.iosMajor();
+    return agree(model, &schema) ? std::to_string(*model) : schema.iosVersion;
+}
+
+Failure noFit(const CopyDatabase &database, const ProbedSchema &probed, const KnownSchema *schema)
+{
+    if (schema == nullptr) {
+        const std::optional<int> major = probed.metadata.iosMajor();
+        if (major && *major > newestSchema().lastIos)
+            return {SchemaDoesNotFit,
+                    said("'{0}' is a photo database of iOS {1}, whose schema is not known yet; "
+                         "look for a newer iosphoto",
+                         database.shownName(), *major)};
+        return {SchemaDoesNotFit, said("'{0}' is a photo database of no known schema: no iOS from "
+                                       "6 to 18 has these tables",
+                                       database.shownName())};
+    }
+    return {SchemaDoesNotFit,
+            said("'{0}' is a photo database, but not of iOS {1} and {2}; try --ios {3} --product "
+                 "{4}",
+                 database.shownName(), probed.device.iosVersion, probed.device.productType,
+                 fittingIos(probed, *schema), schema->productType)};
 }
 
 } // namespace
 
-Device probe(const std::string &database, const std::string &shownName, const Device &wanted)
+ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const SourceDevice &says)
 {
-    const Database opened(database, shownName);
-    opened.check();
-    if (!isPhotoDatabase(opened))
-        throw Failure(WrongKindOfFile, "'" + shownName +
-                                           "' is a SQLite database without a photo library; name "
-                                           "the Photos.sqlite of a phone or backup");
-    const EntityNumbers numbers = readEntityNumbers(opened);
-    const auto device = findDevice(opened, numbers, wanted);
-    if (!device)
-        throw noFit(opened, numbers, shownName, wanted);
-    return *device;
+    database.check();
+    requirePhotoDatabase(database);
+    ProbedSchema probed;
+    probed.metadata = readStoreMetadata(database);
+    probed.numbers = readEntityNumbers(database);
+    const KnownSchema *const schema = findSchema(database, probed.numbers);
+    decideIos(probed, wanted, says, schema);
+    decideProduct(probed, wanted, says, schema);
+    if (probed.device.iosVersion.empty() || !statementsFit(database, probed.numbers, probed.device))
+        throw noFit(database, probed, schema);
+    probed.warning = disagreement(probed, schema);
+    probed.name = schema != nullptr ? schema->name() : "iOS " + probed.device.iosVersion;
+    return probed;
 }
 
 } // namespace iosphoto::tool

@@ -1,20 +1,33 @@
 #ifndef IOSPHOTO_TOOL_SCHEMA_PROBE_H
 #define IOSPHOTO_TOOL_SCHEMA_PROBE_H
 
+#include "source/copy_database.h"
 #include "source/device.h"
+#include "source/known_schemas.h"
+#include "source/store_metadata.h"
 
 #include <string>
 
 namespace iosphoto::tool {
 
-/// Makes sure that a database is a photo database whose statements run, and finds the device to
-/// read it as: `wanted`, completed with the newest iOS whose tables and columns the database has
-/// and with a product type that hides no album.
+/// What a probe found out about a photo database.
+struct ProbedSchema
+{
+    Device device;         ///< to read it as; complete
+    std::string iosBuild;  ///< of the system, or of the one that made the schema; may be empty
+    std::string iosWhy;    ///< where the version comes from; empty if the user named it
+    std::string deviceWhy; ///< likewise the product type
+    std::string warning;   ///< that version and schema disagree; empty if they do not
+    std::string name;      ///< of the schema, such as "iOS 15 to 17"
+    StoreMetadata metadata;
+    EntityNumbers numbers;
+};
+
+/// Makes sure that a database is a photo database whose statements run, and decides which device
+/// to read it as: what the user wants, else what the source says, else what the schema says.
 ///
-/// Throws Failure when the database is something else or fits no device. May roll back a journal:
-/// for private copies only.
-/// @param shownName  the file as the user named it, for messages
-Device probe(const std::string &database, const std::string &shownName, const Device &wanted);
+/// Throws Failure when the database is something else or does not fit the device.
+ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const SourceDevice &says);
 
 } // namespace iosphoto::tool
 

@@ -1,0 +1,57 @@
+#include "catalogue/moment.h"
+
+#include "failure.h"
+#include "language/said.h"
+#include "model/clock.h"
+
+#include <QDateTime>
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr char timeFormat[] = "yyyy-MM-dd HH:mm t";
+
+TimeSpan spanOf(const QDateTime &first, int seconds)
+{
+    const std::int64_t start = first.toSecsSinceEpoch();
+    return {start, start + seconds - 1};
+}
+
+} // namespace
+
+TimeSpan parseTime(const std::string &text, const std::string &option)
+{
+    if (text == "now")
+        return {currentUnixTime(), currentUnixTime()};
+    const QString written = QString::fromStdString(text).trimmed().replace(' ', 'T');
+    constexpr int dayLength = 10;
+    if (written.size() == dayLength) {
+        const QDate day = QDate::fromString(written, Qt::ISODate);
+        if (day.isValid())
+            return {day.startOfDay().toSecsSinceEpoch(), day.endOfDay().toSecsSinceEpoch()};
+    } else if (const auto time = QDateTime::fromString(written, Qt::ISODate); time.isValid()) {
+        constexpr int lengthWithoutSeconds = 16; // "2024-05-01T12:30"
+        const bool hasSeconds =
+            written.size() > lengthWithoutSeconds && written.at(lengthWithoutSeconds) == ':';
+        return spanOf(time, hasSeconds ? 1 : 60);
+    }
+    throw Failure(WrongUsage, said("{0}: '{1}' is no time; write it like 2024-05-01, "
+                                   "'2024-05-01 12:30', 2024-05-01T12:30:00Z or now",
+                                   option, text));
+}
+
+std::string localTimeText(std::int64_t unixTime)
+{
+    return QDateTime::fromSecsSinceEpoch(unixTime).toString(timeFormat).toStdString();
+}
+
+std::string utcTimeText(std::int64_t unixTime)
+{
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(unixTime, Qt::UTC);
+    const int year = time.date().year();
+    constexpr int lastYear = 9999;
+    return year >= 1 && year <= lastYear ? time.toString(Qt::ISODate).toStdString() : "";
+}
+
+} // namespace iosphoto::tool

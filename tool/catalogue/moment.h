@@ -1,0 +1,36 @@
+#ifndef IOSPHOTO_TOOL_MOMENT_H
+#define IOSPHOTO_TOOL_MOMENT_H
+
+#include <cstdint>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// A time that somebody wrote: from its first second to its last, which for a day are a day apart.
+struct TimeSpan
+{
+    std::int64_t first; ///< Unix time
+    std::int64_t last;
+};
+
+/// Reads "2024-05-01", "2024-05-01 12:30", "2024-05-01T12:30:00Z", "2024-05-01T12:30+02:00" and, as
+/// the present, "now". Local time where no zone is named. Throws Failure for anything else.
+/// @param option  that has the text, for the message
+TimeSpan parseTime(const std::string &text, const std::string &option);
+
+/// The moment that a library is read as of.
+struct Moment
+{
+    std::int64_t unixTime;
+    std::string why; ///< such as "Last Backup Date"; empty if the user named it
+};
+
+/// "2024-05-01 14:30 CEST": local, for people.
+std::string localTimeText(std::int64_t unixTime);
+
+/// "2024-05-01T12:30:00Z", for documents; empty beyond the years 1 to 9999.
+std::string utcTimeText(std::int64_t unixTime);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_MOMENT_H

@@ -1,0 +1,35 @@
+#include "commands/library_options.h"
+
+#include "commands/looks_like.h"
+#include "language/said.h"
+
+namespace iosphoto::tool {
+
+void addLibraryOptions(CLI::App &command, LibraryRequest &request)
+{
+    command
+        .add_option("SOURCE", request.source,
+                    said("Photos.sqlite, media folder, backup folder, or a zip or tar of one"))
+        ->required();
+    addDeviceOptions(command, request.device);
+    command.add_option_function<std::string>(
+        "--as-of",
+        [&request](const std::string &text) { request.asOf = parseTime(text, "--as-of").first; },
+        said("read the library as it was at this time, such as 2024-05-01 or now (default: when "
+             "the source was made)"));
+}
+
+void addDeviceOptions(CLI::App &command, Device &device)
+{
+    command
+        .add_option("--ios", device.iosVersion,
+                    said("iOS version, such as 17.4 (default: that of the source)"))
+        ->check(looksLike("[0-9]+(\\.[0-9]+)*[a-z]?", "17.4"));
+    command
+        .add_option("--product", device.productType,
+                    said("product type, such as iPhone14,2 (default: that of the source, or one "
+                         "that hides no album)"))
+        ->check(looksLike("[A-Za-z]+[0-9]+,[0-9]+", "iPhone14,2"));
+}
+
+} // namespace iosphoto::tool

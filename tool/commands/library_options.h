@@ -1,0 +1,18 @@
+#ifndef IOSPHOTO_TOOL_LIBRARY_OPTIONS_H
+#define IOSPHOTO_TOOL_LIBRARY_OPTIONS_H
+
+#include "catalogue/library.h"
+
+#include <CLI/CLI.hpp>
+
+namespace iosphoto::tool {
+
+/// Adds the options that say which library to read, and as what.
+void addLibraryOptions(CLI::App &command, LibraryRequest &request);
+
+/// Adds --ios and --product.
+void addDeviceOptions(CLI::App &command, Device &device);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_LIBRARY_OPTIONS_H

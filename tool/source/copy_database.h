@@ -1,0 +1,76 @@
+#ifndef IOSPHOTO_TOOL_COPY_DATABASE_H
+#define IOSPHOTO_TOOL_COPY_DATABASE_H
+
+#include "failure.h"
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// A row that a query of the tool's own found; its columns count from 0.
+class QueryRow
+{
+public:
+    explicit QueryRow(sqlite3_stmt *statement) : statement_(statement) {}
+
+    bool isNull(int column) const;
+    std::string text(int column) const; ///< of a blob its bytes
+    std::int32_t int32(int column) const { return sqlite3_column_int(statement_, column); }
+    std::int64_t int64(int column) const { return sqlite3_column_int64(statement_, column); }
+    double real(int column) const { return sqlite3_column_double(statement_, column); }
+
+private:
+    sqlite3_stmt *statement_;
+};
+
+/// The tool's own connection to a private copy, for what the library does not tell.
+class CopyDatabase
+{
+public:
+    enum class View { WithLog, WithoutLog };
+
+    /// Throws Failure when the file cannot be opened. The first reading may roll back a journal;
+    /// the log is never moved into the database.
+    /// @param shownName  the database as the user knows it, for messages
+    /// @param view       whether to see what the write-ahead log holds
+    CopyDatabase(const std::string &file, std::string shownName, View view = View::WithLog);
+
+    /// Throws Failure when the file is no database that can be read.
+    void check() const;
+
+    bool hasTable(const std::string &table) const;
+    bool hasColumn(const std::string &table, const std::string &column) const;
+    bool prepares(const std::string &statement) const;
+
+    /// Hands each row of a query to `take`. A query that does not fit the schema has no rows.
+    /// Throws Failure when the reading fails.
+    void forEachRow(const std::string &query,
+                    const std::function<void(const QueryRow &)> &take) const;
+
+    /// "ZASSET", or before iOS 14 "ZGENERICASSET"; empty in a database without photos.
+    std::string assetTable() const;
+
+    const std::string &shownName() const { return shownName_; }
+
+private:
+    struct Close
+    {
+        void operator()(sqlite3 *connection) const { sqlite3_close(connection); }
+        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
+    };
+
+    std::unique_ptr<sqlite3_stmt, Close> prepare(const std::string &text) const;
+    Failure unreadable() const;
+
+    std::unique_ptr<sqlite3, Close> connection_;
+    std::string shownName_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_COPY_DATABASE_H
