@@ -166,6 +166,19 @@ AlbumRow LibraryBuilder::photoStream()
     return {*this, insertAlbum(schema_.photoStreamAlbum, "My Photo Stream")};
 }
 
+void LibraryBuilder::madeBy(std::int64_t modelVersion, const std::string &build)
+{
+    execute("create table if not exists Z_METADATA (Z_VERSION integer primary key, Z_UUID varchar,"
+            " Z_PLIST blob)");
+    run("replace into Z_METADATA values (1, 'M', ?)",
+        Blob{"<plist version=\"1.0\"><dict><key>PLModelVersion</key><integer>" +
+             std::to_string(modelVersion) + "</integer></dict></plist>"});
+    if (build.empty())
+        return;
+    execute("create table if not exists ZMIGRATIONHISTORY (ZINDEX integer, ZOSVERSION varchar)");
+    run("insert into ZMIGRATIONHISTORY select count(*), ? from ZMIGRATIONHISTORY", build);
+}
+
 int LibraryBuilder::insertAlbum(int entity, const Value &title)
 {
     const int key = ++albums_;

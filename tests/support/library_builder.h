@@ -84,6 +84,9 @@ public:
     AlbumRow album(const Value &title);
     AlbumRow photoStream();
 
+    /// Notes in the database which schema it has, and which system made it if `build` is given.
+    void madeBy(std::int64_t modelVersion, const std::string &build = "");
+
     void execute(const std::string &sql);
     /// The number that a query finds.
     int number(const std::string &query);

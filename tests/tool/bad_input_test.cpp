@@ -18,7 +18,7 @@ protected:
 TEST_F(ToolBadInput, WrongUsage)
 {
     expectFailure(runTool({}), "A subcommand is required", 2);
-    expectFailure(runTool({"albums"}), "DATABASE is required", 2);
+    expectFailure(runTool({"albums"}), "SOURCE is required", 2);
     expectFailure(runTool({"sing", "a.sqlite"}), "", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--loud"}), "", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--ios", "new"}),
@@ -96,8 +96,9 @@ TEST_F(ToolBadInput, SchemaThatDoesNotFit)
 {
     LibraryBuilder library(ios15);
     const std::string subject = "'" + library.path() + "' is a photo database";
-    expectFailure(runTool({"albums", library.path(), "--ios", "18.0"}),
-                  subject + ", but not of --ios 18.0; try --ios 17 --product iPhone14,2\n", 5);
+    expectFailure(
+        runTool({"albums", library.path(), "--ios", "18.0"}),
+        subject + ", but not of iOS 18.0 and iPhone14,2; try --ios 17 --product iPhone14,2\n", 5);
     library.execute("alter table ZASSET rename column ZFILENAME to ZNAMEOFFILE");
     expectFailure(runTool({"albums", library.path()}), subject + " of no known schema", 5);
 }

@@ -28,11 +28,6 @@ std::uint32_t clockTime(std::int64_t unixTime)
         std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
 }
 
-std::string withReason(const std::string &what, const std::string &why)
-{
-    return why.empty() ? what : said("{0} ({1})", what, why);
-}
-
 std::string adviceToCopyAgain()
 {
     return said("copy it from the device or the backup again, its -wal with it");
@@ -47,6 +42,9 @@ Library::Library(const LibraryRequest &request) : request_(request)
         const CopyDatabase database(copy.database(), request.source);
         schema_ = probe(database, request.device, {});
         trash_ = Trash(database);
+        hasLog_ = copy.hasLog();
+        if (hasLog_ && request.comparesLog)
+            logChanges_ = readLogChanges(database);
     }
     asOf_ = {request.asOf.value_or(currentUnixTime()), ""};
     const StoppedClock asOf(clockTime(asOf_.unixTime));
@@ -79,10 +77,9 @@ void Library::read(const std::string &copy)
 
 std::string Library::assumptions() const
 {
-    const std::string ios = withReason("iOS " + device().iosVersion, schema_.iosWhy);
-    const std::string product = withReason(device().productType, schema_.deviceWhy);
-    const std::string when = withReason(localTimeText(asOf_.unixTime), asOf_.why);
-    return said("reading as {0} and {1}, as of {2}", ios, product, when);
+    const std::string when = localTimeText(asOf_.unixTime);
+    return said("reading as {0} and {1}, as of {2}", schema_.iosText(), schema_.productText(),
+                asOf_.why.empty() ? when : when + " (" + asOf_.why + ")");
 }
 
 void Library::sayHowItWasRead() const

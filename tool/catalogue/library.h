@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_LIBRARY_H
 #define IOSPHOTO_TOOL_LIBRARY_H
 
+#include "catalogue/log_changes.h"
 #include "catalogue/moment.h"
 #include "catalogue/trash.h"
 #include "exit_status.h"
@@ -19,6 +20,7 @@ struct LibraryRequest
     std::string source;
     Device device;                    ///< as far as the user named it
     std::optional<std::int64_t> asOf; ///< Unix time; by default the source's own time
+    bool comparesLog = false;         ///< whether to find out what the write-ahead log holds
 };
 
 /// A photo library that was read, with the records of its catalogue.
@@ -42,6 +44,10 @@ public:
     /// How many assets are left out since they were in the trash for too long.
     int leftOut() const { return leftOut_; }
 
+    /// Whether there is a write-ahead log, and if the request said so what it changes.
+    bool hasLog() const { return hasLog_; }
+    const std::vector<LogChange> &logChanges() const { return logChanges_; }
+
     /// Good, or Incomplete when something is missing from what was read.
     ExitStatus status() const { return missing_.empty() ? Good : Incomplete; }
 
@@ -57,6 +63,8 @@ private:
     ProbedSchema schema_;
     Moment asOf_ = {};
     Trash trash_;
+    bool hasLog_ = false;
+    std::vector<LogChange> logChanges_;
     std::vector<CAlbumGroup> albums_;
     int leftOut_ = 0;
     std::vector<std::string> missing_;

@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "language/said.h"
 #include "model/clock.h"
+#include "model/core_data_time.h"
 
 #include <QDateTime>
 
@@ -52,6 +53,14 @@ std::string utcTimeText(std::int64_t unixTime)
     const int year = time.date().year();
     constexpr int lastYear = 9999;
     return year >= 1 && year <= lastYear ? time.toString(Qt::ISODate).toStdString() : "";
+}
+
+std::string utcTimeOf(double coreDataSeconds)
+{
+    constexpr double years = 366.0 * 24 * 60 * 60;
+    if (!(coreDataSeconds > -9999 * years && coreDataSeconds < 9999 * years))
+        return {};
+    return utcTimeText(wholeSeconds(coreDataSeconds) + coreDataEpoch);
 }
 
 } // namespace iosphoto::tool

@@ -19,6 +19,7 @@ struct Command
 };
 
 /// Each adds a command to the tool.
+Command addInfo(CLI::App &app);
 Command addAlbums(CLI::App &app);
 Command addPhotos(CLI::App &app);
 Command addThumb(CLI::App &app);

@@ -6,9 +6,8 @@
 #include "commands/library_options.h"
 #include "language/said.h"
 #include "output/json_document.h"
+#include "output/readable_size.h"
 #include "output/text_table.h"
-
-#include <QLocale>
 
 #include <algorithm>
 
@@ -38,13 +37,6 @@ std::string joined(const Items &items, Text text)
 std::string traitWords(const CPhotoData &photo)
 {
     return joined(traits, [&](const Trait &trait) { return photo.*trait.flag ? trait.word : ""; });
-}
-
-std::string readableSize(std::int64_t bytes)
-{
-    return QLocale::c()
-        .formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat)
-        .toStdString();
 }
 
 std::string path(const CPhotoData &photo)

@@ -1,7 +1,6 @@
 #include "output/json_document.h"
 
 #include "catalogue/album_kinds.h"
-#include "model/core_data_time.h"
 
 namespace iosphoto::tool {
 
@@ -36,10 +35,7 @@ Json textOrNull(const std::string &text)
 
 Json utcTime(double coreDataSeconds)
 {
-    constexpr double years = 366.0 * 24 * 60 * 60;
-    if (!(coreDataSeconds > -9999 * years && coreDataSeconds < 9999 * years))
-        return {};
-    return textOrNull(utcTimeText(wholeSeconds(coreDataSeconds) + coreDataEpoch));
+    return textOrNull(utcTimeOf(coreDataSeconds));
 }
 
 void print(const Json &document, std::ostream &out)

@@ -7,14 +7,14 @@ namespace iosphoto::tool {
 namespace {
 
 /// The URI of a file, in which '?', '#' and '%' would have a meaning.
-std::string uriOf(const std::string &file, CopyDatabase::View view)
+std::string uriOf(const std::string &file)
 {
     std::string uri = "file:";
     for (const char character : file) {
         const bool isSpecial = character == '?' || character == '#' || character == '%';
         uri += isSpecial ? fmt::format("%{:02x}", character) : std::string(1, character);
     }
-    return uri + (view == CopyDatabase::View::WithoutLog ? "?immutable=1" : "");
+    return uri;
 }
 
 } // namespace
@@ -31,12 +31,12 @@ std::string QueryRow::text(int column) const
     return bytes != nullptr ? std::string(bytes, size) : std::string();
 }
 
-CopyDatabase::CopyDatabase(const std::string &file, std::string shownName, View view)
-    : shownName_(std::move(shownName))
+CopyDatabase::CopyDatabase(const std::string &file, std::string shownName)
+    : file_(file), shownName_(std::move(shownName))
 {
     sqlite3 *connection = nullptr;
     const int opened =
-        sqlite3_open_v2(uriOf(file, view).c_str(), &connection,
+        sqlite3_open_v2(uriOf(file).c_str(), &connection,
                         SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
     connection_.reset(connection);
     if (opened != SQLITE_OK)
@@ -86,6 +86,15 @@ void CopyDatabase::forEachRow(const std::string &query,
         take(QueryRow(statement.get()));
     if (result != SQLITE_DONE)
         throw unreadable();
+}
+
+bool CopyDatabase::attachWithoutLog(const std::string &name) const
+{
+    const auto statement = prepare("attach ?1 as " + name);
+    const std::string uri = uriOf(file_) + "?immutable=1";
+    return statement != nullptr &&
+           sqlite3_bind_text(statement.get(), 1, uri.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK &&
+           sqlite3_step(statement.get()) == SQLITE_DONE;
 }
 
 std::string CopyDatabase::assetTable() const

@@ -32,13 +32,10 @@ private:
 class CopyDatabase
 {
 public:
-    enum class View { WithLog, WithoutLog };
-
     /// Throws Failure when the file cannot be opened. The first reading may roll back a journal;
     /// the log is never moved into the database.
     /// @param shownName  the database as the user knows it, for messages
-    /// @param view       whether to see what the write-ahead log holds
-    CopyDatabase(const std::string &file, std::string shownName, View view = View::WithLog);
+    CopyDatabase(const std::string &file, std::string shownName);
 
     /// Throws Failure when the file is no database that can be read.
     void check() const;
@@ -51,6 +48,10 @@ public:
     /// Throws Failure when the reading fails.
     void forEachRow(const std::string &query,
                     const std::function<void(const QueryRow &)> &take) const;
+
+    /// Lets queries see the database as it is without its log, as the schema `name`. Returns
+    /// whether that could be done.
+    bool attachWithoutLog(const std::string &name) const;
 
     /// "ZASSET", or before iOS 14 "ZGENERICASSET"; empty in a database without photos.
     std::string assetTable() const;
@@ -68,6 +69,7 @@ private:
     Failure unreadable() const;
 
     std::unique_ptr<sqlite3, Close> connection_;
+    std::string file_;
     std::string shownName_;
 };
 

@@ -60,6 +60,13 @@ PrivateCopy::~PrivateCopy()
     remove();
 }
 
+bool PrivateCopy::hasLog() const
+{
+    std::error_code ignored;
+    const auto size = fs::file_size(database() + "-wal", ignored);
+    return !ignored && size > 0;
+}
+
 void PrivateCopy::remove() const
 {
     std::error_code ignored;

@@ -18,6 +18,7 @@ public:
     PrivateCopy &operator=(const PrivateCopy &) = delete;
 
     std::string database() const { return (folder_ / "Photos.sqlite").string(); }
+    bool hasLog() const; ///< whether a write-ahead log that is not empty came with it
 
 private:
     void copy(const std::filesystem::path &source) const;

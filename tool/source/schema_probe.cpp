@@ -117,7 +117,22 @@ Failure noFit(const CopyDatabase &database, const ProbedSchema &probed, const Kn
                  fittingIos(probed, *schema), schema->productType)};
 }
 
+std::string withReason(const std::string &what, const std::string &why)
+{
+    return why.empty() ? what : what + " (" + why + ")";
+}
+
 } // namespace
+
+std::string ProbedSchema::iosText() const
+{
+    return withReason("iOS " + device.iosVersion, iosWhy);
+}
+
+std::string ProbedSchema::productText() const
+{
+    return withReason(device.productType, deviceWhy);
+}
 
 ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const SourceDevice &says)
 {

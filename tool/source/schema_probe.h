@@ -21,6 +21,9 @@ struct ProbedSchema
     std::string name;      ///< of the schema, such as "iOS 15 to 17"
     StoreMetadata metadata;
     EntityNumbers numbers;
+
+    std::string iosText() const;     ///< such as "iOS 15.7 (Info.plist)"
+    std::string productText() const; ///< such as "iPhone14,2 (hides no album)"
 };
 
 /// Makes sure that a database is a photo database whose statements run, and decides which device

@@ -1,0 +1,151 @@
+#include "support/library_builder.h"
+#include "support/run_tool.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+using namespace iosphoto::test;
+using nlohmann::json;
+using testing::HasSubstr;
+
+class ToolInfo : public testing::Test
+{
+protected:
+    ToolRun info(std::vector<std::string> more = {}) const
+    {
+        std::vector<std::string> arguments = {"info",  library_.path(), "--as-of",   "2020-02-01",
+                                              "--ios", "15.4",          "--product", "iPhone14,2"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return runTool(arguments);
+    }
+    json document() const { return json::parse(info({"--json"}).out); }
+
+    LibraryBuilder library_{ios15};
+};
+
+TEST_F(ToolInfo, ShowsDeviceDatesAndCounts)
+{
+    library_.madeBy(15502, "19H12");
+    library_.asset("IMG_0001.JPG").set("ZFAVORITE", 1);
+    library_.asset("IMG_0002.MOV").video();
+
+    const ToolRun run = info();
+
+    EXPECT_EQ(run.out, "LIBRARY                " + library_.path() +
+                           "\n"
+                           "Device                 iPhone14,2\n"
+                           "System                 iOS 15.4\n"
+                           "Build                  19H12\n"
+                           "Schema                 iOS 15 to 17, model 15502\n"
+                           "As of                  2020-02-01 00:00 UTC\n"
+                           "Albums                 5\n"
+                           "First taken            2020-01-04 10:40 UTC\n"
+                           "Last taken             2020-01-05 10:40 UTC\n"
+                           "Left out of the trash  0\n"
+                           "\n"
+                           "KIND      COUNT        SIZE\n"
+                           "all           2      2.0 kB\n"
+                           "photos        1  1000 bytes\n"
+                           "videos        1  1000 bytes\n"
+                           "video         1  1000 bytes\n"
+                           "favorite      1  1000 bytes\n"
+                           "\n"
+                           "There is no write-ahead log (-wal).\n");
+    EXPECT_EQ(run.error, "");
+    EXPECT_EQ(run.status, 0);
+}
+
+TEST_F(ToolInfo, ComparesTheDatabaseWithAndWithoutItsLog)
+{
+    library_.asset("GONE.JPG");
+    AssetRow trashed = library_.asset("TRASHED.JPG");
+    AssetRow restored = library_.asset("RESTORED.JPG").trashedAt(600'000'000);
+    library_.asset("KEPT.JPG");
+    library_.execute("pragma journal_mode = wal; pragma wal_autocheckpoint = 0");
+    library_.execute("delete from ZASSET where ZFILENAME = 'GONE.JPG'");
+    trashed.trashedAt(600'000'000);
+    restored.set("ZTRASHEDSTATE", 0);
+    library_.asset("ADDED\n.JPG");
+
+    EXPECT_EQ(document()["log"]["changes"], json::parse(R"([
+        {"change": "added", "uuid": "A0000000-0000-0000-0000-000000000005",
+         "path": "DCIM/100APPLE/ADDED\n.JPG"},
+        {"change": "gone", "uuid": "A0000000-0000-0000-0000-000000000001",
+         "path": "DCIM/100APPLE/GONE.JPG"},
+        {"change": "trashed", "uuid": "A0000000-0000-0000-0000-000000000002",
+         "path": "DCIM/100APPLE/TRASHED.JPG"},
+        {"change": "restored", "uuid": "A0000000-0000-0000-0000-000000000003",
+         "path": "DCIM/100APPLE/RESTORED.JPG"}])"));
+    EXPECT_THAT(info().out, HasSubstr("added            DCIM/100APPLE/ADDED\\n.JPG"));
+}
+
+TEST_F(ToolInfo, KnowsALogThatHoldsTheWholeSchema)
+{
+    LibraryBuilder library(ios15);
+    library.asset("A.JPG");
+    const TemporaryFolder folder;
+    const std::string copy = (folder / "Photos.sqlite").string();
+    LibraryBuilder empty(ios15);
+    library_.execute("attach '" + copy + "' as whole; pragma whole.journal_mode = wal");
+    library_.execute("pragma whole.wal_autocheckpoint = 0");
+    for (const char *table :
+         {"ZASSET", "ZADDITIONALASSETATTRIBUTES", "ZGENERICALBUM", "Z_PRIMARYKEY", "Z_27ASSETS"})
+        library_.execute(std::string("create table whole.") + table + " as select * from main." +
+                         table);
+    library_.execute("insert into whole.ZASSET (Z_PK, ZUUID, ZFILENAME) values (1, 'U', 'A.JPG')");
+
+    const ToolRun run = runTool({"info", copy, "--json", "--ios", "15", "--as-of", "2020-02-01"});
+
+    ASSERT_EQ(run.status, 0) << run.error;
+    EXPECT_EQ(json::parse(run.out)["log"]["changes"],
+              json::parse(R"([{"change": "added", "uuid": "U", "path": "A.JPG"}])"));
+}
+
+TEST_F(ToolInfo, SaysThatTheLogChangesNothing)
+{
+    library_.asset("A.JPG");
+    library_.execute("pragma journal_mode = wal; pragma wal_autocheckpoint = 0");
+    library_.execute("create table other (a)");
+    EXPECT_EQ(document()["log"], json::parse(R"({"changes": []})"));
+    EXPECT_THAT(info().out,
+                HasSubstr("The write-ahead log (-wal) adds, removes and trashes no photo.\n"));
+}
+
+TEST_F(ToolInfo, WorksOnTheOldestSchema)
+{
+    LibraryBuilder library(ios6);
+    library.cameraRollAsset("KEPT.JPG");
+    library.execute("pragma journal_mode = wal; pragma wal_autocheckpoint = 0");
+    library.cameraRollAsset("ADDED.JPG");
+
+    const ToolRun run = runTool({"info", library.path(), "--json"});
+
+    ASSERT_EQ(run.status, 0) << run.error;
+    EXPECT_EQ(json::parse(run.out)["log"]["changes"],
+              json::parse(R"([{"change": "added", "uuid": "a0000000000000000000000000000002",
+                               "path": "DCIM/100APPLE/ADDED.JPG"}])"));
+}
+
+TEST_F(ToolInfo, CountsWhatTheTrashLeavesOut)
+{
+    const std::int64_t february2020 = 602208000; // 2020-02-01, in seconds since 2001
+    const std::int64_t day = 86400;
+    library_.asset("LONG_AGO.JPG").trashedAt(february2020 - 30 * day);
+    library_.asset("JUST_KEPT.JPG").trashedAt(february2020 - 30 * day + 1);
+
+    const ToolRun run = info();
+
+    EXPECT_EQ(run.error, "iosphoto: left out since they were in the trash for 30 days: 1 (see "
+                         "--as-of)\n");
+    EXPECT_THAT(run.out, HasSubstr("Left out of the trash  1\n"));
+    EXPECT_EQ(document()["leftOut"], 1);
+    EXPECT_EQ(document()["counts"]["isDeleted"]["count"], 1);
+}
+
+TEST_F(ToolInfo, LeavesDatesBeyondAllCalendarsOut)
+{
+    library_.asset("A.JPG");
+    library_.asset("B.JPG").set("ZDATECREATED", 123456789012345);
+    EXPECT_EQ(document()["lastCreated"], "2020-01-05T10:40:00Z");
+}

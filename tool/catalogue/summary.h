@@ -1,0 +1,36 @@
+#ifndef IOSPHOTO_TOOL_SUMMARY_H
+#define IOSPHOTO_TOOL_SUMMARY_H
+
+#include "catalogue/assets.h"
+#include "catalogue/traits.h"
+
+#include <array>
+#include <cstdint>
+#include <iterator>
+#include <optional>
+
+namespace iosphoto::tool {
+
+/// A number of assets and the bytes of their original files.
+struct Tally
+{
+    std::int64_t count = 0;
+    std::int64_t bytes = 0;
+};
+
+/// How many assets of which kinds a library has, and from when to when.
+struct Summary
+{
+    Tally all;
+    Tally photos;
+    Tally videos;
+    std::array<Tally, std::size(traits)> byTrait;
+    std::optional<double> firstCreated; ///< seconds since 2001
+    std::optional<double> lastCreated;
+};
+
+Summary summaryOf(const AssetList &assets);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_SUMMARY_H

@@ -1,0 +1,170 @@
+#include "catalogue/library.h"
+#include "catalogue/summary.h"
+#include "commands/command.h"
+#include "commands/library_options.h"
+#include "language/said.h"
+#include "model/core_data_time.h"
+#include "output/json_document.h"
+#include "output/readable_size.h"
+#include "output/text_table.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+struct InfoRequest
+{
+    LibraryRequest library;
+    bool asJson = false;
+};
+
+std::string localTimeOf(const std::optional<double> &coreDataSeconds)
+{
+    return coreDataSeconds ? localTimeText(wholeSeconds(*coreDataSeconds) + coreDataEpoch) : "";
+}
+
+std::string joined(const std::string &what, const std::string &more)
+{
+    return more.empty() ? what : what + ", " + more;
+}
+
+std::string schemaText(const Library &library)
+{
+    const std::optional<std::int64_t> &model = library.schema().metadata.modelVersion;
+    return joined(library.schema().name, model ? said("model {0}", *model) : "");
+}
+
+void printFacts(const Library &library, const Summary &summary, std::ostream &out)
+{
+    TextTable table({{said("LIBRARY")}, {library.name()}});
+    const auto add = [&](const std::string &label, const std::string &fact) {
+        if (!fact.empty())
+            table.add({label, fact});
+    };
+    add(said("Device"), library.schema().productText());
+    add(said("System"), library.schema().iosText());
+    add(said("Build"), library.schema().iosBuild);
+    add(said("Schema"), schemaText(library));
+    add(said("As of"), localTimeText(library.asOf().unixTime));
+    add(said("Albums"), std::to_string(library.albums().size()));
+    add(said("First taken"), localTimeOf(summary.firstCreated));
+    add(said("Last taken"), localTimeOf(summary.lastCreated));
+    add(said("Left out of the trash"), std::to_string(library.leftOut()));
+    table.print(out);
+}
+
+void printCounts(const Summary &summary, std::ostream &out)
+{
+    using Align = TextTable::Align;
+    TextTable table({{said("KIND")}, {said("COUNT"), Align::Right}, {said("SIZE"), Align::Right}});
+    const auto add = [&](const std::string &kind, const Tally &tally) {
+        table.add({kind, std::to_string(tally.count), readableSize(tally.bytes)});
+    };
+    add(said("all"), summary.all);
+    add(said("photos"), summary.photos);
+    add(said("videos"), summary.videos);
+    for (std::size_t i = 0; i < std::size(traits); ++i)
+        if (summary.byTrait.at(i).count > 0 && *traits[i].word != '\0')
+            add(translated(traits[i].word), summary.byTrait.at(i));
+    table.print(out);
+}
+
+void printLog(const Library &library, std::ostream &out)
+{
+    if (!library.hasLog()) {
+        out << said("There is no write-ahead log (-wal).") << '\n';
+        return;
+    }
+    if (library.logChanges().empty()) {
+        out << said("The write-ahead log (-wal) adds, removes and trashes no photo.") << '\n';
+        return;
+    }
+    TextTable table({{said("IN THE LOG ONLY")}, {said("FILE")}, {said("UUID")}});
+    for (const LogChange &change : library.logChanges())
+        table.add({translated(machineName(change.kind)), change.path, change.uuid});
+    table.print(out);
+}
+
+Json asJson(const Tally &tally)
+{
+    return {{"count", tally.count}, {"bytes", tally.bytes}};
+}
+
+Json countsAsJson(const Summary &summary)
+{
+    Json counts = {{"all", asJson(summary.all)},
+                   {"photos", asJson(summary.photos)},
+                   {"videos", asJson(summary.videos)}};
+    for (std::size_t i = 0; i < std::size(traits); ++i)
+        counts[traits[i].key] = asJson(summary.byTrait.at(i));
+    return counts;
+}
+
+Json logAsJson(const Library &library)
+{
+    if (!library.hasLog())
+        return {};
+    Json changes = Json::array();
+    for (const LogChange &change : library.logChanges())
+        changes.push_back({{"change", machineName(change.kind)},
+                           {"uuid", textOrNull(change.uuid)},
+                           {"path", change.path}});
+    return {{"changes", changes}};
+}
+
+Json timeOrNull(const std::optional<double> &coreDataSeconds)
+{
+    return coreDataSeconds ? utcTime(*coreDataSeconds) : Json();
+}
+
+void printAsJson(const Library &library, const Summary &summary, std::ostream &out)
+{
+    const ProbedSchema &schema = library.schema();
+    Json document = libraryHead(library);
+    document["build"] = textOrNull(schema.iosBuild);
+    document["schema"] = schema.name;
+    document["modelVersion"] =
+        schema.metadata.modelVersion ? Json(*schema.metadata.modelVersion) : Json();
+    document["isOfMac"] = schema.metadata.isOfMac();
+    document["albumCount"] = library.albums().size();
+    document["firstCreated"] = timeOrNull(summary.firstCreated);
+    document["lastCreated"] = timeOrNull(summary.lastCreated);
+    document["leftOut"] = library.leftOut();
+    document["counts"] = countsAsJson(summary);
+    document["log"] = logAsJson(library);
+    print(document, out);
+}
+
+ExitStatus showInfo(const InfoRequest &request, std::ostream &out)
+{
+    const Library library(request.library);
+    library.sayHowItWasRead();
+    const Summary summary = summaryOf(AssetList(library.albums()));
+    if (request.asJson) {
+        printAsJson(library, summary, out);
+        return library.status();
+    }
+    printFacts(library, summary, out);
+    out << '\n';
+    printCounts(summary, out);
+    out << '\n';
+    printLog(library, out);
+    return library.status();
+}
+
+} // namespace
+
+Command addInfo(CLI::App &app)
+{
+    const auto request = std::make_shared<InfoRequest>();
+    request->library.comparesLog = true;
+    CLI::App *command = app.add_subcommand(
+        "info", said("Show device, iOS, counts, and what the write-ahead log holds"));
+    addLibraryOptions(*command, request->library);
+    command->add_flag("--json", request->asJson, said("print a JSON document"));
+    command->footer(said("Examples:") +
+                    "\n  iosphoto info Photos.sqlite\n  iosphoto info backup.zip --json");
+    return {command, [request](std::ostream &out) { return showInfo(*request, out); }};
+}
+
+} // namespace iosphoto::tool
