@@ -56,7 +56,7 @@ update ZASSET set ZDEPTHTYPE = 1 where Z_PK in (13, 21);  -- portrait
 update ZASSET set ZPACKEDBADGEATTRIBUTES = 6 where Z_PK = 14;  -- ProRAW
 update ZASSET set ZPACKEDBADGEATTRIBUTES = 8 where Z_PK = 15;  -- ProRes
 update ZASSET set ZHIDDEN = 1 where Z_PK = 16;
-update ZASSET set ZTRASHEDSTATE = 1, ZTRASHEDDATE = strftime('%s', 'now', '-5 days') - 978307200
+update ZASSET set ZTRASHEDSTATE = 1, ZTRASHEDDATE = strftime('%s', '2023-05-15 20:00') - 978307200
     where Z_PK = 17;
 update ZADDITIONALASSETATTRIBUTES set ZVIDEOCPDURATIONTIMESCALE = 600 where ZASSET = 1;  -- live
 update ZADDITIONALASSETATTRIBUTES set ZCAMERACAPTUREDEVICE = 1 where ZASSET in (2, 19);  -- selfie
@@ -78,3 +78,10 @@ insert into Z_27ASSETS (Z_27ALBUMS, Z_3ASSETS) values
     (2, 1),
     (3, 19), (3, 20), (3, 21), (3, 22),
     (5, 18);
+
+-- Which schema it has, and the build of the system that made it.
+create table Z_METADATA (Z_VERSION integer primary key, Z_UUID varchar, Z_PLIST blob);
+insert into Z_METADATA values (1, 'A1B0A1B0-0000-4000-8000-00000000000F', cast('<plist version="1.0">
+    <dict><key>PLModelVersion</key><integer>15502</integer></dict></plist>' as blob));
+create table ZMIGRATIONHISTORY (ZINDEX integer, ZMODELVERSION integer, ZOSVERSION varchar);
+insert into ZMIGRATIONHISTORY values (0, 15502, '19H12');

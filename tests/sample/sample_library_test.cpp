@@ -1,3 +1,4 @@
+#include "model/clock.h"
 #include "support/catalogue.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@ TEST(SampleLibrary, HasEveryKindOfAlbumThatACatalogueCanShow)
     LibraryBuilder library(ios15);
     library.execute(readFile(IOSPHOTO_SAMPLE_LIBRARY));
 
+    const StoppedClock may20th2023(1684584000);
     const Catalogue catalogue(library);
 
     std::set<KindAndSmart> shown;
