@@ -58,7 +58,7 @@ public:
     }
 
     /// @return whether the row names both an asset and an album.
-    bool take(const Row &row) const
+    bool take(const Row &row)
     {
         std::unique_ptr<CPhotoData> photo = decoder_.decode(row);
         if (photo->uuid.empty() || photo->albumUuid.empty())
@@ -133,7 +133,7 @@ int QDevPhotoDbMgr::GetPhotoDatas()
     using namespace iosphoto;
     return withoutThrowing([this] {
         const DeviceProfile device(iosVersion, productType);
-        const AlbumContentsPass pass(albums, device);
+        AlbumContentsPass pass(albums, device);
         int memberships = 0;
         const int rows = readRows(*this, albumContentsStatements, device,
                                   [&](const Row &row) { memberships += pass.take(row) ? 1 : 0; });

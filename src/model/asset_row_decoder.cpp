@@ -52,7 +52,7 @@ AssetRowDecoder::AssetRowDecoder(const AssetRowLayout &layout, const DeviceProfi
 {
 }
 
-std::unique_ptr<CPhotoData> AssetRowDecoder::decode(const Row &row) const
+std::unique_ptr<CPhotoData> AssetRowDecoder::decode(const Row &row)
 {
     auto photo = std::make_unique<CPhotoData>();
     readFile(*photo, row);
@@ -66,12 +66,14 @@ std::unique_ptr<CPhotoData> AssetRowDecoder::decode(const Row &row) const
     return photo;
 }
 
-void AssetRowDecoder::readFile(CPhotoData &photo, const Row &row) const
+void AssetRowDecoder::readFile(CPhotoData &photo, const Row &row)
 {
     photo.thumbnailIndex = row.int32(shared::thumbnailIndex);
     photo.fileName = row.text(shared::fileName);
-    photo.directory = row.text(shared::directory);
-    photo.sourceFileName = row.text(shared::originalFileName);
+    photo.directory = directory_.of(row.cString(shared::directory));
+    photo.sourceFileName = row.haveSameText(shared::fileName, shared::originalFileName)
+                               ? photo.fileName
+                               : row.text(shared::originalFileName);
     photo.width = row.int32(shared::width);
     photo.height = row.int32(shared::height);
     photo.fileSize = repairedSize(row.int64(shared::originalFileSize));
@@ -112,13 +114,13 @@ bool AssetRowDecoder::isEdited(const Row &row) const
     return ios_ >= IosGeneration::Ios7 && row.hasText(layout_.editorBundle);
 }
 
-QString AssetRowDecoder::dateText(const CPhotoData &photo) const
+QString AssetRowDecoder::dateText(const CPhotoData &photo)
 {
     const double time = photo.createdTime < 0 ? photo.addedTime : photo.createdTime;
     const std::int64_t unixTime = wholeSeconds(time + static_cast<double>(coreDataEpoch));
     if (unixTime < layout_.firstKnownDate)
         return unknownDate_;
-    return localTime(unixTime).toString(QStringLiteral("yyyy-MM-dd"));
+    return day_.of(unixTime);
 }
 
 } // namespace iosphoto

@@ -2,7 +2,9 @@
 #define IOSPHOTO_ASSET_ROW_DECODER_H
 
 #include "ios_photo.h"
+#include "model/day_text.h"
 #include "model/device_profile.h"
+#include "model/repeated_text.h"
 #include "model/row_columns.h"
 #include "model/store/row.h"
 
@@ -36,20 +38,22 @@ public:
     /// @param albumName  translated; every record gets it
     AssetRowDecoder(const AssetRowLayout &layout, const DeviceProfile &device, QString albumName);
 
-    std::unique_ptr<CPhotoData> decode(const Row &row) const;
+    std::unique_ptr<CPhotoData> decode(const Row &row);
 
 private:
-    void readFile(CPhotoData &photo, const Row &row) const;
+    void readFile(CPhotoData &photo, const Row &row);
     void readTimes(CPhotoData &photo, const Row &row) const;
     double seconds(const Row &row, int column) const;
     void readIdentifiers(CPhotoData &photo, const Row &row) const;
     bool isEdited(const Row &row) const;
-    QString dateText(const CPhotoData &photo) const;
+    QString dateText(const CPhotoData &photo);
 
     const AssetRowLayout &layout_;
     IosGeneration ios_;
     QString albumName_;
     QString unknownDate_;
+    RepeatedText directory_;
+    DayText day_;
 };
 
 } // namespace iosphoto

@@ -42,7 +42,7 @@ public:
     {
     }
 
-    void take(const Row &row) const
+    void take(const Row &row)
     {
         std::unique_ptr<CPhotoData> photo = decoder_.decode(row);
         photo->assetId = row.int32(camera_roll::assetId);
@@ -58,12 +58,12 @@ public:
     }
 
 private:
-    void readBurst(CPhotoData &photo, const Row &row, int pickType) const
+    void readBurst(CPhotoData &photo, const Row &row, int pickType)
     {
         photo.isBurst = pickType != 0;
         photo.isBurstPick = standsForBurst(pickType) ? 1 : 0;
         if (photo.isBurst && device_.ios >= IosGeneration::Ios8)
-            photo.burstUuid = row.text(camera_roll::burstUuid);
+            photo.burstUuid = burstUuid_.of(row.cString(camera_roll::burstUuid));
     }
 
     static void readBadge(CPhotoData &photo, const Row &row)
@@ -89,6 +89,7 @@ private:
     DeviceProfile device_;
     AssetRowDecoder decoder_;
     SmartAlbumRules rules_;
+    RepeatedText burstUuid_;
 };
 
 } // namespace
@@ -100,7 +101,7 @@ int QDevPhotoDbMgr::GetCameraAlbum()
     using namespace iosphoto;
     return withoutThrowing([this] {
         const DeviceProfile device(iosVersion, productType);
-        const CameraRollPass pass(albums, device);
+        CameraRollPass pass(albums, device);
         return readRows(*this, cameraRollStatements, device,
                         [&](const Row &row) { pass.take(row); });
     });

@@ -35,7 +35,7 @@ int QDevPhotoDbMgr::GetPhotosAlbum()
     using namespace iosphoto;
     return withoutThrowing([this] {
         const DeviceProfile device(iosVersion, productType);
-        const AssetRowDecoder decoder(layout, device, tr(album_names::photoLibrary));
+        AssetRowDecoder decoder(layout, device, tr(album_names::photoLibrary));
         return readRows(*this, photoLibraryStatements, device, [&](const Row &row) {
             std::unique_ptr<CPhotoData> photo = decoder.decode(row);
             if (!photo->fileName.isEmpty() && albums.size() > photoLibraryIndex)

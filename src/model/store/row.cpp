@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <cstring>
+
 namespace iosphoto {
 
 Row::Row(sqlite3_stmt *statement)
@@ -64,6 +66,13 @@ bool Row::hasText(int column) const
 {
     const char *const value = cString(column);
     return value != nullptr && *value != '\0';
+}
+
+bool Row::haveSameText(int one, int other) const
+{
+    const char *const left = cString(one);
+    const char *const right = cString(other);
+    return left != nullptr && right != nullptr && std::strcmp(left, right) == 0;
 }
 
 } // namespace iosphoto

@@ -30,6 +30,7 @@ public:
     std::string bytes(int column) const; ///< the text's bytes; empty for NULL
     std::string hex(int column) const;   ///< the blob in lower-case hexadecimal; empty for NULL
     bool hasText(int column) const;      ///< neither NULL nor empty
+    bool haveSameText(int one, int other) const; ///< false for NULL
 
 private:
     bool has(int column) const { return column >= 0 && column < columnCount_; }
