@@ -1,8 +1,12 @@
 #include "commands/albums.h"
 #include "commands/photos.h"
 #include "commands/thumb.h"
+#include "evidence/with_evidence.h"
 #include "failure.h"
+#include "language/said.h"
+#include "output/interruption_watch.h"
 #include "output/notice.h"
+#include "output/standard_output.h"
 #include "source/sqlite_error_log.h"
 
 #include <CLI/CLI.hpp>
@@ -80,7 +84,7 @@ const CLI::Validator notEmpty(
     [](const std::string &text) { return std::string(text.empty() ? "names no file" : ""); }, "");
 
 /// Adds the command that reads a thumbnail cache.
-CLI::App &addThumb(CLI::App &app, ThumbRequest &request)
+CLI::App &addThumb(CLI::App &app, ThumbRequest &request, std::optional<std::string> &evidence)
 {
     CLI::App &thumb =
         *app.add_subcommand("thumb", "List or write the pictures of a thumbnail cache");
@@ -111,6 +115,9 @@ CLI::App &addThumb(CLI::App &app, ThumbRequest &request)
     output->check(notEmpty);
     sheet->check(notEmpty);
     thumb.add_flag("--json", request.asJson, "print a JSON document");
+    thumb
+        .add_option("--evidence", evidence, said("write a JSON file of what was read and written"))
+        ->check(notEmpty);
     thumb.footer("Examples:\n  iosphoto thumb 120x120.ithmb\n"
                  "  iosphoto thumb 120x120.ithmb --index 7 -o photo.png\n"
                  "  iosphoto thumb 120x120.ithmb --all -o thumbnails\n"
@@ -136,7 +143,8 @@ int run(int argumentCount, char **arguments)
     photos.footer("Examples:\n  iosphoto photos Photos.sqlite --album favorites\n"
                   "  iosphoto photos Photos.sqlite --album \"Summer 2019\" --json");
     ThumbRequest thumbRequest;
-    CLI::App &thumb = addThumb(app, thumbRequest);
+    std::optional<std::string> evidence;
+    CLI::App &thumb = addThumb(app, thumbRequest, evidence);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {
@@ -147,7 +155,11 @@ int run(int argumentCount, char **arguments)
     if (thumb.parsed()) {
         if (thumbRequest.output && !thumbRequest.index && !thumbRequest.all)
             throw Failure(WrongUsage, "--output requires --index or --all; see iosphoto --help");
-        return showThumbnails(thumbRequest, std::cout);
+        const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
+        return withEvidence(evidence, commandLine, [&](const TakeInputs &takeInputs) {
+            takeInputs({thumbRequest.cache});
+            return showThumbnails(thumbRequest, std::cout);
+        });
     }
     return albums.parsed() ? showAlbums(options) : showPhotos(options);
 }
@@ -157,13 +169,16 @@ int run(int argumentCount, char **arguments)
 int main(int argumentCount, char **arguments)
 {
     sqlite_error_log::install();
-    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is an error like others
+    for (const int signal : {SIGXFSZ, SIGPIPE}) // a write that fails is an error like others
+        std::signal(signal, SIG_IGN);
     try {
+        const InterruptionWatch watch;
+        const StandardOutput output;
         const int status = run(argumentCount, arguments);
         std::cout.flush();
-        if (!std::cout)
-            throw Failure(CannotAccess, "cannot write the output; is the disk full?");
         return status;
+    } catch (const OutputClosed &closed) {
+        return closed.status();
     } catch (const Failure &failure) {
         notice(failure.what());
         return failure.status();

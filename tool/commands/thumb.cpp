@@ -1,7 +1,6 @@
 #include "commands/thumb.h"
 
 #include "output/counted.h"
-#include "output/interruption.h"
 #include "output/json_document.h"
 #include "output/notice.h"
 #include "output/printable.h"
@@ -77,14 +76,9 @@ WrittenFiles writePictures(const ThumbCache &cache, const ThumbRequest &request)
 ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
 {
     const ThumbCache cache(request.cache);
-    WrittenFiles pictures;
-    WrittenFiles sheets;
-    {
-        const Interruption interruption;
-        pictures = writePictures(cache, request);
-        sheets = request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
-        Interruption::throwIfAskedFor();
-    }
+    const WrittenFiles pictures = writePictures(cache, request);
+    const WrittenFiles sheets =
+        request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
     if (request.asJson)
         printAsJson(cache, pictures, sheets, out);
     else if (pictures.empty() && sheets.empty())

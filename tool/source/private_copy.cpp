@@ -42,35 +42,18 @@ fs::path makePrivateFolder()
 } // namespace
 
 PrivateCopy::PrivateCopy(const fs::path &database)
-{
     // The files beside a database lie beside the target of a link.
-    const fs::path source =
-        sourceFile(database, "the database in it, such as PhotoData/Photos.sqlite");
-    folder_ = makePrivateFolder();
-    try {
-        copy(source);
-    } catch (...) {
-        remove();
-        throw;
-    }
+    : source_(sourceFile(database, "the database in it, such as PhotoData/Photos.sqlite")),
+      folder_(makePrivateFolder)
+{
+    copy();
 }
 
-PrivateCopy::~PrivateCopy()
+void PrivateCopy::copy() const
 {
-    remove();
-}
-
-void PrivateCopy::remove() const
-{
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-}
-
-void PrivateCopy::copy(const fs::path &source) const
-{
-    copyFile(source, database());
+    copyFile(source_, database());
     for (const char *suffix : {"-wal", "-journal"}) {
-        fs::path companion = source;
+        fs::path companion = source_;
         companion += suffix;
         std::error_code ignored;
         if (fs::exists(companion, ignored))
