@@ -5,8 +5,9 @@
 
 namespace iosphoto::tool {
 
-/// While it lives, an interruption waits. Once one has begun to end the command, making this never
-/// returns.
+/// While it lives, an interruption waits: while files are made that it would have to remove, and
+/// while something is said. Once one has begun to end the command, making this never returns; so
+/// what looks like an error because files were taken away is not said.
 class InterruptionLock
 {
 public:
@@ -16,8 +17,7 @@ private:
     std::unique_lock<std::recursive_mutex> lock_;
 };
 
-/// To be called before anything is said or shown: an interruption takes files away from the
-/// command, and what looks like an error since then is none.
+/// Does not return once an interruption has begun. For what may take so long that it must not wait.
 void stopIfInterrupted();
 
 } // namespace iosphoto::tool

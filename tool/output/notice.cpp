@@ -9,7 +9,7 @@ namespace iosphoto::tool {
 
 void notice(const std::string &text)
 {
-    stopIfInterrupted();
+    const InterruptionLock lock;
     std::cerr << "iosphoto: " + printable(text) + "\n";
 }
 

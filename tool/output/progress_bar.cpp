@@ -47,6 +47,7 @@ ProgressBar::ProgressBar(std::string doing, int total)
 
 ProgressBar::~ProgressBar()
 {
+    const InterruptionLock lock;
     if (isShown_)
         std::cerr << clearLine << std::flush;
 }
@@ -55,7 +56,7 @@ void ProgressBar::show(int done)
 {
     if (!isOnTerminal_ || Clock::now() < nextShow_)
         return;
-    stopIfInterrupted();
+    const InterruptionLock lock;
     std::cerr << clearLine + progressLine(doing_, done, total_, terminalColumns()) << std::flush;
     nextShow_ = Clock::now() + betweenShows;
     isShown_ = true;

@@ -2,9 +2,7 @@
 
 #include "output/interruption_lock.h"
 
-#include <chrono>
 #include <set>
-#include <thread>
 
 namespace iosphoto::tool {
 
@@ -19,17 +17,16 @@ std::set<const TemporaryPath *> &living()
     return paths;
 }
 
-/// Removes a path although the command, which still runs, may be adding files below it.
-void removeFromUnderTheCommand(const fs::path &path)
+/// Removes a path from under the command, which still runs and may be adding files.
+void withdraw(const fs::path &path)
 {
-    constexpr int patience = 200;
-    constexpr std::chrono::milliseconds pause{5};
+    constexpr int attempts = 100;
+    fs::path nowhere = path;
+    nowhere += "-withdrawn";
     std::error_code error;
-    fs::remove_all(path, error);
-    for (int attempt = 0; error && attempt < patience; ++attempt) {
-        std::this_thread::sleep_for(pause);
-        fs::remove_all(path, error);
-    }
+    fs::rename(path, nowhere, error); // from here on, no more come in
+    for (int attempt = 0; attempt < attempts && fs::exists(nowhere, error); ++attempt)
+        fs::remove_all(nowhere, error);
 }
 
 } // namespace
@@ -68,7 +65,7 @@ void removeTemporaryPaths()
 {
     const InterruptionLock lock;
     for (const TemporaryPath *each : living())
-        removeFromUnderTheCommand(each->path());
+        withdraw(each->path());
 }
 
 } // namespace iosphoto::tool
