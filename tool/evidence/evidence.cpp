@@ -52,14 +52,14 @@ void Evidence::Written::add(const char *bytes, std::size_t count)
 Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
     : file_(file), commandLine_(std::move(commandLine)), started_(utcNow())
 {
-    requireWritable(file_, {});
+    requireWritable(file_);
 }
 
 void Evidence::addInputs(const std::vector<fs::path> &files)
 {
-    sources_.insert(sources_.end(), files.begin(), files.end());
     for (const fs::path &file : files)
-        requireOther(file_, file);
+        sources_.add(file);
+    requireOther(file_, sources_);
     HashingProgress progress(files);
     for (const fs::path &file : files)
         inputs_.push_back({file, stateOf(file, progress), std::nullopt});
@@ -68,7 +68,7 @@ void Evidence::addInputs(const std::vector<fs::path> &files)
 void Evidence::finish(int exitStatus)
 {
     stopObserving();
-    if (isAnInput(file_)) // which is why the command failed
+    if (sources_.contains(file_)) // which is why the command failed
         return;
     readInputsAgain();
     const auto changed =
@@ -78,11 +78,10 @@ void Evidence::finish(int exitStatus)
     const int status = isAllUnchanged || exitStatus > Incomplete ? exitStatus : CannotAccess;
     std::ostringstream text;
     print(document(status), text);
-    writeOutput(file_, QByteArray::fromStdString(text.str()), sources_);
+    writeOutput(file_, QByteArray::fromStdString(text.str()), fs::path());
     if (!isAllUnchanged)
         throw Failure(CannotAccess,
-                      said("'{0}' changed while the command ran, as '{1}' shows; copy "
-                           "it first",
+                      said("'{0}' changed while the command ran, as '{1}' shows; copy it first",
                            changed->path.string(), file_.string()));
 }
 
@@ -100,20 +99,13 @@ void Evidence::readInputsAgain()
         }
 }
 
-bool Evidence::isAnInput(const fs::path &file) const
-{
-    return std::any_of(sources_.begin(), sources_.end(),
-                       [&](const fs::path &source) { return isSameFile(file, source); });
-}
-
 void Evidence::willWrite(const fs::path &file)
 {
-    if (isSameFile(file, file_))
+    if (FileSet(file_).contains(file))
         throw Failure(WrongUsage, said("'{0}' is where the evidence goes; choose another place for "
                                        "the output",
                                        file.string()));
-    for (const fs::path &source : sources_)
-        requireOther(file, source);
+    requireOther(file, sources_);
 }
 
 void Evidence::wrote(const fs::path &file, const QByteArray &content)

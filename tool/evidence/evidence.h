@@ -3,6 +3,7 @@
 
 #include "evidence/file_state.h"
 #include "evidence/sha256.h"
+#include "output/file_set.h"
 #include "output/json_document.h"
 #include "output/output_observer.h"
 
@@ -52,14 +53,13 @@ private:
     void wrote(const std::filesystem::path &file, const QByteArray &content) override;
     void printed(const char *bytes, std::size_t size) override;
 
-    bool isAnInput(const std::filesystem::path &file) const;
     void readInputsAgain();
     Json document(int exitStatus) const;
 
     std::filesystem::path file_;
     std::vector<std::string> commandLine_;
     std::string started_;
-    std::vector<std::filesystem::path> sources_; ///< the inputs, and those that could not be read
+    FileSet sources_; ///< the inputs, and those that could not be read
     std::vector<InputFile> inputs_;
     std::map<std::string, Written> outputs_; ///< by path; the last content of each
 };

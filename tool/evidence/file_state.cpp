@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t pieceSize = 1024 * 1024;
+constexpr std::size_t pieceSize = std::size_t{1024} * 1024;
 
 Failure cannotRead(const fs::path &file)
 {
@@ -85,15 +85,15 @@ timespec modificationTime(const struct stat &status)
 
 } // namespace
 
-FileState stateOf(const fs::path &path, HashingProgress &progress)
+FileState stateOf(const fs::path &file, HashingProgress &progress)
 {
-    const OpenFile file(path);
-    const std::optional<struct stat> status = file.status();
+    const OpenFile opened(file);
+    const std::optional<struct stat> status = opened.status();
     if (!status)
         return {};
     Sha256 hash;
     std::vector<char> piece(pieceSize);
-    while (const std::size_t size = file.read(piece)) {
+    while (const std::size_t size = opened.read(piece)) {
         hash.add(piece.data(), size);
         progress.add(size);
     }

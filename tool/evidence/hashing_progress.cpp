@@ -13,7 +13,7 @@ namespace {
 /// Rounded up, and never 0.
 int mebibytes(std::uint64_t bytes)
 {
-    constexpr std::uint64_t one = 1024 * 1024;
+    constexpr std::uint64_t one = std::uint64_t{1024} * 1024;
     return static_cast<int>(std::max<std::uint64_t>(1, (bytes + one - 1) / one));
 }
 

@@ -96,7 +96,7 @@ fs::path targetOf(const fs::path &file)
     return fs::exists(file, ignored) ? fs::canonical(file, ignored) : file;
 }
 
-void requirePlaceForFile(const fs::path &file, const std::vector<fs::path> &sources)
+void requirePlaceForFile(const fs::path &file)
 {
     std::error_code ignored;
     const fs::file_status status = fs::status(file, ignored);
@@ -104,39 +104,28 @@ void requirePlaceForFile(const fs::path &file, const std::vector<fs::path> &sour
         throw cannotWrite(file, said("it is a folder; name a file in it"));
     if (fs::exists(status) && !fs::is_regular_file(status))
         throw cannotWrite(file, said("it is not a file"));
-    for (const fs::path &source : sources)
-        requireOther(file, source);
 }
 
 } // namespace
 
-bool isSameFile(const fs::path &one, const fs::path &other)
+void requireOther(const fs::path &file, const FileSet &sources)
 {
-    std::error_code error;
-    if (fs::equivalent(one, other, error))
-        return true;
-    const fs::path place = fs::weakly_canonical(fs::absolute(one, error), error);
-    return !place.empty() && place == fs::weakly_canonical(fs::absolute(other, error), error);
-}
-
-void requireOther(const fs::path &file, const fs::path &source)
-{
-    if (isSameFile(file, source))
+    if (sources.contains(file))
         throw Failure(WrongUsage, said("'{0}' is the source, which is never changed; choose "
                                        "another place for the output",
                                        file.string()));
 }
 
-void requireWritable(const fs::path &file, const std::vector<fs::path> &sources)
+void requireWritable(const fs::path &file)
 {
-    requirePlaceForFile(file, sources);
+    requirePlaceForFile(file);
     const UnfinishedFile attempt(targetOf(file));
 }
 
-void writeOutput(const fs::path &file, const QByteArray &content,
-                 const std::vector<fs::path> &sources)
+void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
 {
-    requirePlaceForFile(file, sources);
+    requirePlaceForFile(file);
+    requireOther(file, FileSet(source));
     OutputObserver *const observer = OutputObserver::current();
     if (observer != nullptr)
         observer->willWrite(file);
@@ -145,11 +134,6 @@ void writeOutput(const fs::path &file, const QByteArray &content,
     unfinished.finish();
     if (observer != nullptr)
         observer->wrote(file, content);
-}
-
-void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
-{
-    writeOutput(file, content, std::vector<fs::path>{source});
 }
 
 void makeOutputFolder(const fs::path &folder)

@@ -14,7 +14,7 @@ namespace iosphoto::tool {
 
 namespace {
 
-constexpr std::size_t bufferSize = 64 * 1024;
+constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 
 void writeAll(const char *bytes, std::size_t size)
 {
