@@ -1,7 +1,11 @@
 #include "commands/command.h"
+#include "commands/evidence_option.h"
+#include "evidence/with_evidence.h"
 #include "failure.h"
 #include "language/said.h"
+#include "output/interruption_watch.h"
 #include "output/notice.h"
+#include "output/standard_output.h"
 #include "source/sqlite_error_log.h"
 
 #include <CLI/CLI.hpp>
@@ -11,6 +15,9 @@
 #include <cstdio>
 #include <iostream>
 #include <iterator>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -24,6 +31,9 @@ int run(int argumentCount, char **arguments)
     app.require_subcommand(1);
 
     const Command commands[] = {addInfo(app), addAlbums(app), addPhotos(app), addThumb(app)};
+    std::optional<std::string> evidence;
+    for (const Command &command : commands)
+        addEvidenceOption(*command.options, evidence);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {
@@ -34,7 +44,8 @@ int run(int argumentCount, char **arguments)
     const auto *const wanted =
         std::find_if(std::begin(commands), std::end(commands),
                      [](const Command &command) { return command.options->parsed(); });
-    return wanted->run(std::cout);
+    const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
+    return withEvidence(evidence, commandLine, [&] { return wanted->run(std::cout); });
 }
 
 } // namespace
@@ -42,13 +53,16 @@ int run(int argumentCount, char **arguments)
 int main(int argumentCount, char **arguments)
 {
     sqlite_error_log::install();
-    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is an error like others
+    for (const int signal : {SIGXFSZ, SIGPIPE}) // a write that fails is an error like others
+        std::signal(signal, SIG_IGN);
     try {
+        const InterruptionWatch watch;
+        const StandardOutput output;
         const int status = run(argumentCount, arguments);
         std::cout.flush();
-        if (!std::cout)
-            throw Failure(CannotAccess, "cannot write the output; is the disk full?");
         return status;
+    } catch (const OutputClosed &closed) {
+        return closed.status();
     } catch (const Failure &failure) {
         notice(failure.what());
         return failure.status();

@@ -1,12 +1,13 @@
 #include "support/run_tool.h"
 
-#include "support/temporary_folder.h"
-
+#include <array>
+#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace iosphoto::test {
 
@@ -20,33 +21,63 @@ void redirect(const std::string &file, int flags, int descriptor)
     dup2(open(file.c_str(), flags, mode), descriptor);
 }
 
-/// Runs the tool in a child that first makes its preparations.
-template <typename Prepare>
-ToolRun run(const std::vector<std::string> &arguments, Prepare prepare)
+void useSignalsAsUsual()
 {
-    const TemporaryFolder folder;
-    const std::string out = (folder / "out").string();
-    const std::string error = (folder / "error").string();
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
+        std::signal(signal, SIG_DFL);
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+[[noreturn]] void becomeTool(const std::vector<std::string> &arguments)
+{
     std::vector<char *> command = {const_cast<char *>(IOSPHOTO_TOOL)};
     for (const std::string &argument : arguments)
         command.push_back(const_cast<char *>(argument.c_str()));
     command.push_back(nullptr);
-
-    const pid_t child = fork();
-    if (child == 0) {
-        redirect("/dev/null", O_RDONLY, STDIN_FILENO);
-        redirect(out, O_WRONLY | O_CREAT, STDOUT_FILENO);
-        redirect(error, O_WRONLY | O_CREAT, STDERR_FILENO);
-        prepare();
-        execv(command.front(), command.data());
-        _exit(notRun);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return {readFile(out), readFile(error), WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+    execv(command.front(), command.data());
+    _exit(notRun);
 }
 
 } // namespace
+
+RunningTool::RunningTool(const std::vector<std::string> &arguments, const Environment &environment,
+                         const std::function<void()> &prepare)
+    : process_(fork())
+{
+    if (process_ != 0)
+        return;
+    redirect("/dev/null", O_RDONLY, STDIN_FILENO);
+    redirect((folder_ / "out").string(), O_WRONLY | O_CREAT, STDOUT_FILENO);
+    redirect((folder_ / "error").string(), O_WRONLY | O_CREAT, STDERR_FILENO);
+    useSignalsAsUsual();
+    for (const auto &[name, value] : environment)
+        setenv(name.c_str(), value.c_str(), 1);
+    prepare();
+    becomeTool(arguments);
+}
+
+RunningTool::~RunningTool()
+{
+    if (process_ < 0)
+        return;
+    kill(process_, SIGKILL);
+    waitpid(process_, nullptr, 0);
+}
+
+void RunningTool::send(int signal) const
+{
+    kill(process_, signal);
+}
+
+ToolRun RunningTool::result()
+{
+    int status = 0;
+    waitpid(std::exchange(process_, -1), &status, 0);
+    return {readFile(folder_ / "out"), readFile(folder_ / "error"),
+            WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+}
 
 std::ostream &operator<<(std::ostream &stream, const ToolRun &run)
 {
@@ -57,28 +88,40 @@ std::ostream &operator<<(std::ostream &stream, const ToolRun &run)
 
 ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment)
 {
-    return run(arguments, [&] {
-        for (const auto &[name, value] : environment)
-            setenv(name.c_str(), value.c_str(), 1);
-    });
+    return RunningTool(arguments, environment).result();
 }
 
 std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &arguments)
 {
-    const ToolRun result = run(arguments, [] {
+    const auto becomePlainUser = [] {
         constexpr id_t nobody = 65534;
         if (geteuid() == 0 && (setgid(nobody) != 0 || setuid(nobody) != 0))
             _exit(notRun);
-    });
+    };
+    const ToolRun result = RunningTool(arguments, {}, becomePlainUser).result();
     return result.status != notRun ? std::make_optional(result) : std::nullopt;
 }
 
 ToolRun runToolOnFullDisk(const std::vector<std::string> &arguments, std::size_t bytes)
 {
-    return run(arguments, [=] {
+    const auto limitFiles = [=] {
         const rlimit limit = {bytes, bytes};
         setrlimit(RLIMIT_FSIZE, &limit);
-    });
+    };
+    return RunningTool(arguments, {}, limitFiles).result();
+}
+
+ToolRun runToolForNoReader(const std::vector<std::string> &arguments,
+                           const Environment &environment)
+{
+    const auto closePipe = [] {
+        std::array<int, 2> ends = {};
+        if (pipe(ends.data()) != 0 || dup2(ends[1], STDOUT_FILENO) < 0)
+            _exit(notRun);
+        close(ends[0]);
+        close(ends[1]);
+    };
+    return RunningTool(arguments, environment, closePipe).result();
 }
 
 } // namespace iosphoto::test

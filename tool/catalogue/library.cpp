@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "language/said.h"
 #include "model/clock.h"
+#include "output/file_use_observer.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
 #include "source/private_copy.h"
@@ -37,6 +38,7 @@ std::string adviceToCopyAgain()
 
 Library::Library(const LibraryRequest &request) : request_(request)
 {
+    FileUseObserver::announceReading({request.source, request.source + "-wal"});
     const PrivateCopy copy(request.source);
     {
         const CopyDatabase database(copy.database(), request.source);

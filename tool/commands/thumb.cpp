@@ -2,7 +2,7 @@
 #include "commands/looks_like.h"
 #include "language/said.h"
 #include "output/counted.h"
-#include "output/interruption.h"
+#include "output/file_use_observer.h"
 #include "output/json_document.h"
 #include "output/notice.h"
 #include "output/printable.h"
@@ -92,15 +92,11 @@ ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
 {
     if (request.output && !request.index && !request.all)
         throw Failure(WrongUsage, said("--output requires --index or --all; see iosphoto --help"));
+    FileUseObserver::announceReading({request.cache});
     const ThumbCache cache(request.cache);
-    WrittenFiles pictures;
-    WrittenFiles sheets;
-    {
-        const Interruption interruption;
-        pictures = writePictures(cache, request);
-        sheets = request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
-        Interruption::throwIfAskedFor();
-    }
+    const WrittenFiles pictures = writePictures(cache, request);
+    const WrittenFiles sheets =
+        request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
     if (request.asJson)
         printAsJson(cache, pictures, sheets, out);
     else if (pictures.empty() && sheets.empty())

@@ -4,6 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <atomic>
 #include <cstdlib>
 #include <map>
 
@@ -13,7 +14,7 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 
-Language spoken = Language::English;
+std::atomic<Language> spoken = Language::English; // an interruption speaks on its own thread
 
 const Texts &chineseTexts()
 {

@@ -1,5 +1,6 @@
 #include "output/notice.h"
 
+#include "output/interruption_lock.h"
 #include "output/printable.h"
 
 #include <iostream>
@@ -8,6 +9,7 @@ namespace iosphoto::tool {
 
 void notice(const std::string &text)
 {
+    const InterruptionLock lock;
     std::cerr << "iosphoto: " + printable(text) + "\n";
 }
 

@@ -1,6 +1,9 @@
 #include "output/output_file.h"
 
 #include "failure.h"
+#include "language/said.h"
+#include "output/file_use_observer.h"
+#include "output/temporary_path.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -17,7 +20,7 @@ namespace {
 
 Failure cannotWrite(const fs::path &file, const std::string &reason)
 {
-    return {CannotAccess, "cannot write '" + file.string() + "': " + reason};
+    return {CannotAccess, said("cannot write '{0}': {1}", file.string(), reason)};
 }
 
 /// The rights of the file that is replaced; of a new one, what the process gives.
@@ -35,19 +38,13 @@ mode_t modeFor(const fs::path &file)
 class UnfinishedFile
 {
 public:
-    explicit UnfinishedFile(const fs::path &file)
-        : file_(file), name_((file.parent_path() / ".iosphoto-XXXXXX").string())
+    explicit UnfinishedFile(const fs::path &file) : file_(file), passing_([this] { return make(); })
     {
-        descriptor_ = mkstemp(name_.data());
-        if (descriptor_ < 0)
-            fail();
     }
     ~UnfinishedFile()
     {
-        if (descriptor_ < 0)
-            return;
-        close(descriptor_);
-        unlink(name_.c_str());
+        if (descriptor_ >= 0)
+            close(descriptor_);
     }
     UnfinishedFile(const UnfinishedFile &) = delete;
     UnfinishedFile &operator=(const UnfinishedFile &) = delete;
@@ -58,53 +55,85 @@ public:
             const auto left = static_cast<std::size_t>(content.size() - written);
             const ssize_t step = ::write(descriptor_, content.constData() + written, left);
             if (step < 0 && errno != EINTR)
-                fail();
+                fail(errno);
             written += step > 0 ? static_cast<int>(step) : 0;
         }
     }
 
     void finish()
     {
-        if (fchmod(descriptor_, modeFor(file_)) != 0)
-            fail();
-        if (close(std::exchange(descriptor_, -1)) != 0 ||
-            rename(name_.c_str(), file_.c_str()) != 0) {
-            const int error = errno;
-            unlink(name_.c_str());
-            errno = error;
-            fail();
-        }
+        if (fchmod(descriptor_, modeFor(file_)) != 0 || close(std::exchange(descriptor_, -1)) != 0)
+            fail(errno);
+        if (const std::error_code error = passing_.keepAs(file_))
+            fail(error.value());
     }
 
 private:
-    [[noreturn]] void fail() const
+    fs::path make()
     {
-        throw cannotWrite(file_, std::string(std::strerror(errno)) +
-                                     "; choose another place for the output");
+        std::string name = (file_.parent_path() / ".iosphoto-XXXXXX").string();
+        descriptor_ = mkstemp(name.data());
+        if (descriptor_ < 0)
+            fail(errno);
+        return name;
+    }
+
+    [[noreturn]] void fail(int error) const
+    {
+        throw cannotWrite(file_,
+                          said("{0}; choose another place for the output", std::strerror(error)));
     }
 
     fs::path file_;
-    std::string name_;
     int descriptor_ = -1;
+    TemporaryPath passing_; // behind the descriptor that it sets
 };
 
-} // namespace
+/// The file itself where `file` is a link.
+fs::path targetOf(const fs::path &file)
+{
+    std::error_code ignored;
+    return fs::exists(file, ignored) ? fs::canonical(file, ignored) : file;
+}
 
-void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
+void requirePlaceForFile(const fs::path &file)
 {
     std::error_code ignored;
     const fs::file_status status = fs::status(file, ignored);
     if (fs::is_directory(status))
-        throw cannotWrite(file, "it is a folder; name a file in it");
+        throw cannotWrite(file, said("it is a folder; name a file in it"));
     if (fs::exists(status) && !fs::is_regular_file(status))
-        throw cannotWrite(file, "it is not a file");
-    if (fs::equivalent(file, source, ignored))
-        throw Failure(WrongUsage, "'" + file.string() +
-                                      "' is the source, which is never changed; choose another "
-                                      "place for the output");
-    UnfinishedFile unfinished(fs::exists(status) ? fs::canonical(file, ignored) : file);
+        throw cannotWrite(file, said("it is not a file"));
+}
+
+} // namespace
+
+void requireOther(const fs::path &file, const FileSet &sources)
+{
+    if (sources.contains(file))
+        throw Failure(WrongUsage, said("'{0}' is the source, which is never changed; choose "
+                                       "another place for the output",
+                                       file.string()));
+}
+
+void requireWritable(const fs::path &file)
+{
+    requirePlaceForFile(file);
+    const UnfinishedFile attempt(targetOf(file));
+}
+
+void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
+{
+    requirePlaceForFile(file);
+    requireOther(file, FileSet(source));
+    FileUseObserver *const observer = FileUseObserver::current();
+    if (observer != nullptr)
+        observer->willWrite(file);
+    UnfinishedFile unfinished(targetOf(file));
     unfinished.write(content);
     unfinished.finish();
+    if (observer != nullptr)
+        observer->wrote(file, content);
 }
 
 void makeOutputFolder(const fs::path &folder)

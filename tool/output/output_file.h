@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_OUTPUT_FILE_H
 #define IOSPHOTO_TOOL_OUTPUT_FILE_H
 
+#include "output/file_set.h"
+
 #include <QByteArray>
 
 #include <filesystem>
@@ -13,6 +15,12 @@ namespace iosphoto::tool {
 /// Throws Failure when it cannot be written, and when `file` is `source`, which is never changed.
 void writeOutput(const std::filesystem::path &file, const QByteArray &content,
                  const std::filesystem::path &source);
+
+/// Throws Failure where writeOutput() would, as far as can be told before.
+void requireWritable(const std::filesystem::path &file);
+
+/// Throws Failure when an output `file` is one of the sources.
+void requireOther(const std::filesystem::path &file, const FileSet &sources);
 
 /// Makes a folder for output, with those above it. Throws Failure when that cannot be done.
 void makeOutputFolder(const std::filesystem::path &folder);

@@ -1,5 +1,7 @@
 #include "output/progress_bar.h"
 
+#include "output/interruption_lock.h"
+
 #include <algorithm>
 #include <iostream>
 #include <sys/ioctl.h>
@@ -45,6 +47,7 @@ ProgressBar::ProgressBar(std::string doing, int total)
 
 ProgressBar::~ProgressBar()
 {
+    const InterruptionLock lock;
     if (isShown_)
         std::cerr << clearLine << std::flush;
 }
@@ -53,9 +56,16 @@ void ProgressBar::show(int done)
 {
     if (!isOnTerminal_ || Clock::now() < nextShow_)
         return;
+    const InterruptionLock lock;
     std::cerr << clearLine + progressLine(doing_, done, total_, terminalColumns()) << std::flush;
     nextShow_ = Clock::now() + betweenShows;
     isShown_ = true;
+}
+
+void clearProgress()
+{
+    if (isatty(STDERR_FILENO) == 1)
+        std::cerr << clearLine << std::flush;
 }
 
 } // namespace iosphoto::tool

@@ -34,6 +34,9 @@ private:
     Clock::time_point nextShow_;
 };
 
+/// Clears the line where a bar may stand, for something else to be said.
+void clearProgress();
+
 } // namespace iosphoto::tool
 
 #endif // IOSPHOTO_TOOL_PROGRESS_BAR_H

@@ -42,22 +42,11 @@ fs::path makePrivateFolder()
 } // namespace
 
 PrivateCopy::PrivateCopy(const fs::path &database)
-{
     // The files beside a database lie beside the target of a link.
-    const fs::path source =
-        sourceFile(database, "the database in it, such as PhotoData/Photos.sqlite");
-    folder_ = makePrivateFolder();
-    try {
-        copy(source);
-    } catch (...) {
-        remove();
-        throw;
-    }
-}
-
-PrivateCopy::~PrivateCopy()
+    : source_(sourceFile(database, "the database in it, such as PhotoData/Photos.sqlite")),
+      folder_(makePrivateFolder)
 {
-    remove();
+    copy();
 }
 
 bool PrivateCopy::hasLog() const
@@ -67,17 +56,11 @@ bool PrivateCopy::hasLog() const
     return !ignored && size > 0;
 }
 
-void PrivateCopy::remove() const
+void PrivateCopy::copy() const
 {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-}
-
-void PrivateCopy::copy(const fs::path &source) const
-{
-    copyFile(source, database());
+    copyFile(source_, database());
     for (const char *suffix : {"-wal", "-journal"}) {
-        fs::path companion = source;
+        fs::path companion = source_;
         companion += suffix;
         std::error_code ignored;
         if (fs::exists(companion, ignored))

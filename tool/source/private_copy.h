@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_PRIVATE_COPY_H
 #define IOSPHOTO_TOOL_PRIVATE_COPY_H
 
+#include "output/temporary_path.h"
+
 #include <filesystem>
 #include <string>
 
@@ -13,18 +15,15 @@ class PrivateCopy
 public:
     /// Throws Failure when something cannot be read or copied.
     explicit PrivateCopy(const std::filesystem::path &database);
-    ~PrivateCopy();
-    PrivateCopy(const PrivateCopy &) = delete;
-    PrivateCopy &operator=(const PrivateCopy &) = delete;
 
-    std::string database() const { return (folder_ / "Photos.sqlite").string(); }
+    std::string database() const { return (folder_.path() / "Photos.sqlite").string(); }
     bool hasLog() const; ///< whether a write-ahead log that is not empty came with it
 
 private:
-    void copy(const std::filesystem::path &source) const;
-    void remove() const;
+    void copy() const;
 
-    std::filesystem::path folder_;
+    std::filesystem::path source_;
+    TemporaryPath folder_;
 };
 
 } // namespace iosphoto::tool

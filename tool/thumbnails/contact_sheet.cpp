@@ -1,6 +1,5 @@
 #include "thumbnails/contact_sheet.h"
 
-#include "output/interruption.h"
 #include "thumbnails/digits.h"
 #include "thumbnails/picture.h"
 
@@ -73,7 +72,6 @@ QImage drawSheet(const ThumbCache &cache, int sheet)
     image.fill(background);
     QPainter painter(&image);
     for (int place = 0; place < count; ++place) {
-        Interruption::throwIfAskedFor();
         const auto number = static_cast<std::size_t>(first) + static_cast<std::size_t>(place);
         const Thumbnail &thumbnail = cache.thumbnails().at(number);
         const QRect area = grid.picture(place);

@@ -13,8 +13,7 @@ constexpr int thumbnailsPerSheet = 500;
 /// Sheets that all thumbnails of a cache take.
 int sheetCount(const ThumbCache &cache);
 
-/// Draws a sheet, counted from 0: pictures in rows, each with its index below. Throws Failure when
-/// somebody interrupts it.
+/// Draws a sheet, counted from 0: pictures in rows, each with its index below.
 QImage drawSheet(const ThumbCache &cache, int sheet);
 
 } // namespace iosphoto::tool

@@ -1,7 +1,6 @@
 #include "thumbnails/export.h"
 
 #include "failure.h"
-#include "output/interruption.h"
 #include "output/output_file.h"
 #include "output/progress_bar.h"
 #include "thumbnails/contact_sheet.h"
@@ -69,7 +68,6 @@ WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool 
     ProgressBar progress("writing thumbnails", static_cast<int>(thumbnails.size()));
     WrittenFiles written;
     for (const Thumbnail &thumbnail : thumbnails) {
-        Interruption::throwIfAskedFor();
         const std::string name =
             paddedIndex(thumbnail.index, thumbnails.back().index) + (asPng ? ".png" : ".bmp");
         const fs::path file = fs::path(folder) / name;
@@ -87,7 +85,6 @@ WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file)
     ProgressBar progress("drawing sheets", sheetCount(cache));
     WrittenFiles written;
     for (int sheet = 0; sheet < sheetCount(cache); ++sheet) {
-        Interruption::throwIfAskedFor();
         const fs::path name = sheetName(file, sheet);
         writeOutput(name, asPng(drawSheet(cache, sheet)), cache.file());
         written[sheet] = name.string();

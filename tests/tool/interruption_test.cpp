@@ -1,0 +1,126 @@
+#include "support/case_name.h"
+#include "support/expect_failure.h"
+#include "support/library_builder.h"
+
+#include <chrono>
+#include <csignal>
+#include <sys/stat.h>
+#include <thread>
+
+using namespace iosphoto::test;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Waits until `isTrue`; 20 seconds at most.
+template <typename Condition>
+bool wait(Condition isTrue)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::seconds(20);
+    while (!isTrue() && Clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return isTrue();
+}
+
+/// The tool on a library, with a temporary folder of its own.
+class ToolOnLibrary
+{
+public:
+    explicit ToolOnLibrary(
+        const LibraryBuilder &library, const std::function<void()> &prepare = [] {})
+        : tool_({"photos", library.path()}, {{"TMPDIR", temporary_.path().string()}}, prepare)
+    {
+    }
+
+    /// Waits for the private copy to have as much of the database as there is.
+    bool hasCopied(const fs::path &database) const
+    {
+        return wait([&] { return sizeOfCopy() == fs::file_size(database); });
+    }
+    void send(int signal) const { tool_.send(signal); }
+    ToolRun result() { return tool_.result(); }
+    bool leftNothing() const { return fs::is_empty(temporary_.path()); }
+
+private:
+    std::uintmax_t sizeOfCopy() const
+    {
+        std::error_code missing;
+        for (const auto &folder : fs::directory_iterator(temporary_.path()))
+            return fs::file_size(folder.path() / "Photos.sqlite", missing);
+        return 0;
+    }
+
+    TemporaryFolder temporary_;
+    RunningTool tool_;
+};
+
+/// Gives a table so many rows that looking for one never ends.
+void makeEndless(LibraryBuilder &library)
+{
+    library.asset("IMG_0001.JPG").in(library.album("Trip"));
+    library.execute("alter table Z_27ASSETS rename to FINITE");
+    library.execute("create view Z_27ASSETS as select FINITE.* from FINITE, "
+                    "(with recursive number(i) as (values(1) union all select i + 1 from number) "
+                    "select i from number) where i < 0");
+    library.close();
+}
+
+struct Signal
+{
+    const char *text;
+    int number;
+
+    std::string name() const { return text; }
+};
+
+const std::string lastWords = "interrupted; every file that was written is complete\n";
+
+} // namespace
+
+class ToolInterruption : public testing::TestWithParam<Signal>
+{
+};
+
+TEST_P(ToolInterruption, LeavesNothingWhileTheDatabaseIsRead)
+{
+    LibraryBuilder library(ios15);
+    makeEndless(library);
+    ToolOnLibrary tool(library);
+    ASSERT_TRUE(tool.hasCopied(library.path()));
+    tool.send(GetParam().number);
+    expectFailure(tool.result(), lastWords, 128 + GetParam().number);
+    EXPECT_TRUE(tool.leftNothing());
+}
+
+TEST_P(ToolInterruption, LeavesNothingWhileTheDatabaseIsCopied)
+{
+    LibraryBuilder library(ios15);
+    library.close();
+    // A log that nobody ever writes: copying waits for it.
+    ASSERT_EQ(mkfifo((library.path() + "-wal").c_str(), 0600), 0);
+    ToolOnLibrary tool(library);
+    ASSERT_TRUE(tool.hasCopied(library.path()));
+    tool.send(GetParam().number);
+    expectFailure(tool.result(), lastWords, 128 + GetParam().number);
+    EXPECT_TRUE(tool.leftNothing());
+}
+
+TEST_P(ToolInterruption, DoesNotHappenWhereTheSignalIsIgnored)
+{
+    LibraryBuilder library(ios15);
+    makeEndless(library);
+    const int ignored = GetParam().number;
+    const int other = ignored == SIGTERM ? SIGINT : SIGTERM;
+    ToolOnLibrary tool(library, [=] { std::signal(ignored, SIG_IGN); });
+    ASSERT_TRUE(tool.hasCopied(library.path()));
+    tool.send(ignored);
+    tool.send(other);
+    expectFailure(tool.result(), lastWords, 128 + other);
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, ToolInterruption,
+                         testing::Values(Signal{"Interrupt", SIGINT}, Signal{"Terminate", SIGTERM},
+                                         Signal{"HangUp", SIGHUP}),
+                         NameOfCase());

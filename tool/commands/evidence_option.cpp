@@ -1,0 +1,14 @@
+#include "commands/evidence_option.h"
+
+#include "commands/looks_like.h"
+#include "language/said.h"
+
+namespace iosphoto::tool {
+
+void addEvidenceOption(CLI::App &command, std::optional<std::string> &file)
+{
+    command.add_option("--evidence", file, said("write a JSON file of what was read and written"))
+        ->check(notEmpty());
+}
+
+} // namespace iosphoto::tool

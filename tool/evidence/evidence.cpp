@@ -1,0 +1,142 @@
+#include "evidence/evidence.h"
+
+#include "evidence/hashing_progress.h"
+#include "evidence/time_of_day.h"
+#include "failure.h"
+#include "language/said.h"
+#include "output/output_file.h"
+
+#include <algorithm>
+#include <functional>
+#include <sstream>
+#include <utility>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char *standardOutput = "-";
+
+template <typename Value>
+Json orNull(const std::optional<Value> &value)
+{
+    return value ? Json(*value) : Json();
+}
+
+Json asJson(const FileState &state)
+{
+    return {{"size", orNull(state.size)},
+            {"modified", orNull(state.modified)},
+            {"sha256", orNull(state.sha256)}};
+}
+
+Json asJson(const InputFile &input)
+{
+    Json entry = {{"path", input.path.string()}};
+    entry.update(asJson(input.before));
+    entry["after"] = input.after ? asJson(*input.after) : Json();
+    entry["isUnchanged"] = input.isUnchanged();
+    return entry;
+}
+
+} // namespace
+
+void Evidence::Written::add(const char *bytes, std::size_t count)
+{
+    size += count;
+    hash.add(bytes, count);
+}
+
+Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
+    : file_(file), commandLine_(std::move(commandLine)), started_(utcNow())
+{
+    requireWritable(file_);
+}
+
+void Evidence::addInputs(const std::vector<fs::path> &files)
+{
+    for (const fs::path &file : files)
+        sources_.add(file);
+    requireOther(file_, sources_);
+    HashingProgress progress(files);
+    for (const fs::path &file : files)
+        inputs_.push_back({file, stateOf(file, progress), std::nullopt});
+}
+
+void Evidence::finish(int exitStatus)
+{
+    stopObserving();
+    if (sources_.contains(file_)) // which is why the command failed
+        return;
+    readInputsAgain();
+    const auto changed =
+        std::find_if_not(inputs_.begin(), inputs_.end(), std::mem_fn(&InputFile::isUnchanged));
+    const bool isAllUnchanged = changed == inputs_.end();
+    // That an input changed makes a failure of what was none.
+    const int status = isAllUnchanged || exitStatus > Incomplete ? exitStatus : CannotAccess;
+    std::ostringstream text;
+    print(document(status), text);
+    writeOutput(file_, QByteArray::fromStdString(text.str()), fs::path());
+    if (!isAllUnchanged)
+        throw Failure(CannotAccess,
+                      said("'{0}' changed while the command ran, as '{1}' shows; copy it first",
+                           changed->path.string(), file_.string()));
+}
+
+void Evidence::readInputsAgain()
+{
+    std::vector<fs::path> files;
+    for (const InputFile &input : inputs_)
+        files.push_back(input.path);
+    HashingProgress progress(files);
+    for (InputFile &input : inputs_)
+        try {
+            input.after = stateOf(input.path, progress);
+        } catch (const Failure &) {
+            input.after.reset(); // the file says so
+        }
+}
+
+void Evidence::willWrite(const fs::path &file)
+{
+    if (FileSet(file_).contains(file))
+        throw Failure(WrongUsage, said("'{0}' is where the evidence goes; choose another place for "
+                                       "the output",
+                                       file.string()));
+    requireOther(file, sources_);
+}
+
+void Evidence::wrote(const fs::path &file, const QByteArray &content)
+{
+    outputs_.erase(file.string());
+    outputs_[file.string()].add(content.constData(), static_cast<std::size_t>(content.size()));
+}
+
+void Evidence::printed(const char *bytes, std::size_t size)
+{
+    outputs_[standardOutput].add(bytes, size);
+}
+
+Json Evidence::document(int exitStatus) const
+{
+    std::error_code ignored;
+    Json document = {{"tool", {{"name", "iosphoto"}, {"version", IOSPHOTO_VERSION}}},
+                     {"commandLine", commandLine_},
+                     {"workingFolder", fs::current_path(ignored).string()},
+                     {"timeZone", {{"name", timeZoneName()}, {"utcOffset", utcOffsetNow()}}},
+                     {"started", started_},
+                     {"finished", utcNow()}};
+    Json &inputs = document["inputs"] = Json::array();
+    for (const InputFile &input : inputs_)
+        inputs.push_back(asJson(input));
+    Json &outputs = document["outputs"] = Json::array();
+    for (const auto &[path, output] : outputs_)
+        outputs.push_back(
+            {{"path", path}, {"size", output.size}, {"sha256", output.hash.digits()}});
+    document["exitStatus"] = exitStatus;
+    return document;
+}
+
+} // namespace iosphoto::tool

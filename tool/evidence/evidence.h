@@ -1,0 +1,70 @@
+#ifndef IOSPHOTO_TOOL_EVIDENCE_H
+#define IOSPHOTO_TOOL_EVIDENCE_H
+
+#include "evidence/file_state.h"
+#include "evidence/sha256.h"
+#include "output/file_set.h"
+#include "output/file_use_observer.h"
+#include "output/json_document.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace iosphoto::tool {
+
+struct InputFile
+{
+    std::filesystem::path path;
+    FileState before;
+    std::optional<FileState> after; ///< none where it could not be read any more
+
+    bool isUnchanged() const { return after && *after == before; }
+};
+
+/// A JSON file of what a command read and wrote, with the hashes to prove it, and that its inputs
+/// are after it what they were before.
+class Evidence : private FileUseObserver
+{
+public:
+    /// Throws Failure when the file cannot be written.
+    Evidence(const std::filesystem::path &file, std::vector<std::string> commandLine);
+
+    /// To be called before the command reads these; one may be missing, and has to stay so. Throws
+    /// Failure when one cannot be read, or is the file of the evidence.
+    void addInputs(const std::vector<std::filesystem::path> &files);
+
+    /// Writes the file, at the end of the command. Throws Failure when that cannot be done, and
+    /// when an input changed, which the file says as well.
+    void finish(int exitStatus);
+
+private:
+    struct Written
+    {
+        std::uint64_t size = 0;
+        Sha256 hash;
+
+        void add(const char *bytes, std::size_t count);
+    };
+
+    void willRead(const std::vector<std::filesystem::path> &files) override { addInputs(files); }
+    void willWrite(const std::filesystem::path &file) override;
+    void wrote(const std::filesystem::path &file, const QByteArray &content) override;
+    void printed(const char *bytes, std::size_t size) override;
+
+    void readInputsAgain();
+    Json document(int exitStatus) const;
+
+    std::filesystem::path file_;
+    std::vector<std::string> commandLine_;
+    std::string started_;
+    FileSet sources_; ///< the inputs, and those that could not be read
+    std::vector<InputFile> inputs_;
+    std::map<std::string, Written> outputs_; ///< by path; the last content of each
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_EVIDENCE_H

@@ -1,0 +1,104 @@
+#include "evidence/file_state.h"
+
+#include "evidence/sha256.h"
+#include "evidence/time_of_day.h"
+#include "failure.h"
+#include "language/said.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t pieceSize = std::size_t{1024} * 1024;
+
+Failure cannotRead(const fs::path &file)
+{
+    return {CannotAccess, said("cannot read '{0}': {1}; run as a user who may read it, or copy it "
+                               "first",
+                               file.string(), std::strerror(errno))};
+}
+
+/// A file open for reading; none where nothing is there.
+class OpenFile
+{
+public:
+    explicit OpenFile(const fs::path &file)
+        // A pipe must not make us wait for its writer.
+        : file_(file), descriptor_(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC))
+    {
+        if (descriptor_ < 0 && errno != ENOENT && errno != ENOTDIR)
+            throw cannotRead(file_);
+    }
+    ~OpenFile()
+    {
+        if (descriptor_ >= 0)
+            close(descriptor_);
+    }
+    OpenFile(const OpenFile &) = delete;
+    OpenFile &operator=(const OpenFile &) = delete;
+
+    /// Nothing for what is no regular file, as it has no content of its own.
+    std::optional<struct stat> status() const
+    {
+        struct stat status = {};
+        if (descriptor_ < 0)
+            return std::nullopt;
+        if (fstat(descriptor_, &status) != 0)
+            throw cannotRead(file_);
+        return S_ISREG(status.st_mode) ? std::make_optional(status) : std::nullopt;
+    }
+
+    /// 0 at the end.
+    std::size_t read(std::vector<char> &piece) const
+    {
+        ssize_t size = 0;
+        do
+            size = ::read(descriptor_, piece.data(), piece.size());
+        while (size < 0 && errno == EINTR);
+        if (size < 0)
+            throw cannotRead(file_);
+        return static_cast<std::size_t>(size);
+    }
+
+private:
+    fs::path file_;
+    int descriptor_;
+};
+
+timespec modificationTime(const struct stat &status)
+{
+#ifdef __APPLE__
+    return status.st_mtimespec;
+#else
+    return status.st_mtim;
+#endif
+}
+
+} // namespace
+
+FileState stateOf(const fs::path &file, HashingProgress &progress)
+{
+    const OpenFile opened(file);
+    const std::optional<struct stat> status = opened.status();
+    if (!status)
+        return {};
+    Sha256 hash;
+    std::vector<char> piece(pieceSize);
+    while (const std::size_t size = opened.read(piece)) {
+        hash.add(piece.data(), size);
+        progress.add(size);
+    }
+    return {static_cast<std::uint64_t>(status->st_size), utcText(modificationTime(*status)),
+            hash.digits()};
+}
+
+} // namespace iosphoto::tool

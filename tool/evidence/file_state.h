@@ -1,0 +1,31 @@
+#ifndef IOSPHOTO_TOOL_FILE_STATE_H
+#define IOSPHOTO_TOOL_FILE_STATE_H
+
+#include "evidence/hashing_progress.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// What tells whether a file changed. Without any of it: no file is there.
+struct FileState
+{
+    std::optional<std::uint64_t> size;
+    std::optional<std::string> modified; ///< in UTC, with fractional seconds
+    std::optional<std::string> sha256;
+
+    bool operator==(const FileState &other) const
+    {
+        return size == other.size && modified == other.modified && sha256 == other.sha256;
+    }
+};
+
+/// Reads a file to its end, a piece at a time. Throws Failure when it is there and cannot be read.
+FileState stateOf(const std::filesystem::path &file, HashingProgress &progress);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_FILE_STATE_H
