@@ -33,11 +33,13 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
 
 } // namespace
 
-Library::Library(const std::string &database, const Device &wanted)
-    : database_(database), wanted_(wanted)
+Library::Library(const std::string &name, const Device &wanted) : wanted_(wanted)
 {
-    const PrivateCopy copy(database);
-    device_ = probe(copy.database(), database, wanted);
+    const Source source(name);
+    const PrivateCopy copy(source);
+    database_ = source.databaseName();
+    missing_ = source.missing();
+    device_ = probe(copy.database(), database_, wanted);
     read(copy.database());
 }
 
@@ -69,6 +71,8 @@ void Library::sayHowItWasRead() const
     sayWhatWasAssumed(wanted_, device_);
     if (!damage_.empty())
         notice(damage_);
+    if (!missing_.empty())
+        notice(missing_);
 }
 
 } // namespace iosphoto::tool

@@ -16,7 +16,8 @@ class Library
 public:
     /// Reads the database through a private copy, which is gone when this returns. Throws Failure
     /// when the library cannot be read.
-    Library(const std::string &database, const Device &wanted);
+    /// @param name  a database, media folder, backup or archive of one
+    Library(const std::string &name, const Device &wanted);
     ~Library();
     Library(const Library &) = delete;
     Library &operator=(const Library &) = delete;
@@ -25,8 +26,8 @@ public:
     const Device &device() const { return device_; }
     const std::vector<CAlbumGroup> &albums() const { return albums_; }
 
-    /// Good, or Incomplete when damage cut the reading short.
-    ExitStatus status() const { return status_; }
+    /// Good, or Incomplete when damage cut the reading short or the source lacks something.
+    ExitStatus status() const { return missing_.empty() ? status_ : Incomplete; }
 
     /// Says on stderr what was assumed about the device, and what is missing.
     void sayHowItWasRead() const;
@@ -40,6 +41,7 @@ private:
     std::vector<CAlbumGroup> albums_;
     ExitStatus status_ = Good;
     std::string damage_;
+    std::string missing_;
 };
 
 } // namespace iosphoto::tool

@@ -1,29 +1,25 @@
 #ifndef IOSPHOTO_TOOL_PRIVATE_COPY_H
 #define IOSPHOTO_TOOL_PRIVATE_COPY_H
 
-#include <filesystem>
+#include "source/private_folder.h"
+#include "source/source.h"
+
 #include <string>
 
 namespace iosphoto::tool {
 
-/// A copy of a database with its write-ahead log and journal, in a folder that only this user can
-/// enter and that goes with the object. So the original is never opened for writing.
+/// A copy of a source's database with its write-ahead log and journal, which goes with the object.
+/// So the original is never opened for writing.
 class PrivateCopy
 {
 public:
     /// Throws Failure when something cannot be read or copied.
-    explicit PrivateCopy(const std::filesystem::path &database);
-    ~PrivateCopy();
-    PrivateCopy(const PrivateCopy &) = delete;
-    PrivateCopy &operator=(const PrivateCopy &) = delete;
+    explicit PrivateCopy(const Source &source) { source.copyDatabaseTo(folder_.path()); }
 
-    std::string database() const { return (folder_ / "Photos.sqlite").string(); }
+    std::string database() const { return (folder_ / Source::databaseFile).string(); }
 
 private:
-    void copy(const std::filesystem::path &source) const;
-    void remove() const;
-
-    std::filesystem::path folder_;
+    PrivateFolder folder_;
 };
 
 } // namespace iosphoto::tool

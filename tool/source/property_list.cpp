@@ -1,0 +1,79 @@
+#include "source/property_list.h"
+
+#include <plist/plist.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// One with all icons of a phone has some ten million bytes.
+constexpr std::uintmax_t largest = 256'000'000;
+
+std::string contentOf(const fs::path &file)
+{
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(file, error);
+    if (error || size > largest)
+        return {};
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+plist_t parse(const std::string &content)
+{
+    plist_t root = nullptr;
+    plist_from_memory(content.data(), static_cast<std::uint32_t>(content.size()), &root);
+    return root;
+}
+
+} // namespace
+
+PropertyList::PropertyList(const fs::path &file) : root_(parse(contentOf(file)), plist_free) {}
+
+void *PropertyList::find(Keys keys) const
+{
+    plist_t node = root_.get();
+    for (const char *const key : keys)
+        node = plist_get_node_type(node) == PLIST_DICT ? plist_dict_get_item(node, key) : nullptr;
+    return node;
+}
+
+std::string PropertyList::text(Keys keys) const
+{
+    plist_t node = find(keys);
+    if (plist_get_node_type(node) != PLIST_STRING)
+        return {};
+    char *value = nullptr;
+    plist_get_string_val(node, &value);
+    const std::unique_ptr<char, void (*)(void *)> owned(value, std::free);
+    return value != nullptr ? value : "";
+}
+
+bool PropertyList::isTrue(Keys keys) const
+{
+    plist_t node = find(keys);
+    std::uint8_t value = 0;
+    if (plist_get_node_type(node) == PLIST_BOOLEAN)
+        plist_get_bool_val(node, &value);
+    return value != 0;
+}
+
+std::optional<std::int64_t> PropertyList::time(Keys keys) const
+{
+    constexpr std::int64_t year2001 = 978'307'200;
+    plist_t node = find(keys);
+    if (plist_get_node_type(node) != PLIST_DATE)
+        return std::nullopt;
+    std::int32_t seconds = 0;
+    std::int32_t ignored = 0;
+    plist_get_date_val(node, &seconds, &ignored);
+    return year2001 + seconds;
+}
+
+} // namespace iosphoto::tool

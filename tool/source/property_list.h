@@ -1,0 +1,35 @@
+#ifndef IOSPHOTO_TOOL_PROPERTY_LIST_H
+#define IOSPHOTO_TOOL_PROPERTY_LIST_H
+
+#include <cstdint>
+#include <filesystem>
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// A property list, XML or binary. One that is missing or damaged has no values.
+class PropertyList
+{
+public:
+    using Keys = std::initializer_list<const char *>; ///< from the outermost dictionary inwards
+
+    explicit PropertyList(const std::filesystem::path &file);
+
+    /// Empty when there is no such text.
+    std::string text(Keys keys) const;
+    bool isTrue(Keys keys) const;
+    /// In seconds since 1970.
+    std::optional<std::int64_t> time(Keys keys) const;
+
+private:
+    void *find(Keys keys) const;
+
+    std::unique_ptr<void, void (*)(void *)> root_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_PROPERTY_LIST_H

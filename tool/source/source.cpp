@@ -1,0 +1,118 @@
+#include "source/source.h"
+
+#include "source/archive_reader.h"
+#include "source/archive_tree.h"
+#include "source/folder_tree.h"
+#include "source/library_search.h"
+#include "source/plain_layout.h"
+#include "source/source_file.h"
+
+#include <algorithm>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The folder to look in: one that holds PhotoData where the user named just that.
+fs::path topOf(const fs::path &folder)
+{
+    return folder.filename() == "PhotoData" ? folder.parent_path() : folder;
+}
+
+/// Paths come from databases, which may say anything.
+bool staysBelowMedia(const std::string &mediaPath)
+{
+    const fs::path path(mediaPath);
+    return path.is_relative() && std::find(path.begin(), path.end(), "..") == path.end();
+}
+
+} // namespace
+
+Source::Source(const std::string &name) : name_(name)
+{
+    const fs::path path = resolved(name);
+    if (fs::is_directory(path)) {
+        tree_ = std::make_unique<FolderTree>(topOf(path));
+        layout_ = findLibrary(*tree_, name);
+        return;
+    }
+    const fs::path file = sourceFile(name, "");
+    isArchive_ = tool::isArchive(file);
+    if (isArchive_) {
+        tree_ = std::make_unique<ArchiveTree>(file);
+        layout_ = findLibrary(*tree_, name);
+    } else {
+        // The files beside a database lie beside the target of a link.
+        tree_ = std::make_unique<FolderTree>(file.parent_path());
+        layout_ = std::make_unique<LoneDatabase>(file.filename().string());
+    }
+}
+
+std::string Source::databaseName() const
+{
+    const bool isNamed = kind() == SourceKind::Database && !isArchive_ && !fs::is_directory(name_);
+    return isNamed ? name_ : tree_->shown(databaseFiles().front().path);
+}
+
+std::int64_t Source::lastChange() const
+{
+    std::int64_t last = 0;
+    for (const char *const suffix : {"", "-wal"})
+        if (const auto facts = find(std::string(databaseBelowMedia) + suffix))
+            last = std::max(last, facts->modified);
+    return last;
+}
+
+std::vector<fs::path> Source::inputs() const
+{
+    std::vector<std::string> paths = layout_->records();
+    for (const FileToCopy &file : databaseFiles())
+        if (tree_->find(file.path))
+            paths.push_back(file.path);
+    std::vector<fs::path> files;
+    for (const std::string &path : paths)
+        files.push_back(tree_->onDisk(path));
+    files.erase(std::unique(files.begin(), files.end()), files.end());
+    return files;
+}
+
+std::vector<FileToCopy> Source::databaseFiles() const
+{
+    std::vector<FileToCopy> files;
+    for (const char *const suffix : {"", "-wal", "-journal"})
+        if (const auto path = layout_->locate(std::string(databaseBelowMedia) + suffix))
+            files.push_back({*path, std::string(databaseFile) + suffix});
+    return files;
+}
+
+void Source::copyDatabaseTo(const fs::path &folder) const
+{
+    std::vector<FileToCopy> files = databaseFiles();
+    for (FileToCopy &file : files)
+        file.target = folder / file.target;
+    tree_->copyOut(files);
+}
+
+std::optional<std::string> Source::locate(const std::string &mediaPath) const
+{
+    return staysBelowMedia(mediaPath) ? layout_->locate(mediaPath) : std::nullopt;
+}
+
+std::optional<FileFacts> Source::find(const std::string &mediaPath) const
+{
+    const auto path = locate(mediaPath);
+    return path ? tree_->find(*path) : std::nullopt;
+}
+
+void Source::copyOut(const std::vector<FileToCopy> &files) const
+{
+    std::vector<FileToCopy> located;
+    for (const FileToCopy &file : files)
+        if (const auto path = locate(file.path))
+            located.push_back({*path, file.target});
+    tree_->copyOut(located);
+}
+
+} // namespace iosphoto::tool
