@@ -5,7 +5,9 @@
 #include "source/source_file.h"
 
 #include <algorithm>
+#include <chrono>
 #include <sys/stat.h>
+#include <thread>
 #include <tuple>
 
 namespace iosphoto::tool {
@@ -13,6 +15,10 @@ namespace iosphoto::tool {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// The system notes the time of a change in steps of some milliseconds. Of a file that changed just
+/// now, the next change could have the same time and go unnoticed.
+constexpr std::chrono::milliseconds settlingTime(20);
 
 std::int64_t nanoseconds(const timespec &time)
 {
@@ -22,8 +28,10 @@ std::int64_t nanoseconds(const timespec &time)
 
 void copyFile(const Copy &file)
 {
-    requireReadable(file.from);
     std::error_code error;
+    if (!fs::is_regular_file(file.from, error)) // a pipe would keep us waiting
+        throw cannotRead(file.from, error ? error.message() : said("it is not a file"));
+    requireReadable(file.from);
     fs::copy_file(file.from, file.to, error);
     if (!error)
         fs::permissions(file.to, fs::perms::owner_read | fs::perms::owner_write, error);
@@ -54,10 +62,23 @@ void copyExisting(const std::vector<Copy> &files, const std::vector<FileState> &
     }
 }
 
-/// Whether the copies are of one moment.
-bool copyOnce(const std::vector<Copy> &files)
+bool changedJustNow(const std::vector<FileState> &states)
 {
+    const std::chrono::nanoseconds now = std::chrono::system_clock::now().time_since_epoch();
+    return std::any_of(states.begin(), states.end(), [&](const FileState &state) {
+        const auto age = now - std::chrono::nanoseconds(state.changed);
+        return state.exists && age >= age.zero() && age < settlingTime;
+    });
+}
+
+/// Whether the copies are of one moment.
+bool copyOnce(const std::vector<Copy> &files, const std::function<void()> &wait)
+{
+    if (changedJustNow(statesOf(files)))
+        wait();
     const std::vector<FileState> before = statesOf(files);
+    if (changedJustNow(before))
+        return false;
     try {
         copyExisting(files, before);
     } catch (const Failure &) {
@@ -96,11 +117,16 @@ bool FileState::operator==(const FileState &other) const
     return all(*this) == all(other);
 }
 
-void copyConsistently(const std::vector<Copy> &files)
+void waitUntilSettled()
+{
+    std::this_thread::sleep_for(settlingTime);
+}
+
+void copyConsistently(const std::vector<Copy> &files, const std::function<void()> &wait)
 {
     constexpr int tries = 3;
     for (int i = 0; i < tries; ++i)
-        if (copyOnce(files))
+        if (copyOnce(files, wait))
             return;
     throw Failure(CannotAccess, said("'{0}' changes while it is copied; close what writes to it, "
                                      "or copy it with its -wal first",

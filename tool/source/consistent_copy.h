@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -27,11 +28,15 @@ struct Copy
     std::filesystem::path to;
 };
 
+void waitUntilSettled();
+
 /// Copies files that belong together, such as a database and its log, as they are at one moment.
 /// Those that are not there are passed over; copies are for the owner only and keep the time of
 /// their last change. Throws Failure when a file cannot be copied, or changes at each of some
 /// tries.
-void copyConsistently(const std::vector<Copy> &files);
+/// @param wait  what is done when a file has changed just now
+void copyConsistently(const std::vector<Copy> &files,
+                      const std::function<void()> &wait = waitUntilSettled);
 
 } // namespace iosphoto::tool
 
