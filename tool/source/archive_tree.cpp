@@ -46,9 +46,12 @@ std::vector<std::string> ArchiveTree::searchedFolders() const
 std::vector<std::string> ArchiveTree::loneFiles() const
 {
     std::vector<std::string> files;
-    for (const auto &[path, entry] : entries_)
-        if (fs::path(path).extension() == ".sqlite")
+    for (const auto &[path, entry] : entries_) {
+        const fs::path name = fs::path(path).filename();
+        // A Mac packs notes of its own on a file as "._" and its name.
+        if (name.extension() == ".sqlite" && name.string().compare(0, 2, "._") != 0)
             files.push_back(path);
+    }
     return files;
 }
 

@@ -13,8 +13,8 @@ namespace {
 
 constexpr const char *info = "Info.plist";
 constexpr const char *manifest = "Manifest.plist";
-constexpr const char *database = "Manifest.db";
-constexpr const char *mbdb = "Manifest.mbdb";
+constexpr const char *database = backupIndexNames[0];
+constexpr const char *mbdb = backupIndexNames[1];
 
 constexpr const char *recordNames[] = {
     info, manifest, database, "Manifest.db-wal", "Manifest.db-journal", mbdb};
@@ -80,14 +80,14 @@ void Backup::readProperties()
 
 std::unique_ptr<BackupIndex> Backup::openIndex()
 {
-    for (const char *const name : {database, mbdb})
+    for (const char *const name : backupIndexNames)
         if (indexName_.empty() && has(name))
             indexName_ = name;
+    if (indexName_.empty())
+        return std::make_unique<StoredNames>(tree_, folder_);
     if (indexName_ == database)
         return std::make_unique<ManifestDb>(copies_ / database, shown(database));
-    if (indexName_ == mbdb)
-        return std::make_unique<ManifestMbdb>(copies_ / mbdb, shown(mbdb));
-    return std::make_unique<StoredNames>(tree_, folder_);
+    return std::make_unique<ManifestMbdb>(copies_ / mbdb, shown(mbdb));
 }
 
 void Backup::requireDatabase() const

@@ -10,6 +10,8 @@
 
 namespace iosphoto::tool {
 
+constexpr const char *backupIndexNames[] = {"Manifest.db", "Manifest.mbdb"};
+
 /// Whether a folder is a backup: it has the index of one, or the database under its stored name.
 bool isBackup(const FileTree &tree, const std::string &folder);
 

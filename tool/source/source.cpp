@@ -2,12 +2,15 @@
 
 #include "source/archive_reader.h"
 #include "source/archive_tree.h"
+#include "source/backup.h"
 #include "source/folder_tree.h"
 #include "source/library_search.h"
 #include "source/plain_layout.h"
 #include "source/source_file.h"
+#include "source/stored_name.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace iosphoto::tool {
 
@@ -15,10 +18,26 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The folder to look in: one that holds PhotoData where the user named just that.
-fs::path topOf(const fs::path &folder)
+bool hasBackupIndex(const fs::path &folder)
 {
-    return folder.filename() == "PhotoData" ? folder.parent_path() : folder;
+    return std::any_of(std::begin(backupIndexNames), std::end(backupIndexNames),
+                       [&](const char *name) {
+                           std::error_code ignored;
+                           return fs::exists(folder / name, ignored);
+                       });
+}
+
+/// The folder to look in: the one around PhotoData where the user named just that, and the backup
+/// where it was the stored database, whose log is not beside it.
+std::optional<fs::path> folderToSearch(const fs::path &named)
+{
+    if (fs::is_directory(named))
+        return named.filename() == "PhotoData" ? named.parent_path() : named;
+    if (named.filename() == storedName(databaseBelowMedia))
+        for (const fs::path &folder : {named.parent_path(), named.parent_path().parent_path()})
+            if (hasBackupIndex(folder))
+                return folder;
+    return std::nullopt;
 }
 
 /// Paths come from databases, which may say anything.
@@ -32,9 +51,8 @@ bool staysBelowMedia(const std::string &mediaPath)
 
 Source::Source(const std::string &name) : name_(name)
 {
-    const fs::path path = resolved(name);
-    if (fs::is_directory(path)) {
-        tree_ = std::make_unique<FolderTree>(topOf(path));
+    if (const auto folder = folderToSearch(resolved(name))) {
+        tree_ = std::make_unique<FolderTree>(*folder);
         layout_ = findLibrary(*tree_, name);
         return;
     }

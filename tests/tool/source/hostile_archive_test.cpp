@@ -125,6 +125,16 @@ TEST_F(ToolHostileArchive, SizeThatItDoesNotHold)
                   "the archive " + quoted(archive_) + " is damaged or cut short (", 3);
 }
 
+TEST_F(ToolHostileArchive, DatabaseThatFindsNoRoom)
+{
+    ArchiveBuilder(archive_, zip).add(mediaDatabase, database_);
+    constexpr std::size_t room = 10'000;
+    ASSERT_GT(database_.size(), room);
+    expectFailure(runToolOnFullDisk({"albums", archive_.string()}, room), "cannot write '", 3);
+    expectFailure(runToolOnFullDisk({"albums", library_.path()}, room),
+                  "cannot copy '" + library_.path() + "' to '", 3);
+}
+
 /// Archives of which a part at the end or in the middle is lost.
 class ToolBrokenArchive : public SourceFolder, public testing::WithParamInterface<ArchiveKind>
 {

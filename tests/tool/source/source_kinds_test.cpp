@@ -81,6 +81,12 @@ TEST_P(ToolBackupFolder, IsReadLikeItsDatabase)
     expectWhole(albums(writeBackup(folder_ / "backup", library_, options())));
 }
 
+TEST_P(ToolBackupFolder, IsFoundByItsStoredDatabase)
+{
+    writeBackup(folder_ / "backup", library_, options());
+    expectWhole(albums(BackupBuilder(folder_ / "backup", options()).stored(mediaDatabase)));
+}
+
 TEST_P(ToolBackupFolder, IsFoundAsTheOnlyOneInAFolder)
 {
     writeBackup(folder_ / "Backup/00008110-0001", library_, options());
@@ -111,6 +117,14 @@ protected:
 TEST_P(ToolArchive, OfADatabase)
 {
     expectWhole(albumsPacked(putMedia(folder_ / "phone", "my.sqlite")));
+}
+
+TEST_P(ToolArchive, OfADatabaseWithTheNotesOfAMac)
+{
+    const fs::path folder = putMedia(folder_ / "phone", "my.sqlite");
+    fs::create_directory(folder / "__MACOSX");
+    writeFile(folder / "__MACOSX/._my.sqlite", "notes");
+    expectWhole(albumsPacked(folder));
 }
 
 TEST_P(ToolArchive, OfAMediaFolder)
