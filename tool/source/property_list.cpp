@@ -1,5 +1,7 @@
 #include "source/property_list.h"
 
+#include "source/property_list_bounds.h"
+
 #include <plist/plist.h>
 
 #include <cstdlib>
@@ -28,6 +30,8 @@ std::string contentOf(const fs::path &file)
 plist_t parse(const std::string &content)
 {
     plist_t root = nullptr;
+    if (!isWithinBounds(content))
+        return root;
     plist_from_memory(content.data(), static_cast<std::uint32_t>(content.size()), &root);
     return root;
 }
