@@ -47,6 +47,7 @@ void copyFile(const Copy &file)
 std::vector<FileState> statesOf(const std::vector<Copy> &files)
 {
     std::vector<FileState> states;
+    states.reserve(files.size());
     for (const Copy &file : files)
         states.emplace_back(file.from);
     return states;
@@ -67,7 +68,7 @@ bool changedJustNow(const std::vector<FileState> &states)
     const std::chrono::nanoseconds now = std::chrono::system_clock::now().time_since_epoch();
     return std::any_of(states.begin(), states.end(), [&](const FileState &state) {
         const auto age = now - std::chrono::nanoseconds(state.changed);
-        return state.exists && age >= age.zero() && age < settlingTime;
+        return state.exists && age.count() >= 0 && age < settlingTime;
     });
 }
 

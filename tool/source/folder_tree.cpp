@@ -51,6 +51,7 @@ std::vector<std::string> FolderTree::searchedFolders() const
 void FolderTree::copyOut(const std::vector<FileToCopy> &files) const
 {
     std::vector<Copy> copies;
+    copies.reserve(files.size());
     for (const FileToCopy &file : files)
         copies.push_back({onDisk(file.path), file.target});
     copyConsistently(copies);

@@ -1,5 +1,6 @@
 #include "source/source.h"
 
+#include "language/said.h"
 #include "source/archive_reader.h"
 #include "source/archive_tree.h"
 #include "source/backup.h"
@@ -49,29 +50,28 @@ bool staysBelowMedia(const std::string &mediaPath)
 
 } // namespace
 
-Source::Source(const std::string &name) : name_(name)
+Source::Source(const std::string &name) : name_(name), databaseName_(name)
 {
     if (const auto folder = folderToSearch(resolved(name))) {
-        tree_ = std::make_unique<FolderTree>(*folder);
-        layout_ = findLibrary(*tree_, name);
+        search(std::make_unique<FolderTree>(*folder));
         return;
     }
     const fs::path file = sourceFile(name, "");
     isArchive_ = tool::isArchive(file);
     if (isArchive_) {
-        tree_ = std::make_unique<ArchiveTree>(file);
-        layout_ = findLibrary(*tree_, name);
-    } else {
-        // The files beside a database lie beside the target of a link.
-        tree_ = std::make_unique<FolderTree>(file.parent_path());
-        layout_ = std::make_unique<LoneDatabase>(file.filename().string());
+        search(std::make_unique<ArchiveTree>(file));
+        return;
     }
+    // The files beside a database lie beside the target of a link.
+    tree_ = std::make_unique<FolderTree>(file.parent_path());
+    layout_ = std::make_unique<LoneDatabase>(file.filename().string());
 }
 
-std::string Source::databaseName() const
+void Source::search(std::unique_ptr<FileTree> tree)
 {
-    const bool isNamed = kind() == SourceKind::Database && !isArchive_ && !fs::is_directory(name_);
-    return isNamed ? name_ : tree_->shown(databaseFiles().front().path);
+    tree_ = std::move(tree);
+    layout_ = findLibrary(*tree_, name_);
+    databaseName_ = tree_->shown(databaseFiles().front().path);
 }
 
 std::int64_t Source::lastChange() const
@@ -90,6 +90,7 @@ std::vector<fs::path> Source::inputs() const
         if (tree_->find(file.path))
             paths.push_back(file.path);
     std::vector<fs::path> files;
+    files.reserve(paths.size());
     for (const std::string &path : paths)
         files.push_back(tree_->onDisk(path));
     files.erase(std::unique(files.begin(), files.end()), files.end());
@@ -111,6 +112,8 @@ void Source::copyDatabaseTo(const fs::path &folder) const
     for (FileToCopy &file : files)
         file.target = folder / file.target;
     tree_->copyOut(files);
+    if (!fs::exists(folder / databaseFile))
+        throw cannotRead(databaseName_, said("it is not there any more"));
 }
 
 std::optional<std::string> Source::locate(const std::string &mediaPath) const

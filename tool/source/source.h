@@ -34,7 +34,7 @@ public:
     std::optional<std::int64_t> backupDate() const { return layout_->backupDate(); }
 
     /// The database as messages name it; in an archive its path there follows that of the archive.
-    std::string databaseName() const;
+    const std::string &databaseName() const { return databaseName_; }
     /// When the database or its log was last written, in seconds since 1970.
     std::int64_t lastChange() const;
     /// What should be there and is not, as a sentence; mostly empty.
@@ -55,11 +55,13 @@ public:
     void copyOut(const std::vector<FileToCopy> &files) const;
 
 private:
+    void search(std::unique_ptr<FileTree> tree);
     std::optional<std::string> locate(const std::string &mediaPath) const;
     /// Database, log and journal, as far as the source has a place for them.
     std::vector<FileToCopy> databaseFiles() const;
 
     std::string name_;
+    std::string databaseName_;
     bool isArchive_ = false;
     std::unique_ptr<FileTree> tree_;
     std::unique_ptr<LibraryLayout> layout_;

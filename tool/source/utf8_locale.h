@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_UTF8_LOCALE_H
 #define IOSPHOTO_TOOL_UTF8_LOCALE_H
 
-#include <locale.h>
+#include <clocale>
 #ifdef __APPLE__
 #include <xlocale.h>
 #endif

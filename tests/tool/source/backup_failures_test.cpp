@@ -210,5 +210,5 @@ TEST_P(ToolSecretBackup, IsRefused)
 }
 
 INSTANTIATE_TEST_SUITE_P(Parts, ToolSecretBackup,
-                         testing::Values("", "Manifest.db", "Info.plist", "12",
+                         testing::Values("", "Manifest.db", "Info.plist", "12", "5b",
                                          "12/12b144c0bd44f2b3dffd9186d3f9c05b917cee25"));

@@ -189,6 +189,14 @@ TEST_F(ToolSource, ArchiveThatChangesMeanwhileIsRefused)
     EXPECT_THROW(PrivateCopy{source}, iosphoto::tool::Failure);
 }
 
+TEST_F(ToolSource, DatabaseThatVanishesMeanwhileIsRefused)
+{
+    const fs::path database = media() / mediaDatabase;
+    const Source source(database);
+    fs::remove(database);
+    EXPECT_THROW(PrivateCopy{source}, iosphoto::tool::Failure);
+}
+
 class ToolBackupDevice : public ToolSource, public testing::WithParamInterface<bool>
 {
 };
