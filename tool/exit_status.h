@@ -11,6 +11,7 @@ enum ExitStatus {
     CannotAccess = 3,     ///< a file cannot be opened, read or written
     WrongKindOfFile = 4,  ///< the file is something else, or not a thumbnail cache
     SchemaDoesNotFit = 5, ///< a photo database, but of no known schema or not of the given iOS
+    EncryptedBackup = 6,  ///< a backup that only its password opens
     Interrupted = 128,    ///< plus a signal: 2 for Ctrl-C; 13, without a line, if nobody reads
 };
 

@@ -49,8 +49,7 @@ TEST_F(ToolBadInput, PathThatNamesNoFile)
                   3);
     EXPECT_FALSE(exists(missing));
     expectFailure(runTool({"albums", folder_.path().string()}),
-                  "cannot read " + quoted(folder_.path()) + ": it is a folder; name the database",
-                  3);
+                  quoted(folder_.path()) + " holds no photo library", 4);
     const fs::path pipe = folder_ / "pipe";
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
     expectFailure(runTool({"albums", pipe.string()}),

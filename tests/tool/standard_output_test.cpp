@@ -23,9 +23,9 @@ protected:
 TEST_P(ToolClosedPipe, EndsTheCommandWithoutAWord)
 {
     const TemporaryFolder temporary;
-    const ToolRun run = runToolForNoReader(
-        {"photos", library_.path(), "--ios", "15.0", "--product", "iPhone14,2", "--json"},
-        {{"TMPDIR", temporary.path().string()}});
+    const ToolRun run = runToolForNoReader({"photos", library_.path(), "--ios", "15.0", "--product",
+                                            "iPhone14,2", "--as-of", "2020-02-01", "--json"},
+                                           {{"TMPDIR", temporary.path().string()}});
     EXPECT_EQ(run, (ToolRun{"", "", 128 + SIGPIPE}));
     EXPECT_TRUE(fs::is_empty(temporary.path()));
 }

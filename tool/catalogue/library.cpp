@@ -29,6 +29,14 @@ std::uint32_t clockTime(std::int64_t unixTime)
         std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
 }
 
+/// The time that the library is of, where nobody says another.
+Moment timeOf(const Source &source)
+{
+    if (const auto date = source.backupDate())
+        return {*date, said("Last Backup Date")};
+    return {source.lastChange(), said("its last change")};
+}
+
 std::string adviceToCopyAgain()
 {
     return said("copy it from the device or the backup again, its -wal with it");
@@ -38,20 +46,29 @@ std::string adviceToCopyAgain()
 
 Library::Library(const LibraryRequest &request) : request_(request)
 {
-    FileUseObserver::announceReading({request.source, request.source + "-wal"});
-    const PrivateCopy copy(request.source);
-    {
-        const CopyDatabase database(copy.database(), request.source);
-        schema_ = probe(database, request.device, {});
-        trash_ = Trash(database);
-        hasLog_ = copy.hasLog();
-        if (hasLog_ && request.comparesLog)
-            logChanges_ = readLogChanges(database);
-    }
-    asOf_ = {request.asOf.value_or(currentUnixTime()), ""};
+    const Source source(request.source);
+    FileUseObserver::announceReading(source.inputs());
+    const PrivateCopy copy(source);
+    database_ = source.databaseName();
+    kind_ = source.kind();
+    isArchive_ = source.isArchive();
+    if (!source.missing().empty())
+        missing_.push_back(source.missing());
+    inspect(copy, source.device().value_or(RecordedDevice()));
+    asOf_ = request.asOf ? Moment{*request.asOf, ""} : timeOf(source);
     const StoppedClock asOf(clockTime(asOf_.unixTime));
     read(copy.database());
     leftOut_ = trash_.leftOutOf(albums_, asOf_.unixTime);
+}
+
+void Library::inspect(const PrivateCopy &copy, const RecordedDevice &says)
+{
+    const CopyDatabase database(copy.database(), database_);
+    schema_ = probe(database, request_.device, says);
+    trash_ = Trash(database);
+    hasLog_ = copy.hasLog();
+    if (hasLog_ && request_.comparesLog)
+        logChanges_ = readLogChanges(database);
 }
 
 Library::~Library()
@@ -65,7 +82,7 @@ void Library::read(const std::string &copy)
     const int result =
         ios_photo_get_list(copy, device().iosVersion, device().productType, &albums_);
     if (result != 0)
-        throw Failure(CannotAccess, said("cannot read '{0}': SQLite error {1}; {2}", name(),
+        throw Failure(CannotAccess, said("cannot read '{0}': SQLite error {1}; {2}", database_,
                                          -result, adviceToCopyAgain()));
     const std::string error = sqlite_error_log::firstError();
     if (error.empty())
@@ -73,7 +90,7 @@ void Library::read(const std::string &copy)
     if (isWithoutPhotos(albums_))
         throw Failure(CannotAccess, said("'{0}' is damaged ({1}) and no photo could be read; {2}",
                                          name(), error, adviceToCopyAgain()));
-    missing_.push_back(said("'{0}' is damaged ({1}) and photos are missing here; {2}", name(),
+    missing_.push_back(said("'{0}' is damaged ({1}) and photos are missing here; {2}", database_,
                             error, adviceToCopyAgain()));
 }
 

@@ -6,6 +6,7 @@
 #include "catalogue/trash.h"
 #include "exit_status.h"
 #include "ios_photo.h"
+#include "source/private_copy.h"
 #include "source/schema_probe.h"
 
 #include <optional>
@@ -35,6 +36,9 @@ public:
     Library &operator=(const Library &) = delete;
 
     const std::string &name() const { return request_.source; } ///< as the user named it
+    const std::string &database() const { return database_; }   ///< that was found there
+    SourceKind kind() const { return kind_; }
+    bool isArchive() const { return isArchive_; }
     const Device &device() const { return schema_.device; }
     const ProbedSchema &schema() const { return schema_; }
     const std::vector<CAlbumGroup> &albums() const { return albums_; }
@@ -56,10 +60,14 @@ public:
     void sayHowItWasRead() const;
 
 private:
+    void inspect(const PrivateCopy &copy, const RecordedDevice &says);
     void read(const std::string &copy);
     std::string assumptions() const;
 
     LibraryRequest request_;
+    std::string database_;
+    SourceKind kind_ = SourceKind::Database;
+    bool isArchive_ = false;
     ProbedSchema schema_;
     Moment asOf_ = {};
     Trash trash_;

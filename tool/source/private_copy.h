@@ -1,29 +1,33 @@
 #ifndef IOSPHOTO_TOOL_PRIVATE_COPY_H
 #define IOSPHOTO_TOOL_PRIVATE_COPY_H
 
-#include "output/temporary_path.h"
+#include "source/private_folder.h"
+#include "source/source.h"
 
-#include <filesystem>
 #include <string>
 
 namespace iosphoto::tool {
 
-/// A copy of a database with its write-ahead log and journal, in a folder that only this user can
-/// enter and that goes with the object. So the original is never opened for writing.
+/// A copy of a source's database with its write-ahead log and journal, which goes with the object.
+/// So the original is never opened for writing.
 class PrivateCopy
 {
 public:
     /// Throws Failure when something cannot be read or copied.
-    explicit PrivateCopy(const std::filesystem::path &database);
+    explicit PrivateCopy(const Source &source) { source.copyDatabaseTo(folder_.path()); }
 
-    std::string database() const { return (folder_.path() / "Photos.sqlite").string(); }
-    bool hasLog() const; ///< whether a write-ahead log that is not empty came with it
+    std::string database() const { return (folder_ / Source::databaseFile).string(); }
+
+    /// Whether a write-ahead log that is not empty came with it.
+    bool hasLog() const
+    {
+        std::error_code ignored;
+        const auto size = std::filesystem::file_size(database() + "-wal", ignored);
+        return !ignored && size > 0;
+    }
 
 private:
-    void copy() const;
-
-    std::filesystem::path source_;
-    TemporaryPath folder_;
+    PrivateFolder folder_;
 };
 
 } // namespace iosphoto::tool

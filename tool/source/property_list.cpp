@@ -1,40 +1,79 @@
 #include "source/property_list.h"
 
 #include "model/core_data_time.h"
+#include "source/property_list_bounds.h"
 
 #include <plist/plist.h>
 
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 
 namespace iosphoto::tool {
 
-PropertyList::PropertyList(const std::string &bytes)
+namespace fs = std::filesystem;
+
+namespace {
+
+/// One with all icons of a phone has some ten million bytes.
+constexpr std::uintmax_t largest = 256'000'000;
+
+std::string contentOf(const fs::path &file)
 {
-    plist_t list = nullptr;
-    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &list);
-    root_.reset(list);
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(file, error);
+    if (error || size > largest)
+        return {};
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-void PropertyList::Free::operator()(void *list) const
+plist_t parse(const std::string &content)
 {
-    plist_free(list);
+    plist_t root = nullptr;
+    if (!isWithinBounds(content))
+        return root;
+    plist_from_memory(content.data(), static_cast<std::uint32_t>(content.size()), &root);
+    return root;
 }
 
-std::string PropertyList::text(const std::string &key) const
+} // namespace
+
+PropertyList::PropertyList(const fs::path &file) : PropertyList(contentOf(file)) {}
+
+PropertyList::PropertyList(const std::string &content) : root_(parse(content), plist_free) {}
+
+void *PropertyList::find(Keys keys) const
 {
-    plist_t item = find(key);
-    if (item == nullptr || plist_get_node_type(item) != PLIST_STRING)
+    plist_t node = root_.get();
+    for (const char *const key : keys)
+        node = plist_get_node_type(node) == PLIST_DICT ? plist_dict_get_item(node, key) : nullptr;
+    return node;
+}
+
+std::string PropertyList::text(Keys keys) const
+{
+    plist_t node = find(keys);
+    if (plist_get_node_type(node) != PLIST_STRING)
         return {};
     char *value = nullptr;
-    plist_get_string_val(item, &value);
-    const std::string text = value != nullptr ? value : "";
-    std::free(value);
-    return text;
+    plist_get_string_val(node, &value);
+    const std::unique_ptr<char, void (*)(void *)> owned(value, std::free);
+    return value != nullptr ? value : "";
 }
 
-std::optional<std::int64_t> PropertyList::integer(const std::string &key) const
+bool PropertyList::isTrue(Keys keys) const
 {
-    plist_t item = find(key);
+    plist_t node = find(keys);
+    std::uint8_t value = 0;
+    if (plist_get_node_type(node) == PLIST_BOOLEAN)
+        plist_get_bool_val(node, &value);
+    return value != 0;
+}
+
+std::optional<std::int64_t> PropertyList::integer(Keys keys) const
+{
+    plist_t item = find(keys);
     if (item == nullptr || plist_get_node_type(item) != PLIST_UINT)
         return std::nullopt;
     std::uint64_t value = 0;
@@ -42,38 +81,16 @@ std::optional<std::int64_t> PropertyList::integer(const std::string &key) const
     return static_cast<std::int64_t>(value);
 }
 
-std::optional<bool> PropertyList::boolean(const std::string &key) const
+std::optional<std::int64_t> PropertyList::time(Keys keys) const
 {
-    plist_t item = find(key);
-    if (item == nullptr || plist_get_node_type(item) != PLIST_BOOLEAN)
-        return std::nullopt;
-    std::uint8_t value = 0;
-    plist_get_bool_val(item, &value);
-    return value != 0;
-}
 
-std::optional<std::int64_t> PropertyList::unixTime(const std::string &key) const
-{
-    plist_t item = find(key);
-    if (item == nullptr || plist_get_node_type(item) != PLIST_DATE)
+    plist_t node = find(keys);
+    if (plist_get_node_type(node) != PLIST_DATE)
         return std::nullopt;
     std::int32_t seconds = 0;
-    std::int32_t microseconds = 0;
-    plist_get_date_val(item, &seconds, &microseconds);
-    return seconds + coreDataEpoch;
-}
-
-void *PropertyList::find(const std::string &key) const
-{
-    plist_t item = root_.get();
-    for (std::size_t begin = 0; item != nullptr && begin <= key.size();) {
-        if (plist_get_node_type(item) != PLIST_DICT)
-            return nullptr;
-        const std::size_t end = std::min(key.find('/', begin), key.size());
-        item = plist_dict_get_item(item, key.substr(begin, end - begin).c_str());
-        begin = end + 1;
-    }
-    return item;
+    std::int32_t ignored = 0;
+    plist_get_date_val(node, &seconds, &ignored);
+    return coreDataEpoch + seconds;
 }
 
 } // namespace iosphoto::tool

@@ -2,34 +2,34 @@
 #define IOSPHOTO_TOOL_PROPERTY_LIST_H
 
 #include <cstdint>
+#include <filesystem>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace iosphoto::tool {
 
-/// A property list, binary or XML. One that cannot be read has no entries. Keys that lead into a
-/// dictionary inside are written with a slash, such as "Lockdown/ProductType".
+/// A property list, XML or binary. One that is missing or damaged has no values.
 class PropertyList
 {
 public:
-    explicit PropertyList(const std::string &bytes);
+    using Keys = std::initializer_list<const char *>; ///< from the outermost dictionary inwards
 
-    bool isReadable() const { return root_ != nullptr; }
-    std::string text(const std::string &key) const; ///< empty where there is none
-    std::optional<std::int64_t> integer(const std::string &key) const;
-    std::optional<bool> boolean(const std::string &key) const;
-    std::optional<std::int64_t> unixTime(const std::string &key) const;
+    explicit PropertyList(const std::filesystem::path &file);
+    explicit PropertyList(const std::string &content);
+
+    /// Empty when there is no such text.
+    std::string text(Keys keys) const;
+    bool isTrue(Keys keys) const;
+    std::optional<std::int64_t> integer(Keys keys) const;
+    /// In seconds since 1970.
+    std::optional<std::int64_t> time(Keys keys) const;
 
 private:
-    struct Free
-    {
-        void operator()(void *list) const;
-    };
+    void *find(Keys keys) const;
 
-    void *find(const std::string &key) const;
-
-    std::unique_ptr<void, Free> root_;
+    std::unique_ptr<void, void (*)(void *)> root_;
 };
 
 } // namespace iosphoto::tool

@@ -38,15 +38,15 @@ std::string modelWords(const StoreMetadata &metadata)
                                   : said("schema {0}, build {1}", model, metadata.build);
 }
 
-void decideIos(ProbedSchema &probed, const Device &wanted, const SourceDevice &says,
+void decideIos(ProbedSchema &probed, const Device &wanted, const RecordedDevice &says,
                const KnownSchema *schema)
 {
-    probed.iosBuild = says.build.empty() ? probed.metadata.build : says.build;
+    probed.iosBuild = says.buildVersion.empty() ? probed.metadata.build : says.buildVersion;
     if (!wanted.iosVersion.empty()) {
         probed.device.iosVersion = wanted.iosVersion;
-    } else if (!says.device.iosVersion.empty()) {
-        probed.device.iosVersion = says.device.iosVersion;
-        probed.iosWhy = says.file;
+    } else if (!says.iosVersion.empty()) {
+        probed.device.iosVersion = says.iosVersion;
+        probed.iosWhy = says.recordedIn;
     } else if (const auto major = probed.metadata.iosMajor(); agree(major, schema)) {
         probed.device.iosVersion = std::to_string(*major);
         probed.iosWhy = modelWords(probed.metadata);
@@ -56,14 +56,14 @@ void decideIos(ProbedSchema &probed, const Device &wanted, const SourceDevice &s
     }
 }
 
-void decideProduct(ProbedSchema &probed, const Device &wanted, const SourceDevice &says,
+void decideProduct(ProbedSchema &probed, const Device &wanted, const RecordedDevice &says,
                    const KnownSchema *schema)
 {
     if (!wanted.productType.empty()) {
         probed.device.productType = wanted.productType;
-    } else if (!says.device.productType.empty()) {
-        probed.device.productType = says.device.productType;
-        probed.deviceWhy = says.file;
+    } else if (!says.productType.empty()) {
+        probed.device.productType = says.productType;
+        probed.deviceWhy = says.recordedIn;
     } else {
         probed.device.productType =
             schema != nullptr ? schema->productType : productThatHidesNoAlbum;
@@ -134,7 +134,7 @@ std::string ProbedSchema::productText() const
     return withReason(device.productType, deviceWhy);
 }
 
-ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const SourceDevice &says)
+ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const RecordedDevice &says)
 {
     database.check();
     requirePhotoDatabase(database);

@@ -4,6 +4,7 @@
 #include "source/copy_database.h"
 #include "source/device.h"
 #include "source/known_schemas.h"
+#include "source/recorded_device.h"
 #include "source/store_metadata.h"
 
 #include <string>
@@ -30,7 +31,7 @@ struct ProbedSchema
 /// to read it as: what the user wants, else what the source says, else what the schema says.
 ///
 /// Throws Failure when the database is something else or does not fit the device.
-ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const SourceDevice &says);
+ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const RecordedDevice &says);
 
 } // namespace iosphoto::tool
 

@@ -1,5 +1,7 @@
 #include "source/source_file.h"
 
+#include "language/said.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -9,11 +11,6 @@ namespace iosphoto::tool {
 namespace fs = std::filesystem;
 
 namespace {
-
-Failure cannotRead(const fs::path &file, const std::string &reason)
-{
-    return {CannotAccess, "cannot read '" + file.string() + "': " + reason};
-}
 
 /// Why a file cannot be opened for reading; empty if it can.
 std::string unreadableBecause(const fs::path &file)
@@ -27,24 +24,41 @@ std::string unreadableBecause(const fs::path &file)
 
 } // namespace
 
-fs::path sourceFile(const fs::path &path, const std::string &toName)
+Failure cannotRead(const fs::path &file, const std::string &reason)
+{
+    return {CannotAccess, said("cannot read '{0}': {1}", file.string(), reason)};
+}
+
+Failure mayNotRead(const fs::path &file, const std::string &reason)
+{
+    return cannotRead(file, said("{0}; run as a user who may read it, or copy it first", reason));
+}
+
+fs::path resolved(const fs::path &path)
 {
     std::error_code error;
     fs::path target = fs::canonical(path, error);
     if (error)
-        throw cannotRead(path, error.message() + "; check the path");
-    const fs::file_status status = fs::status(target, error);
+        throw cannotRead(path, said("{0}; check the path", error.message()));
+    return target;
+}
+
+fs::path sourceFile(const fs::path &path, const std::string &toName)
+{
+    fs::path target = resolved(path);
+    std::error_code ignored;
+    const fs::file_status status = fs::status(target, ignored);
     if (fs::is_directory(status))
-        throw cannotRead(path, "it is a folder; name " + toName);
+        throw cannotRead(path, said("it is a folder; name {0}", toName));
     if (!fs::is_regular_file(status))
-        throw cannotRead(path, "it is not a file");
+        throw cannotRead(path, said("it is not a file"));
     return target;
 }
 
 void requireReadable(const fs::path &file)
 {
     if (const std::string reason = unreadableBecause(file); !reason.empty())
-        throw cannotRead(file, reason + "; run as a user who may read it, or copy it first");
+        throw mayNotRead(file, reason);
 }
 
 } // namespace iosphoto::tool

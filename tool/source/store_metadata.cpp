@@ -40,8 +40,8 @@ StoreMetadata readStoreMetadata(const CopyDatabase &database)
     StoreMetadata metadata;
     database.forEachRow("select Z_PLIST from Z_METADATA", [&](const QueryRow &row) {
         const PropertyList list(row.text(0));
-        metadata.modelVersion = list.integer("PLModelVersion");
-        metadata.build = list.text("PLOSVersion");
+        metadata.modelVersion = list.integer({"PLModelVersion"});
+        metadata.build = list.text({"PLOSVersion"});
     });
     database.forEachRow("select ZOSVERSION from ZMIGRATIONHISTORY order by ZINDEX desc limit 1",
                         [&](const QueryRow &row) {

@@ -1,0 +1,197 @@
+#include "support/backup_builder.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <plist/plist.h>
+#include <sqlite3.h>
+
+#include <stdexcept>
+
+namespace iosphoto::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char *domain = "CameraRollDomain";
+
+std::string fileId(const std::string &mediaPath)
+{
+    const QByteArray subject =
+        QByteArray(domain) + "-Media/" + QByteArray::fromStdString(mediaPath);
+    return QCryptographicHash::hash(subject, QCryptographicHash::Sha1).toHex().toStdString();
+}
+
+void execute(sqlite3 *connection, const std::string &sql)
+{
+    if (sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection));
+}
+
+std::string key(const std::string &name, const std::string &value)
+{
+    return "<key>" + name + "</key>" + value + "\n";
+}
+
+std::string textKey(const std::string &name, const std::string &value)
+{
+    return key(name, "<string>" + value + "</string>");
+}
+
+std::string dateKey(const std::string &name, std::int64_t time)
+{
+    const QString text = QDateTime::fromSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODate);
+    return key(name, "<date>" + text.toStdString() + "</date>");
+}
+
+/// A number of the mbdb format, the most significant byte first.
+std::string bigEndian(std::uint64_t value, int bytes)
+{
+    std::string text;
+    for (int shift = 8 * (bytes - 1); shift >= 0; shift -= 8)
+        text += static_cast<char>(value >> shift & 0xffU);
+    return text;
+}
+
+std::string mbdbText(const std::string &text)
+{
+    return bigEndian(text.size(), 2) + text;
+}
+
+std::string mbdbRecord(const std::string &mediaPath, unsigned mode)
+{
+    const std::string none = "\xff\xff";
+    const std::string hash(20, 'h');
+    return mbdbText(domain) + mbdbText("Media/" + mediaPath) + none + mbdbText(hash) + none +
+           bigEndian(mode, 2) + bigEndian(7, 8) + bigEndian(501, 4) + bigEndian(501, 4) +
+           bigEndian(1'400'000'000, 4) + bigEndian(1'400'000'001, 4) + bigEndian(1'400'000'002, 4) +
+           bigEndian(1234, 8) + bigEndian(3, 1) + bigEndian(1, 1) + mbdbText("name") +
+           mbdbText("value");
+}
+
+} // namespace
+
+std::string propertyList(const std::string &xmlLines, bool isBinary)
+{
+    const std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n"
+                            "<dict>\n" +
+                            xmlLines + "</dict>\n</plist>\n";
+    if (!isBinary)
+        return xml;
+    plist_t root = nullptr;
+    plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &root);
+    char *bytes = nullptr;
+    std::uint32_t size = 0;
+    plist_to_bin(root, &bytes, &size);
+    std::string binary(bytes, size);
+    plist_to_bin_free(bytes);
+    plist_free(root);
+    return binary;
+}
+
+BackupBuilder::BackupBuilder(fs::path folder, BackupOptions options)
+    : folder_(std::move(folder)), options_(std::move(options))
+{
+    fs::create_directories(folder_);
+}
+
+fs::path BackupBuilder::stored(const std::string &mediaPath) const
+{
+    const std::string id = fileId(mediaPath);
+    return options_.index == BackupIndexKind::Mbdb ? folder_ / id : folder_ / id.substr(0, 2) / id;
+}
+
+BackupBuilder &BackupBuilder::add(const std::string &mediaPath, const std::string &content)
+{
+    paths_.insert(mediaPath);
+    if (options_.notStored.count(mediaPath) == 0) {
+        fs::create_directories(stored(mediaPath).parent_path());
+        writeFile(stored(mediaPath), content);
+    }
+    return *this;
+}
+
+BackupBuilder &BackupBuilder::add(const LibraryBuilder &library)
+{
+    add(mediaDatabase, readFile(library.path()));
+    if (fs::exists(library.path() + "-wal"))
+        add(mediaLog, readFile(library.path() + "-wal"));
+    return *this;
+}
+
+void BackupBuilder::finish() const
+{
+    if (options_.index == BackupIndexKind::Db)
+        writeDb();
+    if (options_.index == BackupIndexKind::Mbdb)
+        writeMbdb();
+    if (options_.index != BackupIndexKind::None)
+        writeLists();
+}
+
+std::set<std::string> BackupBuilder::listedPaths() const
+{
+    std::set<std::string> listed;
+    for (const std::string &path : paths_)
+        if (options_.notListed.count(path) == 0)
+            listed.insert(path);
+    return listed;
+}
+
+void BackupBuilder::writeDb() const
+{
+    if (options_.isEncrypted) {
+        writeFile(folder_ / "Manifest.db", std::string(4096, 'e'));
+        return;
+    }
+    sqlite3 *connection = nullptr;
+    sqlite3_open((folder_ / "Manifest.db").c_str(), &connection);
+    execute(connection, "create table Files (fileID text primary key, domain text, "
+                        "relativePath text, flags integer, file blob)");
+    execute(connection, "insert into Files values ('0000000000000000000000000000000000000000', '" +
+                            std::string(domain) + "', 'Media/PhotoData', 2, null)");
+    execute(connection, "insert into Files values ('1111111111111111111111111111111111111111', "
+                        "'HomeDomain', 'Media/PhotoData/Photos.sqlite', 1, null)");
+    for (const std::string &path : listedPaths())
+        execute(connection, "insert into Files values ('" + fileId(path) + "', '" + domain +
+                                "', 'Media/" + path + "', 1, null)");
+    sqlite3_close(connection);
+}
+
+void BackupBuilder::writeMbdb() const
+{
+    std::string content("mbdb\x05\x00", 6);
+    content += mbdbRecord("PhotoData", 0040755);
+    for (const std::string &path : listedPaths())
+        content += mbdbRecord(path, 0100644);
+    writeFile(folder_ / "Manifest.mbdb", content);
+}
+
+void BackupBuilder::writeLists() const
+{
+    const std::string info = textKey("Build Version", options_.buildVersion) +
+                             textKey("Device Name", "Somebody's") +
+                             dateKey("Last Backup Date", options_.lastBackup) +
+                             textKey("Product Type", options_.productType) +
+                             textKey("Product Version", options_.iosVersion) +
+                             textKey("Unique Identifier", "00008110-0001");
+    writeFile(folder_ / "Info.plist", propertyList(info, options_.hasBinaryInfo));
+    const std::string lockdown = textKey("ProductType", options_.productType) +
+                                 textKey("ProductVersion", options_.iosVersion);
+    writeFile(folder_ / "Manifest.plist",
+              propertyList(key("IsEncrypted", options_.isEncrypted ? "<true/>" : "<false/>") +
+                               dateKey("Date", options_.lastBackup) +
+                               key("Lockdown", "<dict>" + lockdown + "</dict>"),
+                           true));
+    writeFile(folder_ / "Status.plist", propertyList(textKey("BackupState", "new"), true));
+}
+
+fs::path writeBackup(const fs::path &folder, const LibraryBuilder &library,
+                     const BackupOptions &options)
+{
+    BackupBuilder builder(folder, options);
+    builder.add(library).finish();
+    return folder;
+}
+
+} // namespace iosphoto::test

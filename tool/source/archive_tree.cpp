@@ -1,0 +1,110 @@
+#include "source/archive_tree.h"
+
+#include "failure.h"
+#include "language/said.h"
+#include "source/archive_reader.h"
+
+#include <set>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+ArchiveTree::ArchiveTree(fs::path archive) : archive_(std::move(archive)), state_(archive_)
+{
+    ArchiveReader reader(archive_);
+    while (reader.next()) {
+        const std::string path = reader.path();
+        if (path.empty() || !reader.isFile())
+            continue;
+        const Entry entry = {{reader.size().value_or(0), reader.modified()},
+                             reader.isHardLink(),
+                             reader.isEncrypted(),
+                             false};
+        const auto [at, isNew] = entries_.emplace(path, entry);
+        at->second.isTwice = !isNew;
+    }
+}
+
+std::optional<FileFacts> ArchiveTree::find(const std::string &path) const
+{
+    const auto found = entries_.find(path);
+    return found != entries_.end() ? std::make_optional(found->second.facts) : std::nullopt;
+}
+
+std::vector<std::string> ArchiveTree::searchedFolders() const
+{
+    std::set<std::string> folders = {""};
+    for (const auto &[path, entry] : entries_)
+        for (std::size_t slash = path.rfind('/');
+             slash != std::string::npos && folders.insert(path.substr(0, slash)).second;
+             slash = path.rfind('/', slash - 1)) {
+        }
+    return {folders.begin(), folders.end()};
+}
+
+std::vector<std::string> ArchiveTree::loneFiles() const
+{
+    std::vector<std::string> files;
+    for (const auto &[path, entry] : entries_) {
+        const fs::path name = fs::path(path).filename();
+        // A Mac packs notes of its own on a file as "._" and its name.
+        if (name.extension() == ".sqlite" && name.string().compare(0, 2, "._") != 0)
+            files.push_back(path);
+    }
+    return files;
+}
+
+std::string ArchiveTree::shown(const std::string &path) const
+{
+    return joined(archive_.string(), path);
+}
+
+std::string ArchiveTree::howToNameOne() const
+{
+    return said("unpack it and name one of them");
+}
+
+void ArchiveTree::requirePlain(const std::string &path, const Entry &entry) const
+{
+    std::string reason;
+    if (entry.isEncrypted)
+        reason = said("it is encrypted; unpack the archive with its password and name the folder");
+    else if (entry.isHardLink)
+        reason = said("it is a link to another entry; unpack the archive and name the folder");
+    else if (entry.isTwice)
+        reason = said("the archive holds it more than once; unpack it and name the folder");
+    if (!reason.empty())
+        throw Failure(CannotAccess, said("cannot read '{0}': {1}", shown(path), reason));
+}
+
+void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
+{
+    std::map<std::string, fs::path> targets;
+    for (const FileToCopy &file : files) {
+        const auto found = entries_.find(file.path);
+        if (found == entries_.end())
+            continue;
+        requirePlain(file.path, found->second);
+        targets[file.path] = file.target;
+    }
+    if (!targets.empty())
+        extract(std::move(targets));
+    if (!(FileStamp(archive_) == state_))
+        throw Failure(CannotAccess,
+                      said("'{0}' changes while it is read; copy it first", archive_.string()));
+}
+
+void ArchiveTree::extract(std::map<std::string, fs::path> targets) const
+{
+    ArchiveReader reader(archive_);
+    while (!targets.empty() && reader.next()) {
+        const auto wanted = targets.find(reader.path());
+        if (wanted == targets.end() || !reader.isFile())
+            continue;
+        reader.copyTo(wanted->second);
+        targets.erase(wanted);
+    }
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,150 @@
+#include "source/backup.h"
+
+#include "failure.h"
+#include "language/said.h"
+#include "source/manifest_db.h"
+#include "source/manifest_mbdb.h"
+#include "source/property_list.h"
+#include "source/stored_names.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr const char *info = "Info.plist";
+constexpr const char *manifest = "Manifest.plist";
+constexpr const char *database = backupIndexNames[0];
+constexpr const char *mbdb = backupIndexNames[1];
+
+constexpr const char *recordNames[] = {
+    info, manifest, database, "Manifest.db-wal", "Manifest.db-journal", mbdb};
+
+std::optional<RecordedDevice> recordedDevice(const PropertyList &infoList,
+                                             const PropertyList &manifestList)
+{
+    const RecordedDevice fromInfo = {infoList.text({"Product Version"}),
+                                     infoList.text({"Product Type"}),
+                                     infoList.text({"Build Version"}), info};
+    if (!fromInfo.iosVersion.empty() || !fromInfo.productType.empty())
+        return fromInfo;
+    const RecordedDevice fromManifest = {manifestList.text({"Lockdown", "ProductVersion"}),
+                                         manifestList.text({"Lockdown", "ProductType"}),
+                                         manifestList.text({"Lockdown", "BuildVersion"}), manifest};
+    if (!fromManifest.iosVersion.empty() || !fromManifest.productType.empty())
+        return fromManifest;
+    return std::nullopt;
+}
+
+} // namespace
+
+bool isBackup(const FileTree &tree, const std::string &folder)
+{
+    const auto has = [&](const char *name) { return tree.find(joined(folder, name)).has_value(); };
+    // Other programs have a Manifest.db or Manifest.plist too, but not both.
+    const bool hasLists = has(manifest) || has(info);
+    return has(mbdb) || (has(database) && hasLists) || (has(manifest) && has(info)) ||
+           StoredNames(tree, folder).locate(databaseBelowMedia);
+}
+
+Backup::Backup(const FileTree &tree, std::string folder) : tree_(tree), folder_(std::move(folder))
+{
+    copyRecords();
+    readProperties();
+    index_ = openIndex();
+    requireDatabase();
+    noteWhatIsMissing();
+}
+
+void Backup::copyRecords() const
+{
+    std::vector<FileToCopy> files;
+    for (const char *const name : recordNames)
+        files.push_back({joined(folder_, name), copies_ / name});
+    tree_.copyOut(files);
+}
+
+void Backup::readProperties()
+{
+    const PropertyList infoList(copies_ / info);
+    const PropertyList manifestList(copies_ / manifest);
+    if (manifestList.isTrue({"IsEncrypted"}))
+        throw Failure(EncryptedBackup,
+                      said("'{0}' is an encrypted backup; make one without encryption, or decrypt "
+                           "it first",
+                           tree_.shown(folder_)));
+    device_ = recordedDevice(infoList, manifestList);
+    date_ = infoList.time({"Last Backup Date"});
+    if (!date_)
+        date_ = manifestList.time({"Date"});
+}
+
+std::unique_ptr<BackupIndex> Backup::openIndex()
+{
+    for (const char *const name : backupIndexNames)
+        if (indexName_.empty() && has(name))
+            indexName_ = name;
+    if (indexName_.empty())
+        return std::make_unique<StoredNames>(tree_, folder_);
+    if (indexName_ == database)
+        return std::make_unique<ManifestDb>(copies_ / database, shown(database));
+    return std::make_unique<ManifestMbdb>(copies_ / mbdb, shown(mbdb));
+}
+
+void Backup::requireDatabase() const
+{
+    const auto path = locate(databaseBelowMedia);
+    if (!path)
+        throw Failure(WrongKindOfFile,
+                      said("'{0}' is a backup without a photo library: {1} does not list {2}; make "
+                           "one of the whole device",
+                           tree_.shown(folder_), indexName_, databaseBelowMedia));
+    if (!tree_.find(*path))
+        throw Failure(CannotAccess,
+                      said("'{0}' is half a backup: the stored file '{1}' of {2} is not there; "
+                           "copy the whole backup again",
+                           tree_.shown(folder_), tree_.shown(*path), databaseBelowMedia));
+}
+
+void Backup::noteWhatIsMissing()
+{
+    if (indexName_.empty()) {
+        missing_ = said("'{0}' has no Manifest.db, so files that belong to its library may be "
+                        "missing; copy the whole backup again",
+                        tree_.shown(folder_));
+        return;
+    }
+    for (const char *const suffix : {"-wal", "-journal"}) {
+        const auto path = locate(std::string(databaseBelowMedia) + suffix);
+        if (path && !tree_.find(*path))
+            missing_ = said("the latest changes are missing: the stored file '{0}' of {1}{2} is "
+                            "not there; copy the whole backup again",
+                            tree_.shown(*path), databaseBelowMedia, suffix);
+    }
+}
+
+std::optional<std::string> Backup::locate(const std::string &mediaPath) const
+{
+    const auto path = index_->locate(mediaPath);
+    return path ? std::make_optional(joined(folder_, *path)) : std::nullopt;
+}
+
+std::vector<std::string> Backup::records() const
+{
+    std::vector<std::string> paths;
+    for (const char *const name : recordNames)
+        if (has(name))
+            paths.push_back(joined(folder_, name));
+    return paths;
+}
+
+bool Backup::has(const std::string &name) const
+{
+    return tree_.find(joined(folder_, name)).has_value();
+}
+
+std::string Backup::shown(const std::string &name) const
+{
+    return tree_.shown(joined(folder_, name));
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,25 @@
+#ifndef IOSPHOTO_TOOL_BACKUP_INDEX_H
+#define IOSPHOTO_TOOL_BACKUP_INDEX_H
+
+#include <optional>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// What tells under which name a backup stores a file.
+class BackupIndex
+{
+public:
+    BackupIndex() = default;
+    virtual ~BackupIndex() = default;
+    BackupIndex(const BackupIndex &) = delete;
+    BackupIndex &operator=(const BackupIndex &) = delete;
+
+    /// The path in the backup of a file that has this path below Media on the phone; nothing when
+    /// the backup does not hold it.
+    virtual std::optional<std::string> locate(const std::string &mediaPath) const = 0;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_BACKUP_INDEX_H

@@ -1,0 +1,68 @@
+#ifndef IOSPHOTO_TOOL_FILE_TREE_H
+#define IOSPHOTO_TOOL_FILE_TREE_H
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace iosphoto::tool {
+
+/// What is known of a file before it is read.
+struct FileFacts
+{
+    std::uint64_t size;
+    std::int64_t modified; ///< seconds since 1970
+};
+
+/// A file of a tree, and where a copy of it goes.
+struct FileToCopy
+{
+    std::string path;
+    std::filesystem::path target;
+};
+
+/// Files in folders, on disk or in an archive. Paths begin at the top of the tree, without a slash;
+/// the top itself is the empty path. All functions throw Failure when something cannot be read.
+class FileTree
+{
+public:
+    FileTree() = default;
+    virtual ~FileTree() = default;
+    FileTree(const FileTree &) = delete;
+    FileTree &operator=(const FileTree &) = delete;
+
+    /// The regular file of that path, if there is one.
+    virtual std::optional<FileFacts> find(const std::string &path) const = 0;
+
+    /// The folders that are searched for a library, parents first: on disk the top and those in it,
+    /// in an archive all.
+    virtual std::vector<std::string> searchedFolders() const = 0;
+
+    /// The files that may be a lone database of any name. None on disk, where it can be named.
+    virtual std::vector<std::string> loneFiles() const = 0;
+
+    /// Copies files that belong together, as they are at one moment and for the owner's eyes only.
+    /// Those that are not there are passed over.
+    virtual void copyOut(const std::vector<FileToCopy> &files) const = 0;
+
+    /// The file on disk that is read for that path.
+    virtual std::filesystem::path onDisk(const std::string &path) const = 0;
+
+    /// A path of the tree as messages show it.
+    virtual std::string shown(const std::string &path) const = 0;
+
+    /// What to do when only one of the libraries in the tree can be read.
+    virtual std::string howToNameOne() const = 0;
+};
+
+/// `folder` and `name` with a slash in between, where one is needed.
+inline std::string joined(const std::string &folder, const std::string &name)
+{
+    return folder.empty() || name.empty() ? folder + name : folder + "/" + name;
+}
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_FILE_TREE_H

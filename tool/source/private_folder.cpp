@@ -1,0 +1,33 @@
+#include "source/private_folder.h"
+
+#include "failure.h"
+#include "language/said.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path makePrivateFolder()
+{
+    const char *const wanted = std::getenv("TMPDIR");
+    const fs::path parent = wanted != nullptr && *wanted != '\0' ? wanted : "/tmp";
+    std::string name = (parent / "iosphoto-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr)
+        throw Failure(CannotAccess, said("cannot make a temporary folder in '{0}': {1}; set TMPDIR "
+                                         "to a folder that can be written",
+                                         parent.string(), std::strerror(errno)));
+    return name;
+}
+
+} // namespace
+
+PrivateFolder::PrivateFolder() : folder_(makePrivateFolder) {}
+
+} // namespace iosphoto::tool
