@@ -1,5 +1,6 @@
 #include "support/run_tool.h"
 
+#include "support/pseudo_terminal.h"
 #include "support/temporary_folder.h"
 
 #include <cstdlib>
@@ -20,13 +21,16 @@ void redirect(const std::string &file, int flags, int descriptor)
     dup2(open(file.c_str(), flags, mode), descriptor);
 }
 
-/// Runs the tool in a child that first makes its preparations.
-template <typename Prepare>
-ToolRun run(const std::vector<std::string> &arguments, Prepare prepare)
+void setVariables(const Environment &environment)
 {
-    const TemporaryFolder folder;
-    const std::string out = (folder / "out").string();
-    const std::string error = (folder / "error").string();
+    for (const auto &[name, value] : environment)
+        setenv(name.c_str(), value.c_str(), 1);
+}
+
+/// Runs the tool in a child that first makes its preparations, and gives its exit status.
+template <typename Prepare>
+int runInChild(const std::vector<std::string> &arguments, Prepare prepare)
+{
     std::vector<char *> command = {const_cast<char *>(IOSPHOTO_TOOL)};
     for (const std::string &argument : arguments)
         command.push_back(const_cast<char *>(argument.c_str()));
@@ -35,15 +39,28 @@ ToolRun run(const std::vector<std::string> &arguments, Prepare prepare)
     const pid_t child = fork();
     if (child == 0) {
         redirect("/dev/null", O_RDONLY, STDIN_FILENO);
-        redirect(out, O_WRONLY | O_CREAT, STDOUT_FILENO);
-        redirect(error, O_WRONLY | O_CREAT, STDERR_FILENO);
         prepare();
         execv(command.front(), command.data());
         _exit(notRun);
     }
     int status = 0;
     waitpid(child, &status, 0);
-    return {readFile(out), readFile(error), WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// The same with its output kept in files.
+template <typename Prepare>
+ToolRun run(const std::vector<std::string> &arguments, Prepare prepare)
+{
+    const TemporaryFolder folder;
+    const std::string out = (folder / "out").string();
+    const std::string error = (folder / "error").string();
+    const int status = runInChild(arguments, [&] {
+        redirect(out, O_WRONLY | O_CREAT, STDOUT_FILENO);
+        redirect(error, O_WRONLY | O_CREAT, STDERR_FILENO);
+        prepare();
+    });
+    return {readFile(out), readFile(error), status};
 }
 
 } // namespace
@@ -57,10 +74,23 @@ std::ostream &operator<<(std::ostream &stream, const ToolRun &run)
 
 ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment)
 {
-    return run(arguments, [&] {
-        for (const auto &[name, value] : environment)
-            setenv(name.c_str(), value.c_str(), 1);
+    return run(arguments, [&] { setVariables(environment); });
+}
+
+ToolRun runToolOnTerminal(const std::vector<std::string> &arguments, int columns,
+                          const Environment &environment)
+{
+    PseudoTerminal out(columns);
+    PseudoTerminal error(columns);
+    const int status = runInChild(arguments, [&] {
+        dup2(out.descriptor(), STDOUT_FILENO);
+        dup2(error.descriptor(), STDERR_FILENO);
+        for (const char *ofOurs : {"COLUMNS", "NO_COLOR"})
+            unsetenv(ofOurs);
+        setenv("TERM", "xterm", 1);
+        setVariables(environment);
     });
+    return {out.text(), error.text(), status};
 }
 
 std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &arguments)

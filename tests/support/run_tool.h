@@ -29,6 +29,11 @@ using Environment = std::map<std::string, std::string>;
 /// Runs the tool with no input, in our environment with these variables set besides.
 ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment = {});
 
+/// Runs the tool with stdout and stderr on a terminal each, which knows colours unless the
+/// variables say otherwise.
+ToolRun runToolOnTerminal(const std::vector<std::string> &arguments, int columns,
+                          const Environment &environment = {});
+
 /// Runs the tool as a user without special rights; nothing where this process may not do that, or
 /// the other user may not run the tool.
 std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &arguments);

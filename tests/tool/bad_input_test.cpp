@@ -17,8 +17,8 @@ protected:
 
 TEST_F(ToolBadInput, WrongUsage)
 {
-    expectFailure(runTool({}), "A subcommand is required", 2);
-    expectFailure(runTool({"albums"}), "DATABASE is required", 2);
+    expectFailure(runTool({}), "a command is required", 2);
+    expectFailure(runTool({"albums"}), "SOURCE is required", 2);
     expectFailure(runTool({"sing", "a.sqlite"}), "", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--loud"}), "", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--ios", "new"}),

@@ -119,7 +119,7 @@ void printPhotos(const std::vector<Asset> &photos, std::ostream &out)
             {photo.dateText.toStdString(), path(photo),
              std::to_string(photo.width) + "x" + std::to_string(photo.height),
              readableSize(photo.fileSize), traitWords(photo),
-             joined(asset.albums(), [](const CAlbumGroup *album) { return englishName(*album); })});
+             joined(asset.albums(), [](const CAlbumGroup *album) { return shownName(*album); })});
     }
     table.print(out);
 }

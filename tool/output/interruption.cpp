@@ -1,6 +1,7 @@
 #include "output/interruption.h"
 
 #include "failure.h"
+#include "language/said.h"
 
 namespace iosphoto::tool {
 
@@ -40,7 +41,7 @@ void Interruption::throwIfAskedFor()
 {
     if (askedBy != 0)
         throw Failure(static_cast<ExitStatus>(Interrupted + askedBy),
-                      "interrupted; every file that was written is complete");
+                      said("interrupted; every file that was written is complete"));
 }
 
 } // namespace iosphoto::tool

@@ -1,14 +1,49 @@
 #include "output/notice.h"
 
 #include "output/printable.h"
+#include "output/terminal.h"
 
 #include <iostream>
 
 namespace iosphoto::tool {
 
+namespace {
+
+constexpr const char *speaker = "iosphoto:";
+
+bool quiet = false;
+
+void say(const std::string &who, const std::string &text)
+{
+    std::cerr << who + " " + printable(text) + "\n";
+}
+
+} // namespace
+
+void remark(const std::string &text)
+{
+    if (!quiet)
+        say(speaker, text);
+}
+
 void notice(const std::string &text)
 {
-    std::cerr << "iosphoto: " + printable(text) + "\n";
+    say(inked(speaker, Ink::Yellow, screenOf(std::cerr)), text);
+}
+
+void sayFailure(const std::string &text)
+{
+    say(inked(speaker, Ink::Red, screenOf(std::cerr)), text);
+}
+
+void beQuiet()
+{
+    quiet = true;
+}
+
+bool isQuiet()
+{
+    return quiet;
 }
 
 } // namespace iosphoto::tool

@@ -1,10 +1,11 @@
 #include "output/output_file.h"
 
 #include "failure.h"
+#include "language/said.h"
+#include "language/system_error.h"
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -17,7 +18,7 @@ namespace {
 
 Failure cannotWrite(const fs::path &file, const std::string &reason)
 {
-    return {CannotAccess, "cannot write '" + file.string() + "': " + reason};
+    return {CannotAccess, said("cannot write '{0}': {1}", file.string(), reason)};
 }
 
 /// The rights of the file that is replaced; of a new one, what the process gives.
@@ -79,8 +80,8 @@ public:
 private:
     [[noreturn]] void fail() const
     {
-        throw cannotWrite(file_, std::string(std::strerror(errno)) +
-                                     "; choose another place for the output");
+        throw cannotWrite(file_,
+                          said("{0}; choose another place for the output", systemError(errno)));
     }
 
     fs::path file_;
@@ -95,13 +96,13 @@ void writeOutput(const fs::path &file, const QByteArray &content, const fs::path
     std::error_code ignored;
     const fs::file_status status = fs::status(file, ignored);
     if (fs::is_directory(status))
-        throw cannotWrite(file, "it is a folder; name a file in it");
+        throw cannotWrite(file, said("it is a folder; name a file in it"));
     if (fs::exists(status) && !fs::is_regular_file(status))
-        throw cannotWrite(file, "it is not a file");
+        throw cannotWrite(file, said("it is not a file"));
     if (fs::equivalent(file, source, ignored))
-        throw Failure(WrongUsage, "'" + file.string() +
-                                      "' is the source, which is never changed; choose another "
-                                      "place for the output");
+        throw Failure(WrongUsage, said("'{0}' is the source, which is never changed; choose "
+                                       "another place for the output",
+                                       file.string()));
     UnfinishedFile unfinished(fs::exists(status) ? fs::canonical(file, ignored) : file);
     unfinished.write(content);
     unfinished.finish();
@@ -114,8 +115,9 @@ void makeOutputFolder(const fs::path &folder)
     if (!error && !fs::is_directory(folder))
         error = std::make_error_code(std::errc::not_a_directory);
     if (error)
-        throw Failure(CannotAccess, "cannot make the folder '" + folder.string() + "': " +
-                                        error.message() + "; choose another place for the output");
+        throw Failure(CannotAccess, said("cannot make the folder '{0}': {1}; choose another "
+                                         "place for the output",
+                                         folder.string(), systemError(error.value())));
 }
 
 } // namespace iosphoto::tool

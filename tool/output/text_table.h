@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_TEXT_TABLE_H
 #define IOSPHOTO_TOOL_TEXT_TABLE_H
 
+#include "output/terminal.h"
+
 #include <ostream>
 #include <string>
 #include <vector>
@@ -18,16 +20,26 @@ public:
         Align align = Align::Left;
     };
 
-    explicit TextTable(std::vector<Column> columns);
+    explicit TextTable(const std::vector<Column> &columns);
 
     /// Adds a row, a cell for each column. Cells may hold any text; they are made printable.
     void add(const std::vector<std::string> &cells);
 
-    void print(std::ostream &out) const;
+    /// On a terminal that is too narrow, long cells are cut; where that does not help, each row is
+    /// a block of lines, a cell after the other.
+    void print(std::ostream &out) const { print(out, screenOf(out)); }
+    void print(std::ostream &out, const Screen &screen) const;
 
 private:
-    std::vector<Column> columns_;
-    std::vector<std::vector<std::string>> rows_;
+    using Row = std::vector<std::string>;
+
+    void printRows(std::ostream &out, const Screen &screen,
+                   const std::vector<std::size_t> &widths) const;
+    std::string line(const Row &row, const std::vector<std::size_t> &widths) const;
+
+    Row headings_;
+    std::vector<Align> alignments_;
+    std::vector<Row> rows_;
     std::vector<std::size_t> widths_;
 };
 

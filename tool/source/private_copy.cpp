@@ -1,11 +1,12 @@
 #include "source/private_copy.h"
 
 #include "failure.h"
+#include "language/said.h"
+#include "language/system_error.h"
 #include "source/source_file.h"
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <unistd.h>
 
 namespace iosphoto::tool {
@@ -22,9 +23,10 @@ void copyFile(const fs::path &from, const fs::path &to)
     if (!error)
         fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write, error);
     if (error)
-        throw Failure(CannotAccess, "cannot copy '" + from.string() + "' to '" +
-                                        to.parent_path().string() + "': " + error.message() +
-                                        "; set TMPDIR to a folder with room for it");
+        throw Failure(CannotAccess,
+                      said("cannot copy '{0}' to '{1}': {2}; set TMPDIR to a folder "
+                           "with room for it",
+                           from.string(), to.parent_path().string(), systemError(error.value())));
 }
 
 fs::path makePrivateFolder()
@@ -33,9 +35,9 @@ fs::path makePrivateFolder()
     const fs::path parent = wanted != nullptr && *wanted != '\0' ? wanted : "/tmp";
     std::string name = (parent / "iosphoto-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr)
-        throw Failure(CannotAccess, "cannot make a temporary folder in '" + parent.string() +
-                                        "': " + std::strerror(errno) +
-                                        "; set TMPDIR to a folder that can be written");
+        throw Failure(CannotAccess, said("cannot make a temporary folder in '{0}': {1}; set "
+                                         "TMPDIR to a folder that can be written",
+                                         parent.string(), systemError(errno)));
     return name;
 }
 
@@ -45,7 +47,7 @@ PrivateCopy::PrivateCopy(const fs::path &database)
 {
     // The files beside a database lie beside the target of a link.
     const fs::path source =
-        sourceFile(database, "the database in it, such as PhotoData/Photos.sqlite");
+        sourceFile(database, said("the database in it, such as PhotoData/Photos.sqlite"));
     folder_ = makePrivateFolder();
     try {
         copy(source);

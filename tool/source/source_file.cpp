@@ -1,8 +1,10 @@
 #include "source/source_file.h"
 
+#include "language/said.h"
+#include "language/system_error.h"
+
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 namespace iosphoto::tool {
 
@@ -12,7 +14,7 @@ namespace {
 
 Failure cannotRead(const fs::path &file, const std::string &reason)
 {
-    return {CannotAccess, "cannot read '" + file.string() + "': " + reason};
+    return {CannotAccess, said("cannot read '{0}': {1}", file.string(), reason)};
 }
 
 /// Why a file cannot be opened for reading; empty if it can.
@@ -20,7 +22,7 @@ std::string unreadableBecause(const fs::path &file)
 {
     std::FILE *opened = std::fopen(file.c_str(), "rb");
     if (opened == nullptr)
-        return std::strerror(errno);
+        return systemError(errno);
     std::fclose(opened);
     return {};
 }
@@ -32,19 +34,20 @@ fs::path sourceFile(const fs::path &path, const std::string &toName)
     std::error_code error;
     fs::path target = fs::canonical(path, error);
     if (error)
-        throw cannotRead(path, error.message() + "; check the path");
+        throw cannotRead(path, said("{0}; check the path", systemError(error.value())));
     const fs::file_status status = fs::status(target, error);
     if (fs::is_directory(status))
-        throw cannotRead(path, "it is a folder; name " + toName);
+        throw cannotRead(path, said("it is a folder; name {0}", toName));
     if (!fs::is_regular_file(status))
-        throw cannotRead(path, "it is not a file");
+        throw cannotRead(path, said("it is not a file"));
     return target;
 }
 
 void requireReadable(const fs::path &file)
 {
     if (const std::string reason = unreadableBecause(file); !reason.empty())
-        throw cannotRead(file, reason + "; run as a user who may read it, or copy it first");
+        throw cannotRead(file,
+                         said("{0}; run as a user who may read it, or copy it first", reason));
 }
 
 } // namespace iosphoto::tool
