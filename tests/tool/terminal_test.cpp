@@ -2,6 +2,7 @@
 #include "support/case_name.h"
 #include "support/library_builder.h"
 #include "support/run_tool.h"
+#include "support/sample_thumb_cache.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -126,6 +127,17 @@ TEST_P(ToolColor, IsUsedForHeadingsAndFailures)
         EXPECT_THAT(failure.error, StartsWith("iosphoto: cannot read"));
     }
     EXPECT_EQ(table.error, "");
+}
+
+TEST_P(ToolColor, TellsWhatIsMissingFromRemarks)
+{
+    const LibraryBuilder library(ios15);
+    const TemporaryFolder folder;
+    const std::string cache = (folder / "cache").string();
+    writeFile(cache, sampleThumbCache(120).bytes().substr(0, 100000));
+    const std::string name = GetParam().isColored ? "\x1b[33miosphoto:\x1b[0m" : "iosphoto:";
+    EXPECT_THAT(run({"thumb", cache}).error, StartsWith(name + " '" + cache + "' has more than"));
+    EXPECT_THAT(run({"albums", library.path()}).error, StartsWith("iosphoto: reading as iOS"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, ToolColor, testing::ValuesIn(colorCases), NameOfCase());

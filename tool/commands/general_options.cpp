@@ -74,7 +74,9 @@ void addGeneralOptionsTo(CLI::App &command, const std::string &version)
     command.add_option_function<std::string>("--color", obeyed, said("when to use colors"))
         ->option_text(joined(colors, "|"))
         ->group(group);
-    command.add_flag_callback("-q,--quiet", beQuiet, said("no remarks and no progress"))
+    command
+        .add_flag_callback(
+            "-q,--quiet", [] { beQuiet(true); }, said("no remarks and no progress"))
         ->group(group);
     command.set_version_flag("--version", version, said("print the version"))->group(group);
     command.set_help_flag("-h,--help", said("print this help"))->group(group);

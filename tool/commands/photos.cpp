@@ -108,7 +108,7 @@ void printPhotos(const std::vector<Asset> &photos, std::ostream &out)
 {
     using Align = TextTable::Align;
     TextTable table({{"DAY"},
-                     {"FILE"},
+                     {"FILE", Align::Left, Kept::End},
                      {"PIXELS", Align::Right},
                      {"SIZE", Align::Right},
                      {"WHAT"},

@@ -2,6 +2,7 @@
 
 #include "language/said.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -32,9 +33,10 @@ void BusyLine::keepShowing(Duration patience)
     Clock::time_point next = start + patience;
     std::unique_lock<std::mutex> lock(mutex_);
     while (!ended_.wait_until(lock, next, [this] { return isEnded_; })) {
-        const seconds passed = std::chrono::ceil<seconds>(Clock::now() - start);
-        line_.show(said("{0} ... {1} s", doing_, passed.count()));
-        next = start + passed;
+        const auto passed = std::chrono::floor<seconds>(Clock::now() - start);
+        const seconds shown = std::max(passed, seconds(1)); // as 0 s would look like nothing done
+        line_.show(said("{0} ... {1} s", doing_, shown.count()));
+        next = start + shown + seconds(1);
     }
 }
 

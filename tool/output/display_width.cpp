@@ -98,19 +98,24 @@ std::size_t displayWidth(const std::string &text)
     return widthOf(clustersOf(text));
 }
 
-std::string shortened(const std::string &text, std::size_t columns)
+std::string shortened(const std::string &text, std::size_t columns, Kept kept)
 {
     if (displayWidth(text) <= columns)
         return text;
-    std::string line;
+    if (columns == 0)
+        return {};
+    std::vector<Cluster> clusters = clustersOf(text);
+    if (kept == Kept::End)
+        std::reverse(clusters.begin(), clusters.end());
+    std::string part;
     std::size_t width = 1; // of the ellipsis
-    for (const Cluster &cluster : clustersOf(text)) {
+    for (const Cluster &cluster : clusters) {
         width += cluster.width;
         if (width > columns)
             break;
-        line += cluster.bytes;
+        part = kept == Kept::End ? cluster.bytes + part : part + cluster.bytes;
     }
-    return columns > 0 ? line + "…" : "";
+    return kept == Kept::End ? "…" + part : part + "…";
 }
 
 std::vector<std::string> wrapped(const std::string &text, std::size_t columns)

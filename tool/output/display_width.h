@@ -10,8 +10,11 @@ namespace iosphoto::tool {
 /// letter with its marks, a family of emoji, a flag) takes two if it is wide, else one.
 std::size_t displayWidth(const std::string &text);
 
-/// `text`, or as much of its beginning as fits into `columns` with "…" behind it.
-std::string shortened(const std::string &text, std::size_t columns);
+/// The part of a text that is left where it is cut.
+enum class Kept { Beginning, End };
+
+/// `text`, or as much of one part of it as fits into `columns` with "…" for the rest.
+std::string shortened(const std::string &text, std::size_t columns, Kept kept = Kept::Beginning);
 
 /// `text` in lines of at most `columns`, broken at spaces where there are some; a character that is
 /// wider has a line of its own. At least one line.

@@ -36,9 +36,9 @@ void sayFailure(const std::string &text)
     say(inked(speaker, Ink::Red, screenOf(std::cerr)), text);
 }
 
-void beQuiet()
+void beQuiet(bool isWished)
 {
-    quiet = true;
+    quiet = isWished;
 }
 
 bool isQuiet()

@@ -12,8 +12,8 @@ void notice(const std::string &text);     ///< what is missing or may be wrong
 void sayFailure(const std::string &text); ///< why a command ends
 /// @}
 
-/// From now on no remarks and no progress are shown.
-void beQuiet();
+/// Whether remarks and progress are left out from now on.
+void beQuiet(bool isWished);
 bool isQuiet();
 
 } // namespace iosphoto::tool

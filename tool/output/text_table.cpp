@@ -1,7 +1,6 @@
 #include "output/text_table.h"
 
 #include "output/column_widths.h"
-#include "output/display_width.h"
 #include "output/printable.h"
 #include "output/row_blocks.h"
 
@@ -10,19 +9,18 @@
 
 namespace iosphoto::tool {
 
-TextTable::TextTable(const std::vector<Column> &columns)
+TextTable::TextTable(std::vector<Column> columns) : columns_(std::move(columns))
 {
-    for (const Column &column : columns) {
-        headings_.push_back(printable(column.heading));
-        alignments_.push_back(column.align);
-        widths_.push_back(displayWidth(headings_.back()));
+    for (Column &column : columns_) {
+        column.heading = printable(column.heading);
+        widths_.push_back(displayWidth(column.heading));
     }
 }
 
 void TextTable::add(const std::vector<std::string> &cells)
 {
     Row row;
-    for (std::size_t i = 0; i < headings_.size(); ++i) {
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
         row.push_back(printable(cells.at(i)));
         widths_[i] = std::max(widths_[i], displayWidth(row.back()));
     }
@@ -36,19 +34,19 @@ void TextTable::print(std::ostream &out, const Screen &screen) const
         return;
     }
     std::vector<std::size_t> least = widths_;
-    for (std::size_t i = 0; i < headings_.size(); ++i)
-        if (alignments_[i] == Align::Left)
-            least[i] = std::min(least[i], leastWidth(displayWidth(headings_[i])));
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (columns_[i].align == Align::Left)
+            least[i] = std::min(least[i], leastWidth(displayWidth(columns_[i].heading)));
     if (const auto narrowed = narrowedWidths(widths_, least, *screen.columns))
         printRows(out, screen, *narrowed);
     else
-        printBlocks(out, headings_, rows_, screen);
+        printBlocks(out, headings(), rows_, screen);
 }
 
 void TextTable::printRows(std::ostream &out, const Screen &screen,
                           const std::vector<std::size_t> &widths) const
 {
-    out << inked(line(headings_, widths), Ink::Bold, screen) << '\n';
+    out << inked(line(headings(), widths), Ink::Bold, screen) << '\n';
     for (const Row &row : rows_)
         out << line(row, widths) << '\n';
 }
@@ -58,9 +56,18 @@ std::string TextTable::line(const Row &row, const std::vector<std::size_t> &widt
     std::string line;
     for (std::size_t i = 0; i < row.size(); ++i) {
         line += i > 0 ? columnGap : "";
-        line += padded(shortened(row[i], widths[i]), widths[i], alignments_[i] == Align::Right);
+        const std::string cell = shortened(row[i], widths[i], columns_[i].kept);
+        line += padded(cell, widths[i], columns_[i].align == Align::Right);
     }
     return line.erase(line.find_last_not_of(' ') + 1);
+}
+
+TextTable::Row TextTable::headings() const
+{
+    Row headings;
+    for (const Column &column : columns_)
+        headings.push_back(column.heading);
+    return headings;
 }
 
 } // namespace iosphoto::tool

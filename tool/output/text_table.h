@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_TEXT_TABLE_H
 #define IOSPHOTO_TOOL_TEXT_TABLE_H
 
+#include "output/display_width.h"
 #include "output/terminal.h"
 
 #include <ostream>
@@ -18,9 +19,10 @@ public:
     {
         std::string heading;
         Align align = Align::Left;
+        Kept kept = Kept::Beginning; ///< of cells that are cut; the end of paths tells more
     };
 
-    explicit TextTable(const std::vector<Column> &columns);
+    explicit TextTable(std::vector<Column> columns);
 
     /// Adds a row, a cell for each column. Cells may hold any text; they are made printable.
     void add(const std::vector<std::string> &cells);
@@ -36,9 +38,9 @@ private:
     void printRows(std::ostream &out, const Screen &screen,
                    const std::vector<std::size_t> &widths) const;
     std::string line(const Row &row, const std::vector<std::size_t> &widths) const;
+    Row headings() const;
 
-    Row headings_;
-    std::vector<Align> alignments_;
+    std::vector<Column> columns_;
     std::vector<Row> rows_;
     std::vector<std::size_t> widths_;
 };

@@ -1,5 +1,6 @@
 #include "output/busy_line.h"
 
+#include "output/notice.h"
 #include "support/pseudo_terminal.h"
 
 #include <gmock/gmock.h>
@@ -41,6 +42,17 @@ TEST(BusyLine, IsShownWhileALongCallRunsAndClearedThen)
 TEST(BusyLine, SparesAShortCall)
 {
     EXPECT_EQ(shownBy([] { const BusyLine busy("reading photos", std::chrono::hours(1)); }), "");
+}
+
+TEST(BusyLine, IsNotShownToWhoWantsItQuiet)
+{
+    iosphoto::tool::beQuiet(true);
+    const std::string shown = shownBy([] {
+        const BusyLine busy("reading photos", std::chrono::milliseconds(1));
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    });
+    iosphoto::tool::beQuiet(false);
+    EXPECT_EQ(shown, "");
 }
 
 TEST(BusyLine, IsCutToTheTerminal)

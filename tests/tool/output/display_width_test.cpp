@@ -77,6 +77,14 @@ TEST(Shortened, CutsNoCharacter)
     EXPECT_EQ(shortened("🇩🇪🇫🇷", 3), "🇩🇪…");
 }
 
+TEST(Shortened, KeepsTheEndWhereThatTellsMore)
+{
+    EXPECT_EQ(shortened("DCIM/IMG_0001.JPG", 9, Kept::End), "…0001.JPG");
+    EXPECT_EQ(shortened("相机胶卷", 6, Kept::End), "…胶卷");
+    EXPECT_EQ(shortened("be\u0301x", 2, Kept::End), "…x");
+    EXPECT_EQ(shortened("Summer", 6, Kept::End), "Summer");
+}
+
 TEST(Wrapped, BreaksAtSpacesWhereThereAreSome)
 {
     EXPECT_THAT(wrapped("one two three", 8), ElementsAre("one two", "three"));
