@@ -3,15 +3,16 @@
 #include "output/code_points.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace iosphoto::tool {
 
 namespace {
 
-/// What a person sees as one character.
+/// What a person sees as one character, within its text.
 struct Cluster
 {
-    std::string bytes;
+    std::string_view bytes;
     std::size_t width = 0;
 };
 
@@ -51,9 +52,9 @@ std::vector<Cluster> clustersOf(const std::string &text)
     std::size_t offset = 0;
     forEachCodePoint(text, [&](utf8proc_int32_t codePoint, std::size_t length) {
         if (clusters.empty() || utf8proc_grapheme_break_stateful(before, codePoint, &state))
-            clusters.emplace_back();
+            clusters.push_back({std::string_view(text).substr(offset, 0), 0});
         Cluster &cluster = clusters.back();
-        cluster.bytes += text.substr(offset, length);
+        cluster.bytes = {cluster.bytes.data(), cluster.bytes.size() + length};
         cluster.width = widthWith(cluster.width, codePoint);
         before = codePoint;
         offset += length;
@@ -113,7 +114,7 @@ std::string shortened(const std::string &text, std::size_t columns, Kept kept)
         width += cluster.width;
         if (width > columns)
             break;
-        part = kept == Kept::End ? cluster.bytes + part : part + cluster.bytes;
+        part.insert(kept == Kept::End ? 0 : part.size(), cluster.bytes);
     }
     return kept == Kept::End ? "…" + part : part + "…";
 }

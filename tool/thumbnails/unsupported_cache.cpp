@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <limits>
 
 namespace iosphoto::tool {
 
@@ -19,10 +20,12 @@ bool holdsOnlyZeros(ifile &file)
 {
     constexpr long step = 1 << 20;
     const long length = file.getlength();
+    if (length <= 0 || length > std::numeric_limits<int>::max()) // larger ones take too long
+        return false;
     for (long offset = 0; offset < length; offset += step)
         if (!isZero(file, offset, static_cast<int>(std::min(step, length - offset))))
             return false;
-    return length > 0;
+    return true;
 }
 
 std::string describe(const std::vector<NewerKind> &kinds)
