@@ -32,7 +32,7 @@ constexpr Wording wordings[] = {
 
 std::string inOurWords(const CLI::ParseError &error)
 {
-    const std::string text = error.what();
+    std::string text = error.what();
     for (const Wording &wording : wordings) {
         const std::string words = wording.words;
         const std::size_t at = text.find(words);
