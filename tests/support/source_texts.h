@@ -7,9 +7,9 @@
 
 namespace iosphoto::test {
 
-/// The literals of C++ code that are marked as texts for people: what said(), saidIn(),
+/// The literals of C++ source code that are marked as texts for people: what said(), saidIn(),
 /// translated(), translatable() and counted() are given. Literals that follow each other are one.
-std::set<std::string> textsOf(const std::string &code);
+std::set<std::string> textsOf(const std::string &source);
 
 /// Those of all sources in a folder.
 std::set<std::string> textsIn(const std::filesystem::path &folder);
