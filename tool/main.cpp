@@ -1,5 +1,7 @@
 #include "commands/command.h"
 #include "commands/evidence_option.h"
+#include "commands/general_options.h"
+#include "commands/wrong_usage.h"
 #include "evidence/with_evidence.h"
 #include "failure.h"
 #include "language/said.h"
@@ -12,7 +14,6 @@
 
 #include <algorithm>
 #include <csignal>
-#include <cstdio>
 #include <iostream>
 #include <iterator>
 #include <optional>
@@ -26,20 +27,22 @@ using namespace iosphoto::tool;
 /// Parses and runs a command.
 int run(int argumentCount, char **arguments)
 {
-    CLI::App app("Reads the photo libraries of iOS devices. The files are only read.", "iosphoto");
-    app.set_version_flag("--version", "iosphoto " IOSPHOTO_VERSION);
+    obeyLookOptions(argumentCount, arguments);
+    CLI::App app(said("Reads the photo libraries of iOS devices. The files are only read."),
+                 "iosphoto");
     app.require_subcommand(1);
 
     const Command commands[] = {addInfo(app), addAlbums(app), addPhotos(app), addThumb(app)};
     std::optional<std::string> evidence;
     for (const Command &command : commands)
         addEvidenceOption(*command.options, evidence);
+    addGeneralOptions(app, "iosphoto " IOSPHOTO_VERSION);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() == 0) // --help, --version
             return app.exit(error);
-        throw Failure(WrongUsage, std::string(error.what()) + "; see iosphoto --help");
+        throw wrongUsage(app, error);
     }
     const auto *const wanted =
         std::find_if(std::begin(commands), std::end(commands),
@@ -64,10 +67,10 @@ int main(int argumentCount, char **arguments)
     } catch (const OutputClosed &closed) {
         return closed.status();
     } catch (const Failure &failure) {
-        notice(failure.what());
+        sayFailure(failure.what());
         return failure.status();
     } catch (const std::exception &error) { // lack of memory, a temporary folder that vanished
-        std::fprintf(stderr, "iosphoto: %s\n", error.what());
+        sayFailure(error.what());
         return CannotAccess;
     }
 }

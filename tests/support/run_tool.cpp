@@ -1,5 +1,7 @@
 #include "support/run_tool.h"
 
+#include "support/pseudo_terminal.h"
+
 #include <array>
 #include <csignal>
 #include <cstdlib>
@@ -19,6 +21,12 @@ void redirect(const std::string &file, int flags, int descriptor)
 {
     constexpr mode_t mode = 0600;
     dup2(open(file.c_str(), flags, mode), descriptor);
+}
+
+void setVariables(const Environment &environment)
+{
+    for (const auto &[name, value] : environment)
+        setenv(name.c_str(), value.c_str(), 1);
 }
 
 void useSignalsAsUsual()
@@ -52,8 +60,7 @@ RunningTool::RunningTool(const std::vector<std::string> &arguments, const Enviro
     redirect((folder_ / "out").string(), O_WRONLY | O_CREAT, STDOUT_FILENO);
     redirect((folder_ / "error").string(), O_WRONLY | O_CREAT, STDERR_FILENO);
     useSignalsAsUsual();
-    for (const auto &[name, value] : environment)
-        setenv(name.c_str(), value.c_str(), 1);
+    setVariables(environment);
     prepare();
     becomeTool(arguments);
 }
@@ -89,6 +96,25 @@ std::ostream &operator<<(std::ostream &stream, const ToolRun &run)
 ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment)
 {
     return RunningTool(arguments, environment).result();
+}
+
+ToolRun runToolOnTerminal(const std::vector<std::string> &arguments, int columns,
+                          const Environment &environment)
+{
+    PseudoTerminal out(columns);
+    PseudoTerminal error(columns);
+    const int status = RunningTool(arguments, {},
+                                   [&] {
+                                       dup2(out.descriptor(), STDOUT_FILENO);
+                                       dup2(error.descriptor(), STDERR_FILENO);
+                                       for (const char *ofOurs : {"COLUMNS", "NO_COLOR"})
+                                           unsetenv(ofOurs);
+                                       setenv("TERM", "xterm", 1);
+                                       setVariables(environment);
+                                   })
+                           .result()
+                           .status;
+    return {out.text(), error.text(), status};
 }
 
 std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &arguments)

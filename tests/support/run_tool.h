@@ -55,6 +55,11 @@ private:
     pid_t process_;
 };
 
+/// Runs the tool with stdout and stderr on a terminal each, which knows colours unless the
+/// variables say otherwise.
+ToolRun runToolOnTerminal(const std::vector<std::string> &arguments, int columns,
+                          const Environment &environment = {});
+
 /// Runs the tool as a user without special rights; nothing where this process may not do that, or
 /// the other user may not run the tool.
 std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &arguments);

@@ -1,5 +1,7 @@
 #include "catalogue/album_kinds.h"
 
+#include "language/said.h"
+
 namespace iosphoto::tool {
 
 namespace {
@@ -14,27 +16,27 @@ struct KindNames
 };
 
 constexpr KindNames names[] = {
-    {Kind::CameraRoll, "camera-roll", "Camera Roll"},
-    {Kind::PhotoStream, "photo-stream", "My Photo Stream"},
-    {Kind::PhotoLibrary, "photo-library", "Photo Library"},
-    {Kind::Videos, "videos", "Videos"},
-    {Kind::TimeLapse, "time-lapse", "Time-lapse"},
-    {Kind::SloMo, "slo-mo", "Slo-mo"},
-    {Kind::Panoramas, "panoramas", "Panoramas"},
-    {Kind::Bursts, "bursts", "Bursts"},
-    {Kind::RecentlyDeleted, "recently-deleted", "Recently Deleted"},
-    {Kind::Screenshots, "screenshots", "Screenshots"},
-    {Kind::Favorites, "favorites", "Favorites"},
-    {Kind::Selfies, "selfies", "Selfies"},
-    {Kind::LivePhotos, "live-photos", "Live Photos"},
-    {Kind::Portrait, "portrait", "Portrait"},
-    {Kind::Animated, "animated", "Animated"},
-    {Kind::User, "user", "User album"},
-    {Kind::ScreenRecordings, "screen-recordings", "Screen Recordings"},
-    {Kind::Raw, "raw", "RAW"},
-    {Kind::ProRes, "prores", "ProRes"},
-    {Kind::Hidden, "hidden", "Hidden"},
-    {Kind::AllDeleted, "all-deleted", "All deleted"},
+    {Kind::CameraRoll, "camera-roll", translatable("Camera Roll")},
+    {Kind::PhotoStream, "photo-stream", translatable("My Photo Stream")},
+    {Kind::PhotoLibrary, "photo-library", translatable("Photo Library")},
+    {Kind::Videos, "videos", translatable("Videos")},
+    {Kind::TimeLapse, "time-lapse", translatable("Time-lapse")},
+    {Kind::SloMo, "slo-mo", translatable("Slo-mo")},
+    {Kind::Panoramas, "panoramas", translatable("Panoramas")},
+    {Kind::Bursts, "bursts", translatable("Bursts")},
+    {Kind::RecentlyDeleted, "recently-deleted", translatable("Recently Deleted")},
+    {Kind::Screenshots, "screenshots", translatable("Screenshots")},
+    {Kind::Favorites, "favorites", translatable("Favorites")},
+    {Kind::Selfies, "selfies", translatable("Selfies")},
+    {Kind::LivePhotos, "live-photos", translatable("Live Photos")},
+    {Kind::Portrait, "portrait", translatable("Portrait")},
+    {Kind::Animated, "animated", translatable("Animated")},
+    {Kind::User, "user", translatable("User album")},
+    {Kind::ScreenRecordings, "screen-recordings", translatable("Screen Recordings")},
+    {Kind::Raw, "raw", translatable("RAW")},
+    {Kind::ProRes, "prores", translatable("ProRes")},
+    {Kind::Hidden, "hidden", translatable("Hidden")},
+    {Kind::AllDeleted, "all-deleted", translatable("All deleted")},
 };
 
 const KindNames &namesOf(const CAlbumGroup &album)
@@ -42,7 +44,7 @@ const KindNames &namesOf(const CAlbumGroup &album)
     for (const KindNames &row : names)
         if (row.kind == album.albumKind)
             return row;
-    static constexpr KindNames unknown = {Kind::Code(0), "unknown", "Unknown"};
+    static constexpr KindNames unknown = {Kind::Code(0), "unknown", translatable("Unknown")};
     return unknown;
 }
 
@@ -50,6 +52,14 @@ const KindNames &namesOf(const CAlbumGroup &album)
 bool isOfTheTable(const CAlbumGroup &album)
 {
     return !album.albumUuid.empty();
+}
+
+std::string kindText(const CAlbumGroup &album, Language language)
+{
+    if (album.albumKind == Kind::PhotoLibrary && isOfTheTable(album))
+        return saidIn(language, "Untitled album");
+    const std::string kind = translated(namesOf(album).english, language);
+    return collectsFromAlbums(album) ? saidIn(language, "{0} from albums", kind) : kind;
 }
 
 } // namespace
@@ -68,15 +78,17 @@ std::string kindName(const CAlbumGroup &album)
 
 std::string englishKind(const CAlbumGroup &album)
 {
-    if (album.albumKind == Kind::PhotoLibrary && isOfTheTable(album))
-        return "Untitled album";
-    const std::string english = namesOf(album).english;
-    return collectsFromAlbums(album) ? english + " from albums" : english;
+    return kindText(album, Language::English);
 }
 
-std::string englishName(const CAlbumGroup &album)
+std::string shownKind(const CAlbumGroup &album)
 {
-    return album.albumKind == Kind::User ? album.albumName.toStdString() : englishKind(album);
+    return kindText(album, spokenLanguage());
+}
+
+std::string shownName(const CAlbumGroup &album)
+{
+    return album.albumKind == Kind::User ? album.albumName.toStdString() : shownKind(album);
 }
 
 } // namespace iosphoto::tool

@@ -14,9 +14,12 @@ std::string kindName(const CAlbumGroup &album);
 /// albums, is "Selfies from albums".
 std::string englishKind(const CAlbumGroup &album);
 
+/// The same in the language that is spoken.
+std::string shownKind(const CAlbumGroup &album);
+
 /// What a person calls the album: an album of the table by its own name, a built-in one by its
-/// kind.
-std::string englishName(const CAlbumGroup &album);
+/// kind, in the language that is spoken.
+std::string shownName(const CAlbumGroup &album);
 
 /// Whether the album collects photos of one kind from the albums that the device did not make.
 bool collectsFromAlbums(const CAlbumGroup &album);

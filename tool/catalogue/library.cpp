@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "language/said.h"
 #include "model/clock.h"
+#include "output/busy_line.h"
 #include "output/file_use_observer.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
@@ -79,8 +80,10 @@ Library::~Library()
 void Library::read(const std::string &copy)
 {
     sqlite_error_log::clear();
-    const int result =
-        ios_photo_get_list(copy, device().iosVersion, device().productType, &albums_);
+    const int result = [&] {
+        const BusyLine busy(said("reading photos"));
+        return ios_photo_get_list(copy, device().iosVersion, device().productType, &albums_);
+    }();
     if (result != 0)
         throw Failure(CannotAccess, said("cannot read '{0}': SQLite error {1}; {2}", database_,
                                          -result, adviceToCopyAgain()));
@@ -111,7 +114,7 @@ void Library::sayHowItWasRead() const
             (line.empty() ? "" : "; ") +
             said("left out since they were in the trash for 30 days: {0} (see --as-of)", leftOut_);
     if (!line.empty())
-        notice(line);
+        remark(line);
     if (!schema_.warning.empty())
         notice(schema_.warning);
     for (const std::string &text : missing_)

@@ -21,7 +21,7 @@ void printAlbums(const Library &library, std::ostream &out)
     using Align = TextTable::Align;
     TextTable table({{"#", Align::Right}, {"KIND"}, {"NAME"}, {"COUNT", Align::Right}, {"UUID"}});
     for (const CAlbumGroup &album : library.albums())
-        table.add({std::to_string(album.albumIndex), englishKind(album),
+        table.add({std::to_string(album.albumIndex), shownKind(album),
                    album.albumName.toStdString(), std::to_string(album.albumCount),
                    album.albumUuid});
     table.print(out);

@@ -100,7 +100,7 @@ void printPhotos(const std::vector<Asset> &photos, std::ostream &out)
 {
     using Align = TextTable::Align;
     TextTable table({{"DAY"},
-                     {"FILE"},
+                     {"FILE", Align::Left, Kept::End},
                      {"PIXELS", Align::Right},
                      {"SIZE", Align::Right},
                      {"WHAT"},
@@ -111,7 +111,7 @@ void printPhotos(const std::vector<Asset> &photos, std::ostream &out)
             {photo.dateText.toStdString(), path(photo),
              std::to_string(photo.width) + "x" + std::to_string(photo.height),
              readableSize(photo.fileSize), traitWords(photo),
-             joined(asset.albums(), [](const CAlbumGroup *album) { return englishName(*album); })});
+             joined(asset.albums(), [](const CAlbumGroup *album) { return shownName(*album); })});
     }
     table.print(out);
 }

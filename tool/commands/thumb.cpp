@@ -31,11 +31,14 @@ struct ThumbRequest
 void printList(const ThumbCache &cache, std::ostream &out)
 {
     using Align = TextTable::Align;
-    out << "format " << cache.format().code << ", " << counted(cache.recordCount(), "record")
-        << " of " << grouped(cache.format().recordSize) << " bytes, "
-        << grouped(static_cast<int>(cache.thumbnails().size())) << " with a thumbnail\n\n";
-    TextTable table(
-        {{"INDEX", Align::Right}, {"PIXELS", Align::Right}, {"BMP BYTES", Align::Right}});
+    out << counted(cache.recordCount(), "format {1}, {0} record of {2} bytes, {3} with a thumbnail",
+                   "format {1}, {0} records of {2} bytes, {3} with a thumbnail",
+                   cache.format().code, grouped(cache.format().recordSize),
+                   grouped(static_cast<int>(cache.thumbnails().size())))
+        << "\n\n";
+    TextTable table({{said("INDEX"), Align::Right},
+                     {said("PIXELS"), Align::Right},
+                     {said("BMP BYTES"), Align::Right}});
     for (const Thumbnail &thumbnail : cache.thumbnails())
         table.add({std::to_string(thumbnail.index),
                    std::to_string(thumbnail.width) + "x" + std::to_string(thumbnail.height),
@@ -46,11 +49,11 @@ void printList(const ThumbCache &cache, std::ostream &out)
 void printWritten(const WrittenFiles &files, std::ostream &out)
 {
     const std::string first = printable(files.begin()->second);
-    if (files.size() == 1)
-        out << "wrote " << first << '\n';
-    else
-        out << "wrote " << counted(static_cast<int>(files.size()), "file") << ", " << first
-            << " to " << printable(files.rbegin()->second) << '\n';
+    const std::string last = printable(files.rbegin()->second);
+    out << (files.size() == 1 ? said("wrote {0}", first)
+                              : said("wrote {0} files, {1} to {2}",
+                                     grouped(static_cast<int>(files.size())), first, last))
+        << '\n';
 }
 
 Json thumbnailAsJson(const Thumbnail &thumbnail, const WrittenFiles &files)
@@ -119,36 +122,38 @@ Command addThumb(CLI::App &app)
         *app.add_subcommand("thumb", said("List or write the pictures of a thumbnail cache"));
     thumb
         .add_option("CACHE", request->cache,
-                    "thumbnail cache, such as .../Thumbnails/120x120.ithmb")
-        ->required();
+                    said("thumbnail cache, such as .../Thumbnails/120x120.ithmb"))
+        ->required()
+        ->check(notEmpty());
     CLI::Option *output = thumb.add_option("-o,--output", request->output,
-                                           "file (--index) or folder (--all) to write");
+                                           said("file (--index) or folder (--all) to write"));
     // As text: files are named "0010.bmp", and a zero in front must not make the index octal.
     const auto takeIndex = [request](const std::string &digits) {
         bool isInt = false;
         const int index = QString::fromStdString(digits).toInt(&isInt);
         request->index = isInt ? index : std::numeric_limits<int>::max();
     };
-    CLI::Option *index = thumb
-                             .add_option_function<std::string>(
-                                 "--index", takeIndex, "write this thumbnail, as .bmp or .png")
-                             ->check(looksLike("[0-9]+", "7"))
-                             ->needs(output);
-    CLI::Option *all = thumb.add_flag("--all", request->all, "write all thumbnails")
+    CLI::Option *index =
+        thumb
+            .add_option_function<std::string>("--index", takeIndex,
+                                              said("write this thumbnail, as .bmp or .png"))
+            ->check(looksLike("[0-9]+", "7"))
+            ->needs(output);
+    CLI::Option *all = thumb.add_flag("--all", request->all, said("write all thumbnails"))
                            ->needs(output)
                            ->excludes(index);
-    thumb.add_flag("--png", request->asPng, "write PNG files instead of BMP")->needs(all);
+    thumb.add_flag("--png", request->asPng, said("write PNG files instead of BMP"))->needs(all);
     CLI::Option *sheet = thumb.add_option("--sheet", request->sheet,
-                                          "draw all on a contact sheet, a .png file; from 501 on "
-                                          "also on FILE-2.png and so on");
+                                          said("draw all on a contact sheet, a .png file; from "
+                                               "501 on also on FILE-2.png and so on"));
     sheet->excludes(index, all, output);
     output->check(notEmpty());
     sheet->check(notEmpty());
-    thumb.add_flag("--json", request->asJson, "print a JSON document");
-    thumb.footer("Examples:\n  iosphoto thumb 120x120.ithmb\n"
-                 "  iosphoto thumb 120x120.ithmb --index 7 -o photo.png\n"
-                 "  iosphoto thumb 120x120.ithmb --all -o thumbnails\n"
-                 "  iosphoto thumb 120x120.ithmb --sheet sheet.png");
+    thumb.add_flag("--json", request->asJson, said("print a JSON document"));
+    thumb.footer(said("Examples:") + "\n  iosphoto thumb 120x120.ithmb\n"
+                                     "  iosphoto thumb 120x120.ithmb --index 7 -o photo.png\n"
+                                     "  iosphoto thumb 120x120.ithmb --all -o thumbnails\n"
+                                     "  iosphoto thumb 120x120.ithmb --sheet sheet.png");
     return {&thumb, [request](std::ostream &out) { return showThumbnails(*request, out); }};
 }
 

@@ -4,9 +4,9 @@
 #include "evidence/time_of_day.h"
 #include "failure.h"
 #include "language/said.h"
+#include "language/system_error.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,7 +24,7 @@ Failure cannotRead(const fs::path &file)
 {
     return {CannotAccess, said("cannot read '{0}': {1}; run as a user who may read it, or copy it "
                                "first",
-                               file.string(), std::strerror(errno))};
+                               file.string(), systemError(errno))};
 }
 
 /// A file open for reading; none where nothing is there.

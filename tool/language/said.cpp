@@ -44,9 +44,9 @@ Language languageOfLocale()
     return Language::English;
 }
 
-std::string translated(const std::string &english)
+std::string translated(const std::string &english, Language language)
 {
-    if (spoken == Language::English)
+    if (language == Language::English)
         return english;
     const auto found = chineseTexts().find(english);
     return found != chineseTexts().end() ? found->second : english;

@@ -18,14 +18,27 @@ Language languageOfLocale();
 
 /// An English text in the language that is spoken: tool/language/chinese.json has the others. A
 /// text that is not there stays English.
-std::string translated(const std::string &english);
+std::string translated(const std::string &english, Language language = spokenLanguage());
 
-/// The same with its places {0}, {1} ... filled in. Every text that a person reads is made here, of
-/// a literal, so that a test can tell which ones lack a translation.
+/// Marks a literal that is translated where it is used, as those of a table are.
+constexpr const char *translatable(const char *english)
+{
+    return english;
+}
+
+/// The translation of `english` with its places {0}, {1} ... filled in. Every text that a person
+/// reads is made here, of a literal, so that a test can tell which ones lack a translation.
 template <typename... Values>
 std::string said(const char *english, const Values &...values)
 {
     return fmt::format(fmt::runtime(translated(english)), values...);
+}
+
+/// The same in a language, whichever is spoken.
+template <typename... Values>
+std::string saidIn(Language language, const char *english, const Values &...values)
+{
+    return fmt::format(fmt::runtime(translated(english, language)), values...);
 }
 
 } // namespace iosphoto::tool

@@ -4,14 +4,9 @@
 
 namespace iosphoto::tool {
 
-std::string grouped(int number)
+std::string grouped(std::int64_t number)
 {
-    return QLocale(QLocale::English).toString(number).toStdString();
-}
-
-std::string counted(int number, const std::string &thing)
-{
-    return grouped(number) + " " + thing + (number == 1 ? "" : "s");
+    return QLocale(QLocale::English).toString(static_cast<qlonglong>(number)).toStdString();
 }
 
 } // namespace iosphoto::tool

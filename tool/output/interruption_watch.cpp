@@ -4,7 +4,7 @@
 #include "language/said.h"
 #include "output/interruption_lock.h"
 #include "output/notice.h"
-#include "output/progress_bar.h"
+#include "output/passing_line.h"
 #include "output/temporary_path.h"
 
 #include <csignal>
@@ -65,8 +65,8 @@ void InterruptionWatch::waitForSignal() const
     if (isOver_)
         return;
     removeTemporaryPaths();
-    clearProgress();
-    notice(said("interrupted; every file that was written is complete"));
+    clearPassingLine();
+    sayFailure(said("interrupted; every file that was written is complete"));
     _exit(Interrupted + signal);
 }
 

@@ -2,15 +2,50 @@
 
 #include "output/interruption_lock.h"
 #include "output/printable.h"
+#include "output/terminal.h"
 
 #include <iostream>
 
 namespace iosphoto::tool {
 
-void notice(const std::string &text)
+namespace {
+
+constexpr const char *speaker = "iosphoto:";
+
+bool quiet = false;
+
+void say(const std::string &who, const std::string &text)
 {
     const InterruptionLock lock;
-    std::cerr << "iosphoto: " + printable(text) + "\n";
+    std::cerr << who + " " + printable(text) + "\n";
+}
+
+} // namespace
+
+void remark(const std::string &text)
+{
+    if (!quiet)
+        say(speaker, text);
+}
+
+void notice(const std::string &text)
+{
+    say(inked(speaker, Ink::Yellow, screenOf(std::cerr)), text);
+}
+
+void sayFailure(const std::string &text)
+{
+    say(inked(speaker, Ink::Red, screenOf(std::cerr)), text);
+}
+
+void beQuiet(bool isWished)
+{
+    quiet = isWished;
+}
+
+bool isQuiet()
+{
+    return quiet;
 }
 
 } // namespace iosphoto::tool

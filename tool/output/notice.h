@@ -5,8 +5,16 @@
 
 namespace iosphoto::tool {
 
-/// Says one thing on stderr, as one line whatever `text` holds.
-void notice(const std::string &text);
+/// Each says one thing on stderr, as one line whatever `text` holds.
+/// @{
+void remark(const std::string &text);     ///< what was assumed; may be left unsaid
+void notice(const std::string &text);     ///< what is missing or may be wrong
+void sayFailure(const std::string &text); ///< why a command ends
+/// @}
+
+/// Whether remarks and progress are left out from now on.
+void beQuiet(bool isWished);
+bool isQuiet();
 
 } // namespace iosphoto::tool
 

@@ -2,12 +2,12 @@
 
 #include "failure.h"
 #include "language/said.h"
+#include "language/system_error.h"
 #include "output/file_use_observer.h"
 #include "output/temporary_path.h"
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -81,7 +81,7 @@ private:
     [[noreturn]] void fail(int error) const
     {
         throw cannotWrite(file_,
-                          said("{0}; choose another place for the output", std::strerror(error)));
+                          said("{0}; choose another place for the output", systemError(error)));
     }
 
     fs::path file_;
@@ -143,8 +143,9 @@ void makeOutputFolder(const fs::path &folder)
     if (!error && !fs::is_directory(folder))
         error = std::make_error_code(std::errc::not_a_directory);
     if (error)
-        throw Failure(CannotAccess, "cannot make the folder '" + folder.string() + "': " +
-                                        error.message() + "; choose another place for the output");
+        throw Failure(CannotAccess, said("cannot make the folder '{0}': {1}; choose another "
+                                         "place for the output",
+                                         folder.string(), systemError(error.value())));
 }
 
 } // namespace iosphoto::tool

@@ -1,33 +1,12 @@
 #include "output/printable.h"
 
-#include <utf8proc.h>
+#include "output/code_points.h"
 
 #include <cstdio>
 
 namespace iosphoto::tool {
 
 namespace {
-
-constexpr utf8proc_int32_t replacement = 0xFFFD;
-
-/// Hands every code point of `text` to `take`; a byte that is not UTF-8 counts as U+FFFD.
-template <typename Take>
-void forEachCodePoint(const std::string &text, Take take)
-{
-    const auto *bytes = reinterpret_cast<const utf8proc_uint8_t *>(text.data());
-    auto left = static_cast<utf8proc_ssize_t>(text.size());
-    while (left > 0) {
-        utf8proc_int32_t codePoint = 0;
-        utf8proc_ssize_t length = utf8proc_iterate(bytes, left, &codePoint);
-        if (length <= 0) {
-            codePoint = replacement;
-            length = 1;
-        }
-        take(codePoint);
-        bytes += length;
-        left -= length;
-    }
-}
 
 bool isInvisible(utf8proc_int32_t codePoint)
 {
@@ -73,19 +52,10 @@ std::string encoded(utf8proc_int32_t codePoint)
 std::string printable(const std::string &text)
 {
     std::string line;
-    forEachCodePoint(text, [&](utf8proc_int32_t codePoint) {
+    forEachCodePoint(text, [&](utf8proc_int32_t codePoint, std::size_t) {
         line += isInvisible(codePoint) ? escaped(codePoint) : encoded(codePoint);
     });
     return line;
-}
-
-std::size_t displayWidth(const std::string &text)
-{
-    std::size_t width = 0;
-    forEachCodePoint(text, [&](utf8proc_int32_t codePoint) {
-        width += static_cast<std::size_t>(utf8proc_charwidth(codePoint));
-    });
-    return width;
 }
 
 } // namespace iosphoto::tool

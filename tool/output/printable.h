@@ -9,9 +9,6 @@ namespace iosphoto::tool {
 /// writing direction become "\n", "\u202e" and the like, bytes that are not UTF-8 become U+FFFD.
 std::string printable(const std::string &text);
 
-/// The columns that printable text takes on a terminal; wide characters take two.
-std::size_t displayWidth(const std::string &text);
-
 } // namespace iosphoto::tool
 
 #endif // IOSPHOTO_TOOL_PRINTABLE_H

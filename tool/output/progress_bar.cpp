@@ -1,11 +1,8 @@
 #include "output/progress_bar.h"
 
-#include "output/interruption_lock.h"
+#include "output/display_width.h"
 
 #include <algorithm>
-#include <iostream>
-#include <sys/ioctl.h>
-#include <unistd.h>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -14,14 +11,6 @@ namespace {
 
 constexpr std::chrono::milliseconds patience{500};
 constexpr std::chrono::milliseconds betweenShows{100};
-constexpr const char *clearLine = "\r\x1b[K";
-
-std::size_t terminalColumns()
-{
-    constexpr std::size_t usual = 80;
-    winsize size = {};
-    return ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
-}
 
 } // namespace
 
@@ -30,7 +19,7 @@ std::string progressLine(const std::string &doing, int done, int total, std::siz
     constexpr std::size_t mostCells = 20;
     constexpr std::size_t fewestCells = 4;
     const std::string counts = std::to_string(done) + "/" + std::to_string(total);
-    const std::size_t others = doing.size() + counts.size() + 5; // gaps, brackets, last column
+    const std::size_t others = displayWidth(doing) + counts.size() + 4; // gaps, brackets
     if (columns < others + fewestCells)
         return counts;
     const std::size_t cells = std::min(mostCells, columns - others);
@@ -40,32 +29,16 @@ std::string progressLine(const std::string &doing, int done, int total, std::siz
 }
 
 ProgressBar::ProgressBar(std::string doing, int total)
-    : doing_(std::move(doing)), total_(total), isOnTerminal_(isatty(STDERR_FILENO) == 1),
-      nextShow_(Clock::now() + patience)
+    : doing_(std::move(doing)), total_(total), nextShow_(Clock::now() + patience)
 {
-}
-
-ProgressBar::~ProgressBar()
-{
-    const InterruptionLock lock;
-    if (isShown_)
-        std::cerr << clearLine << std::flush;
 }
 
 void ProgressBar::show(int done)
 {
-    if (!isOnTerminal_ || Clock::now() < nextShow_)
+    if (!line_.isSeen() || Clock::now() < nextShow_)
         return;
-    const InterruptionLock lock;
-    std::cerr << clearLine + progressLine(doing_, done, total_, terminalColumns()) << std::flush;
+    line_.show(progressLine(doing_, done, total_, PassingLine::columns()));
     nextShow_ = Clock::now() + betweenShows;
-    isShown_ = true;
-}
-
-void clearProgress()
-{
-    if (isatty(STDERR_FILENO) == 1)
-        std::cerr << clearLine << std::flush;
 }
 
 } // namespace iosphoto::tool

@@ -1,25 +1,23 @@
 #ifndef IOSPHOTO_TOOL_PROGRESS_BAR_H
 #define IOSPHOTO_TOOL_PROGRESS_BAR_H
 
+#include "output/passing_line.h"
+
 #include <chrono>
 #include <string>
 
 namespace iosphoto::tool {
 
-/// A line of at most `columns` - 1 columns, such as "writing thumbnails [####    ] 20/40"; only the
+/// A line of at most `columns` columns, such as "writing thumbnails [####    ] 20/40"; only the
 /// numbers where there is no room.
 std::string progressLine(const std::string &doing, int done, int total, std::size_t columns);
 
-/// How far a command is, on stderr. Shown only on a terminal, from half a second on; its line is
-/// cleared when it goes.
+/// How far a command is: a passing line from half a second on.
 class ProgressBar
 {
 public:
     /// @param doing  such as "writing thumbnails"
     ProgressBar(std::string doing, int total);
-    ~ProgressBar();
-    ProgressBar(const ProgressBar &) = delete;
-    ProgressBar &operator=(const ProgressBar &) = delete;
 
     /// Says that `done` of the total are done.
     void show(int done);
@@ -29,13 +27,9 @@ private:
 
     std::string doing_;
     int total_;
-    bool isOnTerminal_;
-    bool isShown_ = false;
+    PassingLine line_;
     Clock::time_point nextShow_;
 };
-
-/// Clears the line where a bar may stand, for something else to be said.
-void clearProgress();
 
 } // namespace iosphoto::tool
 

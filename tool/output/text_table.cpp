@@ -1,24 +1,25 @@
 #include "output/text_table.h"
 
+#include "output/column_widths.h"
 #include "output/printable.h"
+#include "output/row_blocks.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace iosphoto::tool {
 
-TextTable::TextTable(std::vector<Column> columns)
-    : columns_(std::move(columns)), widths_(columns_.size(), 0)
+TextTable::TextTable(std::vector<Column> columns) : columns_(std::move(columns))
 {
-    std::vector<std::string> headings;
-    for (const Column &column : columns_)
-        headings.push_back(column.heading);
-    add(headings);
+    for (Column &column : columns_) {
+        column.heading = printable(column.heading);
+        widths_.push_back(displayWidth(column.heading));
+    }
 }
 
 void TextTable::add(const std::vector<std::string> &cells)
 {
-    std::vector<std::string> row;
+    Row row;
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         row.push_back(printable(cells.at(i)));
         widths_[i] = std::max(widths_[i], displayWidth(row.back()));
@@ -26,18 +27,47 @@ void TextTable::add(const std::vector<std::string> &cells)
     rows_.push_back(std::move(row));
 }
 
-void TextTable::print(std::ostream &out) const
+void TextTable::print(std::ostream &out, const Screen &screen) const
 {
-    for (const auto &row : rows_) {
-        std::string line;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::string padding(widths_[i] - displayWidth(row[i]), ' ');
-            line += i > 0 ? "  " : "";
-            line += columns_[i].align == Align::Left ? row[i] + padding : padding + row[i];
-        }
-        line.erase(line.find_last_not_of(' ') + 1);
-        out << line << '\n';
+    if (!screen.columns) {
+        printRows(out, screen, widths_);
+        return;
     }
+    std::vector<std::size_t> least = widths_;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (columns_[i].align == Align::Left)
+            least[i] = std::min(least[i], leastWidth(displayWidth(columns_[i].heading)));
+    if (const auto narrowed = narrowedWidths(widths_, least, *screen.columns))
+        printRows(out, screen, *narrowed);
+    else
+        printBlocks(out, headings(), rows_, screen);
+}
+
+void TextTable::printRows(std::ostream &out, const Screen &screen,
+                          const std::vector<std::size_t> &widths) const
+{
+    out << inked(line(headings(), widths), Ink::Bold, screen) << '\n';
+    for (const Row &row : rows_)
+        out << line(row, widths) << '\n';
+}
+
+std::string TextTable::line(const Row &row, const std::vector<std::size_t> &widths) const
+{
+    std::string line;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        line += i > 0 ? columnGap : "";
+        const std::string cell = shortened(row[i], widths[i], columns_[i].kept);
+        line += padded(cell, widths[i], columns_[i].align == Align::Right);
+    }
+    return line.erase(line.find_last_not_of(' ') + 1);
+}
+
+TextTable::Row TextTable::headings() const
+{
+    Row headings;
+    for (const Column &column : columns_)
+        headings.push_back(column.heading);
+    return headings;
 }
 
 } // namespace iosphoto::tool

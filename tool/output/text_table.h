@@ -1,6 +1,9 @@
 #ifndef IOSPHOTO_TOOL_TEXT_TABLE_H
 #define IOSPHOTO_TOOL_TEXT_TABLE_H
 
+#include "output/display_width.h"
+#include "output/terminal.h"
+
 #include <ostream>
 #include <string>
 #include <vector>
@@ -16,6 +19,7 @@ public:
     {
         std::string heading;
         Align align = Align::Left;
+        Kept kept = Kept::Beginning; ///< of cells that are cut; the end of paths tells more
     };
 
     explicit TextTable(std::vector<Column> columns);
@@ -23,11 +27,21 @@ public:
     /// Adds a row, a cell for each column. Cells may hold any text; they are made printable.
     void add(const std::vector<std::string> &cells);
 
-    void print(std::ostream &out) const;
+    /// On a terminal that is too narrow, long cells are cut; where that does not help, each row is
+    /// a block of lines, a cell after the other.
+    void print(std::ostream &out) const { print(out, screenOf(out)); }
+    void print(std::ostream &out, const Screen &screen) const;
 
 private:
+    using Row = std::vector<std::string>;
+
+    void printRows(std::ostream &out, const Screen &screen,
+                   const std::vector<std::size_t> &widths) const;
+    std::string line(const Row &row, const std::vector<std::size_t> &widths) const;
+    Row headings() const;
+
     std::vector<Column> columns_;
-    std::vector<std::vector<std::string>> rows_;
+    std::vector<Row> rows_;
     std::vector<std::size_t> widths_;
 };
 

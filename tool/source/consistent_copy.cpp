@@ -2,6 +2,7 @@
 
 #include "failure.h"
 #include "language/said.h"
+#include "language/system_error.h"
 #include "source/source_file.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ void copyFile(const Copy &file)
 {
     std::error_code error;
     if (!fs::is_regular_file(file.from, error)) // a pipe would keep us waiting
-        throw cannotRead(file.from, error ? error.message() : said("it is not a file"));
+        throw cannotRead(file.from, error ? systemError(error.value()) : said("it is not a file"));
     requireReadable(file.from);
     fs::copy_file(file.from, file.to, error);
     if (!error)
@@ -41,7 +42,8 @@ void copyFile(const Copy &file)
         throw Failure(CannotAccess,
                       said("cannot copy '{0}' to '{1}': {2}; set TMPDIR to a folder with room for "
                            "it",
-                           file.from.string(), file.to.parent_path().string(), error.message()));
+                           file.from.string(), file.to.parent_path().string(),
+                           systemError(error.value())));
 }
 
 std::vector<FileStamp> statesOf(const std::vector<Copy> &files)

@@ -1,12 +1,12 @@
 #include "source/folder_tree.h"
 
 #include "language/said.h"
+#include "language/system_error.h"
 #include "source/consistent_copy.h"
 #include "source/source_file.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <sys/stat.h>
 
 namespace iosphoto::tool {
@@ -29,7 +29,7 @@ std::optional<FileFacts> FolderTree::find(const std::string &path) const
                    : std::nullopt;
     if (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG)
         return std::nullopt;
-    throw mayNotRead(file, std::strerror(errno));
+    throw mayNotRead(file, systemError(errno));
 }
 
 std::vector<std::string> FolderTree::searchedFolders() const
@@ -43,7 +43,7 @@ std::vector<std::string> FolderTree::searchedFolders() const
             folders.push_back(at->path().filename().string());
     }
     if (error)
-        throw mayNotRead(top_, error.message());
+        throw mayNotRead(top_, systemError(error.value()));
     std::sort(folders.begin(), folders.end());
     return folders;
 }

@@ -2,9 +2,9 @@
 
 #include "failure.h"
 #include "language/said.h"
+#include "language/system_error.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -30,7 +30,7 @@ NewFile::NewFile(fs::path path, std::optional<std::uint64_t> size)
     std::error_code error;
     fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write, error);
     if (!out_ || error)
-        throw cannotWrite(path_, std::strerror(errno));
+        throw cannotWrite(path_, systemError(errno));
 }
 
 void NewFile::requireRoom(std::uint64_t bytes) const
@@ -48,7 +48,7 @@ bool NewFile::append(std::string_view bytes)
         return false;
     out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (!out_)
-        throw cannotWrite(path_, std::strerror(errno));
+        throw cannotWrite(path_, systemError(errno));
     return true;
 }
 
@@ -56,11 +56,11 @@ void NewFile::close(std::int64_t modified)
 {
     out_.close();
     if (!out_)
-        throw cannotWrite(path_, std::strerror(errno));
+        throw cannotWrite(path_, systemError(errno));
     const timespec time = {static_cast<time_t>(modified), 0};
     const timespec times[] = {time, time};
     if (utimensat(AT_FDCWD, path_.c_str(), times, 0) != 0)
-        throw cannotWrite(path_, std::strerror(errno));
+        throw cannotWrite(path_, systemError(errno));
 }
 
 } // namespace iosphoto::tool

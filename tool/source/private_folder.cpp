@@ -2,10 +2,10 @@
 
 #include "failure.h"
 #include "language/said.h"
+#include "language/system_error.h"
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <unistd.h>
 
 namespace iosphoto::tool {
@@ -22,7 +22,7 @@ fs::path makePrivateFolder()
     if (mkdtemp(name.data()) == nullptr)
         throw Failure(CannotAccess, said("cannot make a temporary folder in '{0}': {1}; set TMPDIR "
                                          "to a folder that can be written",
-                                         parent.string(), std::strerror(errno)));
+                                         parent.string(), systemError(errno)));
     return name;
 }
 

@@ -1,10 +1,10 @@
 #include "source/source_file.h"
 
 #include "language/said.h"
+#include "language/system_error.h"
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 namespace iosphoto::tool {
 
@@ -17,7 +17,7 @@ std::string unreadableBecause(const fs::path &file)
 {
     std::FILE *opened = std::fopen(file.c_str(), "rb");
     if (opened == nullptr)
-        return std::strerror(errno);
+        return systemError(errno);
     std::fclose(opened);
     return {};
 }
@@ -39,7 +39,7 @@ fs::path resolved(const fs::path &path)
     std::error_code error;
     fs::path target = fs::canonical(path, error);
     if (error)
-        throw cannotRead(path, said("{0}; check the path", error.message()));
+        throw cannotRead(path, said("{0}; check the path", systemError(error.value())));
     return target;
 }
 

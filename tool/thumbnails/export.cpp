@@ -1,6 +1,7 @@
 #include "thumbnails/export.h"
 
 #include "failure.h"
+#include "language/said.h"
 #include "output/output_file.h"
 #include "output/progress_bar.h"
 #include "thumbnails/contact_sheet.h"
@@ -19,11 +20,6 @@ namespace {
 QString lowerSuffix(const fs::path &file)
 {
     return QFileInfo(QString::fromStdString(file.filename().string())).suffix().toLower();
-}
-
-Failure wrongName(const std::string &file, const std::string &why)
-{
-    return {WrongUsage, "cannot write '" + file + "': " + why};
 }
 
 QByteArray content(const ThumbCache &cache, const Thumbnail &thumbnail, bool asPng)
@@ -56,7 +52,9 @@ WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail, cons
 {
     const QString suffix = lowerSuffix(file);
     if (!suffix.isEmpty() && suffix != "bmp" && suffix != "png")
-        throw wrongName(file, "thumbnails are written as .bmp or .png; name such a file");
+        throw Failure(WrongUsage, said("cannot write '{0}': thumbnails are written as .bmp or "
+                                       ".png; name such a file",
+                                       file));
     writeOutput(file, content(cache, thumbnail, suffix == "png"), cache.file());
     return {{thumbnail.index, file}};
 }
@@ -65,7 +63,7 @@ WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool 
 {
     makeOutputFolder(folder);
     const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
-    ProgressBar progress("writing thumbnails", static_cast<int>(thumbnails.size()));
+    ProgressBar progress(said("writing thumbnails"), static_cast<int>(thumbnails.size()));
     WrittenFiles written;
     for (const Thumbnail &thumbnail : thumbnails) {
         const std::string name =
@@ -81,8 +79,11 @@ WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool 
 WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file)
 {
     if (lowerSuffix(file) != "png")
-        throw wrongName(file, "a contact sheet is a PNG file; name one that ends in .png");
-    ProgressBar progress("drawing sheets", sheetCount(cache));
+        throw Failure(WrongUsage,
+                      said("cannot write '{0}': a contact sheet is a PNG file; name one "
+                           "that ends in .png",
+                           file));
+    ProgressBar progress(said("drawing sheets"), sheetCount(cache));
     WrittenFiles written;
     for (int sheet = 0; sheet < sheetCount(cache); ++sheet) {
         const fs::path name = sheetName(file, sheet);

@@ -2,9 +2,11 @@
 
 #include "failure.h"
 #include "ithmb/thumb_decode.h"
+#include "language/said.h"
 #include "output/counted.h"
 #include "source/source_file.h"
 #include "thumbnails/cache_format.h"
+#include "thumbnails/unsupported_cache.h"
 
 #include <algorithm>
 #include <array>
@@ -12,35 +14,25 @@
 
 namespace iosphoto::tool {
 
-namespace {
-
-constexpr const char *example = "120x120.ithmb of PhotoData/Thumbnails";
-
-Failure notACache(const std::string &path, const std::string &reason)
-{
-    return {WrongKindOfFile, "'" + path + "' " + reason + "; name one, such as " + example};
-}
-
-} // namespace
-
 ThumbCache::ThumbCache(const std::string &path)
-    : path_(path), file_(sourceFile(path, std::string("a cache in it, such as ") + example)),
+    : path_(path), file_(sourceFile(path, said("a cache in it, such as 120x120.ithmb of "
+                                               "PhotoData/Thumbnails"))),
       reader_(file_.c_str())
 {
     requireReadable(file_);
-    if (reader_.getlength() == 0)
-        throw notACache(path, "is empty, not a thumbnail cache");
     format_ = findFormat(reader_);
     if (format_ == nullptr)
-        throw notACache(path, "is not a thumbnail cache of a known format");
+        format_ = formatWithoutThumbnails(reader_);
+    if (format_ == nullptr)
+        throw unsupportedCache(reader_, path);
     readRecords();
 }
 
 void ThumbCache::readRecords()
 {
-    recordCount_ = tool::recordCount(reader_, *format_);
+    recordCount_ = tool::recordCount(reader_, format_->recordSize);
     for (int index = 0; index < recordCount_; ++index) {
-        const RecordState state = recordState(reader_, *format_, index);
+        const RecordState state = recordState(reader_, format_->recordSize, index);
         if (state == RecordState::Empty)
             continue;
         Thumbnail thumbnail = {index, 0, 0, 0};
@@ -62,17 +54,20 @@ const Thumbnail &ThumbCache::at(int index) const
                                     [=](const Thumbnail &each) { return each.index == index; });
     if (found != thumbnails_.end())
         return *found;
-    const std::string subject = "'" + path_ + "' has no thumbnail " + std::to_string(index) + ": ";
-    if (index >= recordCount_) {
-        const std::string last =
-            isBeyondReach_ ? "the last within 2 GiB is " : "its last record is ";
-        throw Failure(WrongUsage, subject + last + std::to_string(recordCount_ - 1));
-    }
-    if (recordState(reader_, *format_, index) == RecordState::Empty)
-        throw Failure(WrongUsage, subject + "that record is empty; leave out --index to see which "
-                                            "are not");
-    throw Failure(CannotAccess, subject + "that record is damaged; copy the file from the device "
-                                          "again");
+    const int last = recordCount_ - 1;
+    if (index > last && isBeyondReach_)
+        throw Failure(WrongUsage, said("'{0}' has no thumbnail {1}: the last within 2 GiB is {2}",
+                                       path_, index, last));
+    if (index > last)
+        throw Failure(WrongUsage, said("'{0}' has no thumbnail {1}: its last record is {2}", path_,
+                                       index, last));
+    if (recordState(reader_, format_->recordSize, index) == RecordState::Empty)
+        throw Failure(WrongUsage, said("'{0}' has no thumbnail {1}: that record is empty; leave "
+                                       "out --index to see which are not",
+                                       path_, index));
+    throw Failure(CannotAccess, said("'{0}' has no thumbnail {1}: that record is damaged; copy "
+                                     "the file from the device again",
+                                     path_, index));
 }
 
 QByteArray ThumbCache::image(const Thumbnail &thumbnail) const
@@ -81,8 +76,9 @@ QByteArray ThumbCache::image(const Thumbnail &thumbnail) const
     QByteArray image = decode(thumbnail.index, again);
     if (again.width != thumbnail.width || again.height != thumbnail.height ||
         again.bytes != thumbnail.bytes)
-        throw Failure(CannotAccess,
-                      "cannot read '" + path_ + "': it changed while it was read; copy it first");
+        throw Failure(
+            CannotAccess,
+            said("cannot read '{0}': it changed while it was read; copy it first", path_));
     return image;
 }
 
@@ -99,15 +95,16 @@ std::string ThumbCache::missing() const
 {
     std::string what;
     const auto add = [&](const std::string &part) {
-        what += (what.empty() ? "" : ", and ") + part;
+        what = what.empty() ? part : said("{0}, and {1}", what, part);
     };
     if (damagedCount_ > 0)
-        add(counted(damagedCount_, "damaged record") + " (copy it from the device again)");
+        add(counted(damagedCount_, "{0} damaged record (copy it from the device again)",
+                    "{0} damaged records (copy it from the device again)"));
     if (isCutOff_)
-        add("a last record that is cut off (copy it from the device again)");
+        add(said("a last record that is cut off (copy it from the device again)"));
     if (isBeyondReach_)
-        add("the records beyond 2 GiB, which are not reached");
-    return what.empty() ? what : "'" + path_ + "' has more than is shown here: " + what;
+        add(said("the records beyond 2 GiB, which are not reached"));
+    return what.empty() ? what : said("'{0}' has more than is shown here: {1}", path_, what);
 }
 
 } // namespace iosphoto::tool

@@ -1,0 +1,143 @@
+#include "output/display_width.h"
+#include "support/case_name.h"
+#include "support/library_builder.h"
+#include "support/run_tool.h"
+#include "support/sample_thumb_cache.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace iosphoto::test;
+using iosphoto::tool::displayWidth;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+/// A library with names that are long and wide.
+void fill(LibraryBuilder &library)
+{
+    const AlbumRow trip =
+        library.album("A journey around the whole world 环游世界 👨‍👩‍👧‍👦");
+    library.asset("IMG_0001_with_a_name_that_goes_on_and_on.JPG").in(trip).set("ZFAVORITE", 1);
+    library.asset("照片照片照片照片照片照片照片照片照片照片.JPG").in(trip);
+}
+
+} // namespace
+
+class ToolOnTerminal : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(ToolOnTerminal, PrintsNoLineThatIsWider)
+{
+    LibraryBuilder library(ios15);
+    fill(library);
+    for (const char *command : {"albums", "photos"}) {
+        const ToolRun run =
+            runToolOnTerminal({command, library.path(), "--color", "never"}, GetParam());
+        EXPECT_EQ(run.status, 0) << run;
+        std::istringstream lines(run.out);
+        int count = 0;
+        for (std::string line; std::getline(lines, line); ++count)
+            EXPECT_LE(displayWidth(line), static_cast<std::size_t>(GetParam())) << line;
+        EXPECT_GE(count, 3) << run;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Columns, ToolOnTerminal, testing::Values(40, 100));
+
+TEST(ToolOnTerminal, ObeysColumns)
+{
+    LibraryBuilder library(ios15);
+    fill(library);
+    const std::vector<std::string> arguments = {"albums", library.path()};
+    const ToolRun wide = runToolOnTerminal(arguments, 200);
+    EXPECT_THAT(wide.out, Not(HasSubstr("…")));
+    EXPECT_THAT(runToolOnTerminal(arguments, 200, {{"COLUMNS", "90"}}).out, HasSubstr("…"));
+    EXPECT_EQ(runToolOnTerminal(arguments, 200, {{"COLUMNS", "x"}}), wide);
+}
+
+TEST(ToolOnTerminal, IsNotToldByColumnsAlone)
+{
+    LibraryBuilder library(ios15);
+    fill(library);
+    const std::vector<std::string> arguments = {"albums", library.path()};
+    EXPECT_EQ(runTool(arguments, {{"COLUMNS", "40"}}), runTool(arguments));
+}
+
+namespace {
+
+struct ColorCase
+{
+    std::string what;
+    bool isOnTerminal;
+    Environment environment;
+    std::string option; ///< the value of --color; empty for none
+    bool isColored;
+
+    std::string name() const { return what; }
+};
+
+const ColorCase colorCases[] = {
+    {"terminal", true, {}, "", true},
+    {"terminal auto", true, {}, "auto", true},
+    {"terminal always", true, {}, "always", true},
+    {"terminal never", true, {}, "never", false},
+    {"terminal without", true, {{"NO_COLOR", "1"}}, "", false},
+    {"terminal without auto", true, {{"NO_COLOR", "0"}}, "auto", false},
+    {"terminal without always", true, {{"NO_COLOR", "1"}}, "always", true},
+    {"terminal without nothing", true, {{"NO_COLOR", ""}}, "", true},
+    {"dumb terminal", true, {{"TERM", "dumb"}}, "", false},
+    {"dumb terminal always", true, {{"TERM", "dumb"}}, "always", true},
+    {"file", false, {}, "", false},
+    {"file auto", false, {}, "auto", false},
+    {"file always", false, {}, "always", true},
+    {"file never", false, {}, "never", false},
+};
+
+} // namespace
+
+class ToolColor : public testing::TestWithParam<ColorCase>
+{
+protected:
+    static ToolRun run(std::vector<std::string> arguments)
+    {
+        const ColorCase &param = GetParam();
+        if (!param.option.empty())
+            arguments.insert(arguments.end(), {"--color", param.option});
+        return param.isOnTerminal ? runToolOnTerminal(arguments, 80, param.environment)
+                                  : runTool(arguments, param.environment);
+    }
+};
+
+TEST_P(ToolColor, IsUsedForHeadingsAndFailures)
+{
+    const LibraryBuilder library(ios15);
+    const ToolRun table = run({"albums", library.path(), "--quiet"});
+    const ToolRun failure = run({"albums", "/nowhere"});
+    if (GetParam().isColored) {
+        EXPECT_THAT(table.out, StartsWith("\x1b[1m#  KIND"));
+        EXPECT_THAT(failure.error, StartsWith("\x1b[31miosphoto:\x1b[0m cannot read"));
+    } else {
+        EXPECT_THAT(table.out, StartsWith("#  KIND"));
+        EXPECT_THAT(failure.error, StartsWith("iosphoto: cannot read"));
+    }
+    EXPECT_EQ(table.error, "");
+}
+
+TEST_P(ToolColor, TellsWhatIsMissingFromRemarks)
+{
+    const LibraryBuilder library(ios15);
+    const TemporaryFolder folder;
+    const std::string cache = (folder / "cache").string();
+    writeFile(cache, sampleThumbCache(120).bytes().substr(0, 100000));
+    const std::string name = GetParam().isColored ? "\x1b[33miosphoto:\x1b[0m" : "iosphoto:";
+    EXPECT_THAT(run({"thumb", cache}).error, StartsWith(name + " '" + cache + "' has more than"));
+    EXPECT_THAT(run({"albums", library.path()}).error, StartsWith("iosphoto: reading as iOS"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, ToolColor, testing::ValuesIn(colorCases), NameOfCase());

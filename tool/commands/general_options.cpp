@@ -1,0 +1,108 @@
+#include "commands/general_options.h"
+
+#include "commands/help_format.h"
+#include "failure.h"
+#include "language/said.h"
+#include "output/notice.h"
+#include "output/terminal.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace iosphoto::tool {
+
+namespace {
+
+template <typename Value>
+using Choices = std::vector<std::pair<std::string, Value>>;
+
+const Choices<Language> languages = {{"en", Language::English}, {"zh", Language::Chinese}};
+const Choices<ColorChoice> colors = {
+    {"auto", ColorChoice::Auto}, {"always", ColorChoice::Always}, {"never", ColorChoice::Never}};
+
+template <typename Value>
+std::string joined(const Choices<Value> &choices, const std::string &separator)
+{
+    std::string names;
+    for (const auto &[name, value] : choices)
+        names += (names.empty() ? "" : separator) + name;
+    return names;
+}
+
+/// The value of an option as the parser will see it: "--option value" or "--option=value".
+std::optional<std::string> valueOf(const std::string &option,
+                                   const std::vector<std::string> &arguments)
+{
+    const std::string start = option + "=";
+    for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+        if (arguments[i] == option && i + 1 < arguments.size())
+            return arguments[i + 1];
+        if (arguments[i].compare(0, start.size(), start) == 0)
+            return arguments[i].substr(start.size());
+    }
+    return std::nullopt;
+}
+
+template <typename Value>
+Value chosen(const std::string &option, const Choices<Value> &choices,
+             const std::vector<std::string> &arguments, Value usual)
+{
+    const std::optional<std::string> name = valueOf(option, arguments);
+    if (!name)
+        return usual;
+    const auto found = std::find_if(choices.begin(), choices.end(),
+                                    [&](const auto &choice) { return choice.first == *name; });
+    if (found == choices.end())
+        throw Failure(WrongUsage, said("{0}: '{1}' is none of {2}; see iosphoto --help", option,
+                                       *name, joined(choices, ", ")));
+    return found->second;
+}
+
+void addGeneralOptionsTo(CLI::App &command, const std::string &version)
+{
+    for (CLI::Option *option : command.get_options())
+        if (option->get_group() == "Options")
+            option->group(said("Options"));
+    const std::string group = said("General");
+    const auto obeyed = [](const std::string &) {}; // obeyLookOptions() has done it
+    command.add_option_function<std::string>("--lang", obeyed, said("language of texts"))
+        ->option_text(joined(languages, "|"))
+        ->group(group);
+    command.add_option_function<std::string>("--color", obeyed, said("when to use colors"))
+        ->option_text(joined(colors, "|"))
+        ->group(group);
+    command
+        .add_flag_callback(
+            "-q,--quiet", [] { beQuiet(true); }, said("no remarks and no progress"))
+        ->group(group);
+    command.set_version_flag("--version", version, said("print the version"))->group(group);
+    command.set_help_flag("-h,--help", said("print this help"))->group(group);
+}
+
+} // namespace
+
+void obeyLookOptions(int argumentCount, char **arguments)
+{
+    const std::vector<std::string> given(arguments + std::min(argumentCount, 1),
+                                         arguments + argumentCount);
+    speak(languageOfLocale());
+    speak(chosen("--lang", languages, given, spokenLanguage()));
+    chooseColor(chosen("--color", colors, given, ColorChoice::Auto));
+}
+
+void addGeneralOptions(CLI::App &app, const std::string &version)
+{
+    const auto format = std::make_shared<HelpFormat>();
+    app.formatter(format);
+    addGeneralOptionsTo(app, version);
+    for (CLI::App *command : app.get_subcommands({})) {
+        command->formatter(format);
+        command->group(said("Commands"));
+        addGeneralOptionsTo(*command, version);
+    }
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,21 @@
+#ifndef IOSPHOTO_TOOL_GENERAL_OPTIONS_H
+#define IOSPHOTO_TOOL_GENERAL_OPTIONS_H
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+
+namespace iosphoto::tool {
+
+/// Obeys --lang and --color, wherever they stand in the command line: before the parser is made,
+/// since its texts depend on them. Throws Failure when a value is none of theirs.
+void obeyLookOptions(int argumentCount, char **arguments);
+
+/// Adds the options that every command takes to the tool and to all commands that it has, and lets
+/// the parser speak the language of the rest.
+/// @param version  what --version prints
+void addGeneralOptions(CLI::App &app, const std::string &version);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_GENERAL_OPTIONS_H
