@@ -11,15 +11,21 @@ namespace iosphoto::test {
 constexpr std::int64_t readingTime = 600307200;
 constexpr std::int64_t days = 24 * 60 * 60;
 
-/// Runs a command of the tool on a library, as of a moment and a device that are named, so that it
-/// has no assumption to speak of.
-inline ToolRun runOn(const LibraryBuilder &library, const std::string &command,
-                     const std::vector<std::string> &arguments = {})
+/// A command on a library, as of a moment and a device that are named, so that the tool has no
+/// assumption to speak of.
+inline std::vector<std::string> commandOn(const LibraryBuilder &library, const std::string &command,
+                                          const std::vector<std::string> &arguments = {})
 {
     std::vector<std::string> all = {command,     library.path(), "--ios",   "15.0",
                                     "--product", "iPhone14,2",   "--as-of", "2020-01-10"};
     all.insert(all.end(), arguments.begin(), arguments.end());
-    return runTool(all);
+    return all;
+}
+
+inline ToolRun runOn(const LibraryBuilder &library, const std::string &command,
+                     const std::vector<std::string> &arguments = {})
+{
+    return runTool(commandOn(library, command, arguments));
 }
 
 /// What `photos --fields fileName` prints, and that nothing else is said.

@@ -94,6 +94,15 @@ TEST(ToolPhotoFilters, TrashedEarlierThanWithinTheDaysDoesNotFit)
               (ToolRun{"fileName\n", "iosphoto: none of the 7 photos fits\n", 0}));
 }
 
+TEST(ToolPhotoFilters, ListsOfAnOptionEndWhereTheSourceBegins)
+{
+    const ManyKinds many;
+    EXPECT_EQ(
+        runTool({"photos", "--ios", "15.0", "--product", "iPhone14,2", "--as-of", "2020-01-10",
+                 "--kind", "live", "--fields", "fileName", many.library().path()}),
+        fileNames({"3.JPG"}));
+}
+
 TEST(ToolPhotoFilters, MistakesAreWrongUsage)
 {
     const LibraryBuilder library(ios15);

@@ -52,6 +52,19 @@ TEST_P(ToolTrash, SaysHowLongAPhotoStays)
 
 INSTANTIATE_TEST_SUITE_P(Stays, ToolTrash, testing::ValuesIn(stays), NameOfCase());
 
+TEST(ToolTrashInAnotherZone, GoesOnTheLocalDay)
+{
+    LibraryBuilder library(ios15);
+    library.asset("IMG_0001.JPG").trashedAt(readingTime - 10 * days);
+    const auto inZone = [&](const char *zone) {
+        return runTool(commandOn(library, "photos", {"--fields", "goes,what"}), {{"TZ", zone}});
+    };
+    EXPECT_EQ(inZone("EST5"), // which is five hours behind UTC
+              (ToolRun{"goes                  WHAT\n"
+                       "2020-01-29 19:00 EST  deleted, 20 days left, goes 2020-01-29\n",
+                       "", 0}));
+}
+
 TEST(ToolTrashOfAPhotoThatIsNotThere, IsUnknown)
 {
     LibraryBuilder library(ios15);

@@ -60,8 +60,9 @@ void addOrder(CLI::App &command, PhotoChoice &choice)
 
 void addPhotoOptions(CLI::App &command, PhotoChoice &choice)
 {
-    command.add_option("--album", choice.filter.album,
-                       said("only the albums of this name, kind (such as selfies) or uuid"));
+    command.add_option(
+        "--album", choice.filter.album,
+        said("only what the albums of this name, kind (such as selfies) or uuid show"));
     addTimes(command, choice.filter);
     addKinds(command, choice.filter);
     addFlags(command, choice.filter);

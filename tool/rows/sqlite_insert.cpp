@@ -49,7 +49,7 @@ struct Bind
 } // namespace
 
 SqliteInsert::SqliteInsert(SqliteOutput &output, const std::string &table, std::size_t columns)
-    : output_(output)
+    : output_(output), columns_(columns)
 {
     std::string places;
     for (std::size_t i = 0; i < columns; ++i)
@@ -66,8 +66,9 @@ SqliteInsert::SqliteInsert(SqliteOutput &output, const std::string &table, std::
 void SqliteInsert::row(const std::vector<Value> &values)
 {
     made_.resize(values.size());
+    const int firstPlace = 1 + static_cast<int>(columns_ - values.size());
     for (std::size_t i = 0; i < values.size(); ++i)
-        std::visit(Bind{statement_.get(), static_cast<int>(i) + 1, made_[i]}, values[i]);
+        std::visit(Bind{statement_.get(), firstPlace + static_cast<int>(i), made_[i]}, values[i]);
     const int result = sqlite3_step(statement_.get());
     sqlite3_reset(statement_.get());
     if (result != SQLITE_DONE)

@@ -14,10 +14,13 @@ class SqliteInsert
 public:
     SqliteInsert(SqliteOutput &output, const std::string &table, std::size_t columns);
 
+    /// @param values  of the last columns; those in front of them stay null, as which a primary key
+    ///                counts
     void row(const std::vector<Value> &values);
 
 private:
     SqliteOutput &output_;
+    std::size_t columns_;
     std::unique_ptr<sqlite3_stmt, SqliteOutput::Close> statement_;
     std::vector<std::string> made_; ///< texts of the row that are not the values themselves
 };

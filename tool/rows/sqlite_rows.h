@@ -24,9 +24,6 @@ public:
 private:
     SqliteOutput &output_;
     std::string key_;
-    bool isCounting_ = true;
-    std::int64_t count_ = 0;
-    std::vector<Value> counted_;
     std::unique_ptr<SqliteInsert> insert_;
 };
 

@@ -144,6 +144,22 @@ TEST_F(ToolSqlite, IsNotWrittenBesideTheLogOfAnother)
                   "cannot write " + quoted(file_) + ": " + quoted(log) + " lies beside it", 3);
 }
 
+TEST_F(ToolSqlite, FullDiskLeavesTheOneBefore)
+{
+    expectWritten(write("albums", file_), file_);
+    constexpr std::size_t length = 500000; // a row has the name twice
+    library_.asset(std::string(length, 'x'));
+    library_.execute("vacuum");
+    const std::size_t room = fs::file_size(library_.path()) + length / 10;
+
+    const ToolRun run =
+        runToolOnFullDisk(commandOn(library_, "photos", {"--sqlite", file_.string()}), room);
+
+    expectFailure(run, "cannot write " + quoted(file_) + ": ", 3);
+    EXPECT_EQ(query(file_, "select count(*) from albums"), (Found{{"5"}}));
+    EXPECT_EQ(filesOfTheFolder(), 1);
+}
+
 TEST_F(ToolSqlite, WhatCannotBeWrittenLeavesNothing)
 {
     const fs::path nowhere = folder_ / "nowhere" / "out.db";
