@@ -77,4 +77,10 @@ std::string utcTimeText(std::int64_t unixTime)
                        utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec);
 }
 
+std::string utcTimeOf(double coreDataSeconds)
+{
+    const auto unixTime = unixTimeOf(coreDataSeconds);
+    return unixTime ? utcTimeText(*unixTime) : "";
+}
+
 } // namespace iosphoto::tool

@@ -38,6 +38,9 @@ std::optional<std::int64_t> unixTimeOf(double coreDataSeconds);
 /// "2024-05-01T12:30:00Z", for documents; empty beyond the years 1 to 9999.
 std::string utcTimeText(std::int64_t unixTime);
 
+/// The same of a time that a record holds, in seconds since 2001.
+std::string utcTimeOf(double coreDataSeconds);
+
 } // namespace iosphoto::tool
 
 #endif // IOSPHOTO_TOOL_MOMENT_H

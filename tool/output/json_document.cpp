@@ -23,6 +23,11 @@ Json albumReference(const CAlbumGroup &album)
             {"uuid", textOrNull(album.albumUuid)}};
 }
 
+std::string oneLine(const Json &document)
+{
+    return document.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
 Json textOrNull(const QString &text)
 {
     return textOrNull(text.toStdString());
@@ -35,13 +40,7 @@ Json textOrNull(const std::string &text)
 
 Json utcTime(double coreDataSeconds)
 {
-    const auto unixTime = unixTimeOf(coreDataSeconds);
-    return unixTime ? textOrNull(utcTimeText(*unixTime)) : Json();
-}
-
-std::string oneLine(const Json &document)
-{
-    return document.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return textOrNull(utcTimeOf(coreDataSeconds));
 }
 
 void print(const Json &document, std::ostream &out)

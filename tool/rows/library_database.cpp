@@ -1,6 +1,5 @@
 #include "rows/library_database.h"
 
-#include "output/interruption.h"
 #include "rows/album_fields.h"
 #include "rows/sqlite_rows.h"
 
@@ -52,7 +51,6 @@ void writeAppearances(SqliteOutput &output, const std::vector<Asset> &photos)
     std::int64_t id = 0;
     for (const Asset &photo : photos) {
         ++id;
-        Interruption::throwIfAskedFor();
         for (const Appearance &appearance : photo)
             insert.row({std::int64_t(appearance.album->albumIndex),
                         static_cast<std::int64_t>(appearance.position), id});
@@ -64,7 +62,6 @@ void writeAppearances(SqliteOutput &output, const std::vector<Asset> &photos)
 
 void writeAlbumDatabase(const std::string &file, const Library &library)
 {
-    const Interruption interruption;
     SqliteOutput output(file, library.name(), libraryHead(library));
     writeAlbums(output, library);
     output.finish();
@@ -73,7 +70,6 @@ void writeAlbumDatabase(const std::string &file, const Library &library)
 void writePhotoDatabase(const std::string &file, const Library &library,
                         const std::vector<Asset> &photos, const PhotoRows &rows)
 {
-    const Interruption interruption;
     SqliteOutput output(file, library.name(), libraryHead(library));
     writeAlbums(output, library);
     writePhotos(output, photos, rows);

@@ -1,7 +1,5 @@
 #include "rows/sqlite_rows.h"
 
-#include "output/interruption.h"
-
 #include <algorithm>
 
 namespace iosphoto::tool {
@@ -44,7 +42,6 @@ void SqliteRows::begin(const RowsHead &head, const std::vector<Column> &columns)
 
 void SqliteRows::row(const std::vector<Value> &values)
 {
-    Interruption::throwIfAskedFor();
     insert_->row(values);
 }
 

@@ -2,7 +2,7 @@
 
 #include "catalogue/moment.h"
 #include "language/said.h"
-#include "output/counted.h"
+#include "output/readable_size.h"
 
 namespace iosphoto::tool {
 
