@@ -48,12 +48,6 @@ const KindNames &namesOf(const CAlbumGroup &album)
     return unknown;
 }
 
-/// An album of the table, as opposed to the built-in ones.
-bool isOfTheTable(const CAlbumGroup &album)
-{
-    return !album.albumUuid.empty();
-}
-
 std::string kindText(const CAlbumGroup &album, Language language)
 {
     if (album.albumKind == Kind::PhotoLibrary && isOfTheTable(album))
@@ -63,6 +57,11 @@ std::string kindText(const CAlbumGroup &album, Language language)
 }
 
 } // namespace
+
+bool isOfTheTable(const CAlbumGroup &album)
+{
+    return !album.albumUuid.empty();
+}
 
 bool collectsFromAlbums(const CAlbumGroup &album)
 {
@@ -89,6 +88,11 @@ std::string shownKind(const CAlbumGroup &album)
 std::string shownName(const CAlbumGroup &album)
 {
     return album.albumKind == Kind::User ? album.albumName.toStdString() : shownKind(album);
+}
+
+std::string englishName(const CAlbumGroup &album)
+{
+    return album.albumKind == Kind::User ? album.albumName.toStdString() : englishKind(album);
 }
 
 } // namespace iosphoto::tool

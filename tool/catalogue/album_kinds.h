@@ -21,6 +21,12 @@ std::string shownKind(const CAlbumGroup &album);
 /// kind, in the language that is spoken.
 std::string shownName(const CAlbumGroup &album);
 
+/// The same in English, for documents.
+std::string englishName(const CAlbumGroup &album);
+
+/// An album of the table, as opposed to the built-in ones.
+bool isOfTheTable(const CAlbumGroup &album);
+
 /// Whether the album collects photos of one kind from the albums that the device did not make.
 bool collectsFromAlbums(const CAlbumGroup &album);
 

@@ -13,6 +13,7 @@ struct Appearance
 {
     const CPhotoData *record;
     const CAlbumGroup *album;
+    std::size_t position; ///< in the album, from 0
 };
 
 /// One photo or video of a catalogue: all its records, in the order of their albums. There is at
@@ -26,6 +27,9 @@ public:
     const Appearance *end() const { return last_; }
 
     const std::string &uuid() const { return first_->record->uuid; }
+
+    /// Whether any of its records has a flag; as facts() says, but quicker.
+    bool has(bool CPhotoData::*flag) const;
 
     /// The first record, with what others know besides: every flag that any of them has, and the
     /// duration, row key and burst, which not all albums read.

@@ -7,6 +7,7 @@
 #include "output/output_file.h"
 
 #include <algorithm>
+#include <fstream>
 #include <functional>
 #include <sstream>
 #include <utility>
@@ -112,6 +113,16 @@ void Evidence::wrote(const fs::path &file, const QByteArray &content)
 {
     outputs_.erase(file.string());
     outputs_[file.string()].add(content.constData(), static_cast<std::size_t>(content.size()));
+}
+
+void Evidence::wroteWhole(const fs::path &file)
+{
+    outputs_.erase(file.string());
+    Written &written = outputs_[file.string()];
+    std::ifstream in(file, std::ios::binary);
+    std::vector<char> block(std::size_t(1) << 20);
+    while (in.read(block.data(), static_cast<std::streamsize>(block.size())), in.gcount() > 0)
+        written.add(block.data(), static_cast<std::size_t>(in.gcount()));
 }
 
 void Evidence::printed(const char *bytes, std::size_t size)

@@ -52,6 +52,7 @@ private:
     void willRead(const std::vector<std::filesystem::path> &files) override { addInputs(files); }
     void willWrite(const std::filesystem::path &file) override;
     void wrote(const std::filesystem::path &file, const QByteArray &content) override;
+    void wroteWhole(const std::filesystem::path &file) override;
     void printed(const char *bytes, std::size_t size) override;
 
     void readInputsAgain();

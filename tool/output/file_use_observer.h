@@ -23,6 +23,8 @@ public:
     /// May throw, and so keep the file from being written.
     virtual void willWrite(const std::filesystem::path &file) = 0;
     virtual void wrote(const std::filesystem::path &file, const QByteArray &content) = 0;
+    /// The same of a file that was written piece by piece.
+    virtual void wroteWhole(const std::filesystem::path &file) = 0;
     /// On standard output.
     virtual void printed(const char *bytes, std::size_t size) = 0;
 

@@ -23,6 +23,11 @@ Json albumReference(const CAlbumGroup &album)
             {"uuid", textOrNull(album.albumUuid)}};
 }
 
+std::string oneLine(const Json &document)
+{
+    return document.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
 Json textOrNull(const QString &text)
 {
     return textOrNull(text.toStdString());

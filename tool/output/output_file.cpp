@@ -4,90 +4,13 @@
 #include "language/said.h"
 #include "language/system_error.h"
 #include "output/file_use_observer.h"
-#include "output/temporary_path.h"
-
-#include <cerrno>
-#include <cstdlib>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <utility>
+#include "output/unfinished_file.h"
 
 namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-Failure cannotWrite(const fs::path &file, const std::string &reason)
-{
-    return {CannotAccess, said("cannot write '{0}': {1}", file.string(), reason)};
-}
-
-/// The rights of the file that is replaced; of a new one, what the process gives.
-mode_t modeFor(const fs::path &file)
-{
-    struct stat old = {};
-    if (stat(file.c_str(), &old) == 0)
-        return old.st_mode & 0777;
-    const mode_t mask = umask(0);
-    umask(mask);
-    return 0666 & ~mask;
-}
-
-/// A file under a passing name beside the one that it becomes. Gone with the object otherwise.
-class UnfinishedFile
-{
-public:
-    explicit UnfinishedFile(const fs::path &file) : file_(file), passing_([this] { return make(); })
-    {
-    }
-    ~UnfinishedFile()
-    {
-        if (descriptor_ >= 0)
-            close(descriptor_);
-    }
-    UnfinishedFile(const UnfinishedFile &) = delete;
-    UnfinishedFile &operator=(const UnfinishedFile &) = delete;
-
-    void write(const QByteArray &content)
-    {
-        for (int written = 0; written < content.size();) {
-            const auto left = static_cast<std::size_t>(content.size() - written);
-            const ssize_t step = ::write(descriptor_, content.constData() + written, left);
-            if (step < 0 && errno != EINTR)
-                fail(errno);
-            written += step > 0 ? static_cast<int>(step) : 0;
-        }
-    }
-
-    void finish()
-    {
-        if (fchmod(descriptor_, modeFor(file_)) != 0 || close(std::exchange(descriptor_, -1)) != 0)
-            fail(errno);
-        if (const std::error_code error = passing_.keepAs(file_))
-            fail(error.value());
-    }
-
-private:
-    fs::path make()
-    {
-        std::string name = (file_.parent_path() / ".iosphoto-XXXXXX").string();
-        descriptor_ = mkstemp(name.data());
-        if (descriptor_ < 0)
-            fail(errno);
-        return name;
-    }
-
-    [[noreturn]] void fail(int error) const
-    {
-        throw cannotWrite(file_,
-                          said("{0}; choose another place for the output", systemError(error)));
-    }
-
-    fs::path file_;
-    int descriptor_ = -1;
-    TemporaryPath passing_; // behind the descriptor that it sets
-};
 
 /// The file itself where `file` is a link.
 fs::path targetOf(const fs::path &file)
@@ -122,17 +45,21 @@ void requireWritable(const fs::path &file)
     const UnfinishedFile attempt(targetOf(file));
 }
 
-void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
+fs::path outputPlace(const fs::path &file, const fs::path &source)
 {
     requirePlaceForFile(file);
     requireOther(file, FileSet(source));
-    FileUseObserver *const observer = FileUseObserver::current();
-    if (observer != nullptr)
+    if (FileUseObserver *const observer = FileUseObserver::current())
         observer->willWrite(file);
-    UnfinishedFile unfinished(targetOf(file));
+    return targetOf(file);
+}
+
+void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
+{
+    UnfinishedFile unfinished(outputPlace(file, source));
     unfinished.write(content);
     unfinished.finish();
-    if (observer != nullptr)
+    if (FileUseObserver *const observer = FileUseObserver::current())
         observer->wrote(file, content);
 }
 

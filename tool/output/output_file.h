@@ -16,6 +16,11 @@ namespace iosphoto::tool {
 void writeOutput(const std::filesystem::path &file, const QByteArray &content,
                  const std::filesystem::path &source);
 
+/// Where the output `file` goes: itself, or what it links to. Throws Failure when it is a folder,
+/// not a file, or `source`.
+std::filesystem::path outputPlace(const std::filesystem::path &file,
+                                  const std::filesystem::path &source);
+
 /// Throws Failure where writeOutput() would, as far as can be told before.
 void requireWritable(const std::filesystem::path &file);
 

@@ -1,0 +1,59 @@
+#include "rows/table_writer.h"
+
+#include "catalogue/moment.h"
+#include "language/said.h"
+#include "output/readable_size.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+/// A value as a person reads it.
+struct ShownValue
+{
+    Type type;
+
+    std::string operator()(std::monostate) const { return ""; }
+    std::string operator()(bool flag) const { return flag ? said("yes") : ""; }
+    std::string operator()(std::int64_t number) const
+    {
+        return type == Type::Bytes ? readableSize(number) : std::to_string(number);
+    }
+    std::string operator()(double number) const { return fmt::format("{}", number); }
+    std::string operator()(const std::string &text) const { return text; }
+    std::string operator()(UtcTime time) const { return localTimeText(time.unixTime); }
+    std::string operator()(const Items &items) const
+    {
+        std::string text;
+        for (const ListItem *item : items)
+            text += (text.empty() ? "" : ", ") + item->shown;
+        return text;
+    }
+};
+
+} // namespace
+
+void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &columns)
+{
+    columns_ = columns;
+    std::vector<TextTable::Column> shown;
+    for (const Column &column : columns)
+        shown.push_back({column.heading, column.align,
+                         column.type == Type::Path ? Kept::End : Kept::Beginning});
+    table_.emplace(std::move(shown));
+}
+
+void TableWriter::row(const std::vector<Value> &values)
+{
+    std::vector<std::string> cells;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        cells.push_back(std::visit(ShownValue{columns_[i].type}, values[i]));
+    table_->add(cells);
+}
+
+void TableWriter::end()
+{
+    table_->print(out_);
+}
+
+} // namespace iosphoto::tool
