@@ -23,7 +23,8 @@ int run(int argumentCount, char **arguments)
     app.set_version_flag("--version", "iosphoto " IOSPHOTO_VERSION);
     app.require_subcommand(1);
 
-    const Command commands[] = {addAlbums(app), addPhotos(app), addThumb(app)};
+    const Command commands[] = {addAlbums(app), addDiff(app), addPhotos(app), addStatements(app),
+                                addThumb(app)};
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {

@@ -46,13 +46,12 @@ const KindNames &namesOf(const CAlbumGroup &album)
     return unknown;
 }
 
-/// An album of the table, as opposed to the built-in ones.
+} // namespace
+
 bool isOfTheTable(const CAlbumGroup &album)
 {
     return !album.albumUuid.empty();
 }
-
-} // namespace
 
 bool collectsFromAlbums(const CAlbumGroup &album)
 {

@@ -18,6 +18,9 @@ std::string englishKind(const CAlbumGroup &album);
 /// kind.
 std::string englishName(const CAlbumGroup &album);
 
+/// Whether it is an album of the table, as opposed to the built-in ones.
+bool isOfTheTable(const CAlbumGroup &album);
+
 /// Whether the album collects photos of one kind from the albums that the device did not make.
 bool collectsFromAlbums(const CAlbumGroup &album);
 

@@ -27,6 +27,9 @@ public:
 
     const std::string &uuid() const { return first_->record->uuid; }
 
+    /// Such as "DCIM/100APPLE/IMG_0001.HEIC".
+    std::string path() const;
+
     /// The first record, with what others know besides: every flag that any of them has, and the
     /// duration, row key and burst, which not all albums read.
     CPhotoData facts() const;

@@ -85,7 +85,7 @@ std::string Library::assumptions() const
     return said("reading as {0} and {1}, as of {2}", ios, product, when);
 }
 
-void Library::sayHowItWasRead() const
+void Library::sayHowItWasRead(const std::string &label) const
 {
     std::string line;
     if (!(schema_.iosWhy.empty() && schema_.deviceWhy.empty() && asOf_.why.empty()))
@@ -95,11 +95,11 @@ void Library::sayHowItWasRead() const
             (line.empty() ? "" : "; ") +
             said("left out since they were in the trash for 30 days: {0} (see --as-of)", leftOut_);
     if (!line.empty())
-        notice(line);
+        notice(label + line);
     if (!schema_.warning.empty())
-        notice(schema_.warning);
+        notice(label + schema_.warning);
     for (const std::string &text : missing_)
-        notice(text);
+        notice(label + text);
 }
 
 } // namespace iosphoto::tool

@@ -47,12 +47,6 @@ std::string readableSize(std::int64_t bytes)
         .toStdString();
 }
 
-std::string path(const CPhotoData &photo)
-{
-    const QString separator = photo.directory.isEmpty() ? "" : "/";
-    return (photo.directory + separator + photo.fileName).toStdString();
-}
-
 Json photoAsJson(const Asset &asset)
 {
     const CPhotoData photo = asset.facts();
@@ -116,7 +110,7 @@ void printPhotos(const std::vector<Asset> &photos, std::ostream &out)
     for (const Asset &asset : photos) {
         const CPhotoData photo = asset.facts();
         table.add(
-            {photo.dateText.toStdString(), path(photo),
+            {photo.dateText.toStdString(), asset.path(),
              std::to_string(photo.width) + "x" + std::to_string(photo.height),
              readableSize(photo.fileSize), traitWords(photo),
              joined(asset.albums(), [](const CAlbumGroup *album) { return englishName(*album); })});
