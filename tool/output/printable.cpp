@@ -2,6 +2,7 @@
 
 #include <utf8proc.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace iosphoto::tool {
@@ -77,6 +78,21 @@ std::string printable(const std::string &text)
         line += isInvisible(codePoint) ? escaped(codePoint) : encoded(codePoint);
     });
     return line;
+}
+
+bool isUtf8(const std::string &text)
+{
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::all_of(text.begin(), text.end(), isAscii)) // most are, and this is quick
+        return true;
+    return asUtf8(text) == text;
+}
+
+std::string asUtf8(const std::string &text)
+{
+    std::string whole;
+    forEachCodePoint(text, [&](utf8proc_int32_t codePoint) { whole += encoded(codePoint); });
+    return whole;
 }
 
 std::size_t displayWidth(const std::string &text)

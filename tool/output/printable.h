@@ -9,6 +9,12 @@ namespace iosphoto::tool {
 /// writing direction become "\n", "\u202e" and the like, bytes that are not UTF-8 become U+FFFD.
 std::string printable(const std::string &text);
 
+/// Whether `text` is UTF-8.
+bool isUtf8(const std::string &text);
+
+/// `text` with U+FFFD for each byte that is not UTF-8.
+std::string asUtf8(const std::string &text);
+
 /// The columns that printable text takes on a terminal; wide characters take two.
 std::size_t displayWidth(const std::string &text);
 

@@ -1,0 +1,35 @@
+#include "commands/row_format_options.h"
+
+#include "commands/looks_like.h"
+#include "language/said.h"
+
+namespace iosphoto::tool {
+
+void addRowFormatOptions(CLI::App &command, RowFormat &format)
+{
+    CLI::Option *const json =
+        command.add_flag("--json", format.json, said("print one JSON document"));
+    CLI::Option *const jsonLines = command.add_flag(
+        "--jsonl", format.jsonLines, said("print JSON Lines: an object a line, with its source"));
+    CLI::Option *const csv = command.add_flag(
+        "--csv", format.csv,
+        said("print CSV; an apostrophe stands in front of a text that a spreadsheet would run as "
+             "a formula"));
+    CLI::Option *const sqlite =
+        command
+            .add_option("--sqlite", format.sqlite,
+                        said("write a SQLite database; one that this wrote before is replaced"))
+            ->check(notEmpty());
+    CLI::Option *const fields =
+        command
+            .add_option("--fields", format.fields,
+                        said("show these fields in this order, such as uuid,path; not with "
+                             "--sqlite, which has all"))
+            ->delimiter(',');
+    json->excludes(jsonLines, csv, sqlite);
+    jsonLines->excludes(csv, sqlite);
+    csv->excludes(sqlite);
+    sqlite->excludes(fields);
+}
+
+} // namespace iosphoto::tool

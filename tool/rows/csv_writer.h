@@ -1,0 +1,28 @@
+#ifndef IOSPHOTO_TOOL_CSV_WRITER_H
+#define IOSPHOTO_TOOL_CSV_WRITER_H
+
+#include "rows/row_writer.h"
+
+#include <ostream>
+
+namespace iosphoto::tool {
+
+/// Comma-separated values as RFC 4180 has them, with a line of the keys first. A text that a
+/// spreadsheet would run as a formula gets an apostrophe in front.
+class CsvWriter : public RowWriter
+{
+public:
+    explicit CsvWriter(std::ostream &out) : out_(out) {}
+
+    void begin(const RowsHead &head, const std::vector<Column> &columns) override;
+    void row(const std::vector<Value> &values) override;
+    void end() override;
+
+private:
+    std::ostream &out_;
+    std::string buffer_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_CSV_WRITER_H

@@ -1,0 +1,29 @@
+#include "rows/field_choice.h"
+
+#include "failure.h"
+#include "language/said.h"
+
+#include <algorithm>
+
+#include <fmt/ranges.h>
+
+namespace iosphoto::tool {
+
+std::vector<std::size_t> chooseKeys(const std::vector<std::string> &all,
+                                    const std::vector<std::string> &chosen,
+                                    const std::vector<std::string> &usual)
+{
+    std::vector<std::size_t> places;
+    for (const std::string &key : chosen.empty() ? usual : chosen) {
+        const auto found = std::find(all.begin(), all.end(), key);
+        if (found == all.end())
+            throw Failure(WrongUsage, said("--fields: there is no field '{0}'; there are {1}", key,
+                                           fmt::join(all, ", ")));
+        const auto place = static_cast<std::size_t>(found - all.begin());
+        if (std::find(places.begin(), places.end(), place) == places.end())
+            places.push_back(place);
+    }
+    return places;
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,77 @@
+#ifndef IOSPHOTO_TOOL_FIELDS_H
+#define IOSPHOTO_TOOL_FIELDS_H
+
+#include "rows/field_choice.h"
+#include "rows/row_format.h"
+
+namespace iosphoto::tool {
+
+/// Something that every row of a kind has: the only place that says so.
+template <typename Row>
+struct Field
+{
+    Column column;
+    Value (*value)(const Row &);
+    bool isFact = true; ///< not only another view of other fields, for tables
+};
+
+/// The fields of the rows of a kind, in the order of documents.
+template <typename Row>
+struct FieldTable
+{
+    std::vector<Field<Row>> fields;
+    std::vector<std::string> inTables; ///< the keys that tables show unless others are chosen
+};
+
+/// The fields that a format shows: those of `chosen` keys in their order, or where there are none
+/// its usual ones. Throws Failure when a key is unknown.
+template <typename Row>
+std::vector<Field<Row>> fieldsToShow(const FieldTable<Row> &table, const RowFormat &format)
+{
+    std::vector<std::string> all;
+    std::vector<std::string> facts;
+    for (const Field<Row> &field : table.fields) {
+        all.push_back(field.column.key);
+        if (field.isFact)
+            facts.push_back(field.column.key);
+    }
+    std::vector<Field<Row>> shown;
+    for (const std::size_t index :
+         chooseKeys(all, format.fields, format.isTable() ? table.inTables : facts))
+        shown.push_back(table.fields.at(index));
+    return shown;
+}
+
+/// Turns rows of one kind into the values that a writer takes.
+template <typename Row>
+class RowStream
+{
+public:
+    RowStream(RowWriter &writer, const RowsHead &head, std::vector<Field<Row>> fields)
+        : writer_(writer), fields_(std::move(fields))
+    {
+        std::vector<Column> columns;
+        for (const Field<Row> &field : fields_)
+            columns.push_back(field.column);
+        writer_.begin(head, columns);
+    }
+
+    void write(const Row &row)
+    {
+        values_.clear();
+        for (const Field<Row> &field : fields_)
+            values_.push_back(field.value(row));
+        writer_.row(values_);
+    }
+
+    void end() { writer_.end(); }
+
+private:
+    RowWriter &writer_;
+    std::vector<Field<Row>> fields_;
+    std::vector<Value> values_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_FIELDS_H

@@ -1,0 +1,64 @@
+#include "rows/table_writer.h"
+
+#include "catalogue/moment.h"
+#include "language/said.h"
+#include "output/counted.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+/// A value as a person reads it.
+struct ShownValue
+{
+    Type type;
+
+    std::string operator()(std::monostate) const { return ""; }
+    std::string operator()(bool flag) const { return flag ? said("yes") : ""; }
+    std::string operator()(std::int64_t number) const
+    {
+        return type == Type::Bytes ? readableSize(number) : std::to_string(number);
+    }
+    std::string operator()(double number) const { return fmt::format("{}", number); }
+    std::string operator()(const std::string &text) const { return text; }
+    std::string operator()(UtcTime time) const { return localTimeText(time.unixTime); }
+    std::string operator()(const Items &items) const
+    {
+        std::string text;
+        for (const ListItem *item : items)
+            text += (text.empty() ? "" : ", ") + item->shown;
+        return text;
+    }
+};
+
+TextTable::Align alignment(Type type)
+{
+    const bool isNumber = type == Type::Number || type == Type::Real || type == Type::Bytes;
+    return isNumber ? TextTable::Align::Right : TextTable::Align::Left;
+}
+
+} // namespace
+
+void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &columns)
+{
+    columns_ = columns;
+    std::vector<TextTable::Column> shown;
+    for (const Column &column : columns)
+        shown.push_back({column.heading, alignment(column.type)});
+    table_.emplace(std::move(shown));
+}
+
+void TableWriter::row(const std::vector<Value> &values)
+{
+    std::vector<std::string> cells;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        cells.push_back(std::visit(ShownValue{columns_[i].type}, values[i]));
+    table_->add(cells);
+}
+
+void TableWriter::end()
+{
+    table_->print(out_);
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,30 @@
+#ifndef IOSPHOTO_TOOL_TABLE_WRITER_H
+#define IOSPHOTO_TOOL_TABLE_WRITER_H
+
+#include "output/text_table.h"
+#include "rows/row_writer.h"
+
+#include <optional>
+#include <ostream>
+
+namespace iosphoto::tool {
+
+/// An aligned table for people.
+class TableWriter : public RowWriter
+{
+public:
+    explicit TableWriter(std::ostream &out) : out_(out) {}
+
+    void begin(const RowsHead &head, const std::vector<Column> &columns) override;
+    void row(const std::vector<Value> &values) override;
+    void end() override;
+
+private:
+    std::ostream &out_;
+    std::vector<Column> columns_;
+    std::optional<TextTable> table_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_TABLE_WRITER_H
