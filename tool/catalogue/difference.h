@@ -47,8 +47,8 @@ struct PhotoComparison
 };
 
 /// Matches photos by their uuids, those without one by folder and file name. The trash takes a
-/// photo out of its albums and gives it back to them; that is not reported as a move. The result
-/// refers to the catalogues of both lists.
+/// photo out of its albums and gives it back to them; that is not reported as a move.
+/// @param before, after  have to outlive the result
 PhotoComparison comparePhotos(const AssetList &before, const AssetList &after);
 
 } // namespace iosphoto::tool

@@ -1,4 +1,5 @@
 #include "commands/command.h"
+#include "commands/difference_csv.h"
 #include "commands/difference_document.h"
 #include "commands/difference_table.h"
 #include "commands/library_options.h"
@@ -16,6 +17,8 @@ struct DiffRequest
     std::string after;
     Device device; ///< of both
     bool asJson = false;
+    bool asJsonLines = false;
+    bool asCsv = false;
 };
 
 void printAsJson(const Library &before, const Library &after, const LibraryDifference &difference,
@@ -26,6 +29,40 @@ void printAsJson(const Library &before, const Library &after, const LibraryDiffe
     for (const PhotoDifference &photo : difference.photos.differences)
         photos.push_back(asJson(photo));
     print(document, out);
+}
+
+void printAsJsonLines(const Library &before, const Library &after,
+                      const LibraryDifference &difference, std::ostream &out)
+{
+    for (const PhotoDifference &photo : difference.photos.differences) {
+        Json line = {{"a", before.name()}, {"b", after.name()}};
+        line.update(asJson(photo));
+        out << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+    }
+}
+
+void printDifference(const DiffRequest &request, const Library &before, const Library &after,
+                     const LibraryDifference &difference, std::ostream &out)
+{
+    if (request.asJson)
+        printAsJson(before, after, difference, out);
+    else if (request.asJsonLines)
+        printAsJsonLines(before, after, difference, out);
+    else if (request.asCsv)
+        printDifferenceAsCsv(difference.photos.differences, out);
+    else
+        printDifferenceTable(difference, out);
+}
+
+/// Says when the libraries do not look like those of one phone.
+void checkThatTheyAreRelated(const Library &before, const Library &after,
+                             const LibraryDifference &difference)
+{
+    const int onlyThere = difference.count(Change::Gone);
+    const int onlyHere = difference.count(Change::New);
+    if (difference.photos.inBoth == 0 && onlyThere > 0 && onlyHere > 0)
+        notice(said("'{0}' and '{1}' have no photo in common; are they of one phone?",
+                    before.name(), after.name()));
 }
 
 ExitStatus statusOf(const Library &before, const Library &after,
@@ -48,13 +85,8 @@ ExitStatus showDifference(const DiffRequest &request, std::ostream &out)
                                           comparePhotos(first, second)};
     before.sayHowItWasRead("A: ");
     after.sayHowItWasRead("B: ");
-    if (difference.photos.inBoth == 0 && first.size() > 0 && second.size() > 0)
-        notice(said("'{0}' and '{1}' have no photo in common; are they of one phone?",
-                    before.name(), after.name()));
-    if (request.asJson)
-        printAsJson(before, after, difference, out);
-    else
-        printDifferenceTable(difference, out);
+    checkThatTheyAreRelated(before, after, difference);
+    printDifference(request, before, after, difference, out);
     return statusOf(before, after, difference);
 }
 
@@ -72,7 +104,14 @@ Command addDiff(CLI::App &app)
         ->required()
         ->check(notEmpty());
     addDeviceOptions(*command, request->device);
-    command->add_flag("--json", request->asJson, said("print a JSON document"));
+    CLI::Option *const json =
+        command->add_flag("--json", request->asJson, said("print a JSON document"));
+    CLI::Option *const jsonLines = command->add_flag(
+        "--jsonl", request->asJsonLines, said("print a JSON object a line, for the photos only"));
+    CLI::Option *const csv =
+        command->add_flag("--csv", request->asCsv, said("print CSV, for the photos only"));
+    json->excludes(jsonLines, csv);
+    jsonLines->excludes(csv);
     command->footer(
         said("Each library is read as of its own time. The exit status is 0 when there is no "
              "difference, 1 when there is one, and 3 when a library could not be read "

@@ -17,23 +17,9 @@ Json references(const std::vector<const CAlbumGroup *> &albums)
     return list;
 }
 
-/// The facts that are compared.
 Json factsOrNull(const std::optional<Asset> &asset)
 {
-    if (!asset)
-        return {};
-    const CPhotoData photo = asset->facts();
-    return {{"directory", photo.directory.toStdString()},
-            {"fileName", photo.fileName.toStdString()},
-            {"created", utcTime(photo.createdTime)},
-            {"modified", utcTime(photo.modifiedTime)},
-            {"fileSize", photo.fileSize},
-            {"width", photo.width},
-            {"height", photo.height},
-            {"isEdited", photo.isEdited},
-            {"isFavorite", photo.isFavorite},
-            {"isHidden", photo.isHidden},
-            {"isDeleted", photo.isDeleted}};
+    return asset ? comparedFacts(asset->facts()) : Json();
 }
 
 Json asJson(const AlbumDifference &album)
@@ -53,6 +39,21 @@ Json counts(const LibraryDifference &difference, const Changes &changes)
 }
 
 } // namespace
+
+Json comparedFacts(const CPhotoData &photo)
+{
+    return {{"directory", photo.directory.toStdString()},
+            {"fileName", photo.fileName.toStdString()},
+            {"created", utcTime(photo.createdTime)},
+            {"modified", utcTime(photo.modifiedTime)},
+            {"fileSize", photo.fileSize},
+            {"width", photo.width},
+            {"height", photo.height},
+            {"isEdited", photo.isEdited},
+            {"isFavorite", photo.isFavorite},
+            {"isHidden", photo.isHidden},
+            {"isDeleted", photo.isDeleted}};
+}
 
 Json differenceHead(const Library &before, const Library &after,
                     const LibraryDifference &difference)

@@ -11,6 +11,9 @@ namespace iosphoto::tool {
 Json differenceHead(const Library &before, const Library &after,
                     const LibraryDifference &difference);
 
+/// The facts of a photo that are compared, and its folder.
+Json comparedFacts(const CPhotoData &photo);
+
 /// A photo that differs.
 Json asJson(const PhotoDifference &photo);
 
