@@ -1,5 +1,7 @@
 #include "catalogue/album_kinds.h"
 
+#include "language/said.h"
+
 namespace iosphoto::tool {
 
 namespace {
@@ -76,6 +78,16 @@ std::string englishKind(const CAlbumGroup &album)
 std::string englishName(const CAlbumGroup &album)
 {
     return album.albumKind == Kind::User ? album.albumName.toStdString() : englishKind(album);
+}
+
+std::string shownKind(const CAlbumGroup &album)
+{
+    return translated(englishKind(album));
+}
+
+std::string shownName(const CAlbumGroup &album)
+{
+    return album.albumKind == Kind::User ? album.albumName.toStdString() : shownKind(album);
 }
 
 } // namespace iosphoto::tool

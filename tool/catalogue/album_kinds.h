@@ -18,7 +18,13 @@ std::string englishKind(const CAlbumGroup &album);
 /// kind.
 std::string englishName(const CAlbumGroup &album);
 
-/// Whether it is an album of the table, as opposed to the built-in ones.
+/// The kind in the user's language.
+std::string shownKind(const CAlbumGroup &album);
+
+/// What the album is called in tables: like englishName(), in the user's language.
+std::string shownName(const CAlbumGroup &album);
+
+/// An album of the table, as opposed to the built-in ones.
 bool isOfTheTable(const CAlbumGroup &album);
 
 /// Whether the album collects photos of one kind from the albums that the device did not make.

@@ -2,6 +2,7 @@
 
 #include "catalogue/album_kinds.h"
 #include "failure.h"
+#include "language/said.h"
 #include "output/notice.h"
 
 #include <algorithm>
@@ -13,8 +14,10 @@ namespace {
 
 bool fits(const CAlbumGroup &album, const QString &wanted)
 {
-    const QString names[] = {album.albumName, QString::fromStdString(kindName(album)),
+    const QString names[] = {album.albumName,
+                             QString::fromStdString(kindName(album)),
                              QString::fromStdString(englishKind(album)),
+                             QString::fromStdString(shownKind(album)),
                              QString::number(album.albumKind),
                              QString::fromStdString(album.albumUuid)};
     return std::any_of(std::begin(names), std::end(names), [&](const QString &name) {
@@ -31,15 +34,14 @@ std::vector<const CAlbumGroup *> selectAlbums(const Library &library, const std:
     for (const CAlbumGroup &album : library.albums()) {
         if (!fits(album, QString::fromStdString(wanted)))
             continue;
-        listed += (selected.empty() ? "" : ", ") + englishName(album);
+        listed += (selected.empty() ? "" : ", ") + shownName(album);
         selected.push_back(&album);
     }
     if (selected.empty())
-        throw Failure(WrongUsage, "no album fits '" + wanted + "'; 'iosphoto albums " +
-                                      library.name() + "' lists them");
+        throw Failure(WrongUsage, said("no album fits '{0}'; 'iosphoto albums {1}' lists them",
+                                       wanted, library.name()));
     if (selected.size() > 1)
-        notice("'" + wanted + "' fits " + std::to_string(selected.size()) +
-               " albums, all are shown: " + listed);
+        notice(said("'{0}' fits {1} albums, all are shown: {2}", wanted, selected.size(), listed));
     return selected;
 }
 

@@ -29,8 +29,8 @@ std::vector<Appearance> allAppearances(const std::vector<CAlbumGroup> &catalogue
 {
     std::vector<Appearance> all;
     for (const CAlbumGroup &album : catalogue)
-        for (const CPhotoData *record : album.photos)
-            all.push_back({record, &album});
+        for (std::size_t i = 0; i < album.photos.size(); ++i)
+            all.push_back({album.photos[i], &album, i});
     return all;
 }
 
@@ -64,6 +64,12 @@ std::string Asset::path() const
     const CPhotoData &photo = *first_->record;
     const QString separator = photo.directory.isEmpty() ? "" : "/";
     return (photo.directory + separator + photo.fileName).toStdString();
+}
+
+bool Asset::has(bool CPhotoData::*flag) const
+{
+    return std::any_of(begin(), end(),
+                       [&](const Appearance &appearance) { return appearance.record->*flag; });
 }
 
 CPhotoData Asset::facts() const

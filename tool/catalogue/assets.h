@@ -13,6 +13,7 @@ struct Appearance
 {
     const CPhotoData *record;
     const CAlbumGroup *album;
+    std::size_t position; ///< in the album, from 0
 };
 
 /// One photo or video of a catalogue: all its records, in the order of their albums. There is at
@@ -29,6 +30,9 @@ public:
 
     /// Such as "DCIM/100APPLE/IMG_0001.HEIC".
     std::string path() const;
+
+    /// Whether any of its records has a flag; as facts() says, but quicker.
+    bool has(bool CPhotoData::*flag) const;
 
     /// The first record, with what others know besides: every flag that any of them has, and the
     /// duration, row key and burst, which not all albums read.

@@ -3,8 +3,13 @@
 #include "failure.h"
 #include "language/said.h"
 #include "model/clock.h"
+#include "model/core_data_time.h"
 
 #include <QDateTime>
+
+#include <fmt/compile.h>
+
+#include <ctime>
 
 namespace iosphoto::tool {
 
@@ -46,12 +51,30 @@ std::string localTimeText(std::int64_t unixTime)
     return QDateTime::fromSecsSinceEpoch(unixTime).toString(timeFormat).toStdString();
 }
 
+std::string localDayText(std::int64_t unixTime)
+{
+    return QDateTime::fromSecsSinceEpoch(unixTime).date().toString(Qt::ISODate).toStdString();
+}
+
+std::optional<std::int64_t> unixTimeOf(double coreDataSeconds)
+{
+    constexpr double years = 366.0 * 24 * 60 * 60;
+    if (!(coreDataSeconds > -9999 * years && coreDataSeconds < 9999 * years))
+        return std::nullopt;
+    return wholeSeconds(coreDataSeconds) + coreDataEpoch;
+}
+
 std::string utcTimeText(std::int64_t unixTime)
 {
-    const QDateTime time = QDateTime::fromSecsSinceEpoch(unixTime, Qt::UTC);
-    const int year = time.date().year();
-    constexpr int lastYear = 9999;
-    return year >= 1 && year <= lastYear ? time.toString(Qt::ISODate).toStdString() : "";
+    constexpr std::int64_t firstSecond = -62135596800; // 0001-01-01 00:00:00
+    constexpr std::int64_t lastSecond = 253402300799;  // 9999-12-31 23:59:59
+    if (unixTime < firstSecond || unixTime > lastSecond)
+        return "";
+    const std::time_t time = unixTime;
+    std::tm utc = {};
+    gmtime_r(&time, &utc); // a QDateTime takes too long for millions
+    return fmt::format(FMT_COMPILE("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z"), utc.tm_year + 1900,
+                       utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec);
 }
 
 } // namespace iosphoto::tool

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_MOMENT_H
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace iosphoto::tool {
@@ -27,6 +28,12 @@ struct Moment
 
 /// "2024-05-01 14:30 CEST": local, for people.
 std::string localTimeText(std::int64_t unixTime);
+
+/// "2024-05-01": the same moment's local day.
+std::string localDayText(std::int64_t unixTime);
+
+/// A time of the database, in seconds since 2001; nothing beyond the year 9999.
+std::optional<std::int64_t> unixTimeOf(double coreDataSeconds);
 
 /// "2024-05-01T12:30:00Z", for documents; empty beyond the years 1 to 9999.
 std::string utcTimeText(std::int64_t unixTime);

@@ -1,10 +1,10 @@
-#include "catalogue/album_kinds.h"
-#include "catalogue/library.h"
 #include "commands/command.h"
 #include "commands/library_options.h"
+#include "commands/row_format_options.h"
 #include "language/said.h"
-#include "output/json_document.h"
-#include "output/text_table.h"
+#include "output/printable.h"
+#include "rows/album_fields.h"
+#include "rows/library_database.h"
 
 namespace iosphoto::tool {
 
@@ -13,40 +13,28 @@ namespace {
 struct AlbumsRequest
 {
     LibraryRequest library;
-    bool asJson = false;
+    RowFormat format;
 };
 
-void printAlbums(const Library &library, std::ostream &out)
+void printAlbums(RowStream<AlbumRow> stream, const Library &library)
 {
-    using Align = TextTable::Align;
-    TextTable table({{"#", Align::Right}, {"KIND"}, {"NAME"}, {"COUNT", Align::Right}, {"UUID"}});
     for (const CAlbumGroup &album : library.albums())
-        table.add({std::to_string(album.albumIndex), englishKind(album),
-                   album.albumName.toStdString(), std::to_string(album.albumCount),
-                   album.albumUuid});
-    table.print(out);
-}
-
-void printAlbumsAsJson(const Library &library, std::ostream &out)
-{
-    Json document = libraryHead(library);
-    Json &albums = document["albums"] = Json::array();
-    for (const CAlbumGroup &album : library.albums()) {
-        Json entry = albumReference(album);
-        entry["count"] = album.albumCount;
-        entry["photoCount"] = album.photos.size();
-        entry["isSmart"] = album.isSmartAlbum;
-        entry["collectsFromAlbums"] = collectsFromAlbums(album);
-        albums.push_back(std::move(entry));
-    }
-    print(document, out);
+        stream.write(AlbumRow(album));
+    stream.end();
 }
 
 ExitStatus showAlbums(const AlbumsRequest &request, std::ostream &out)
 {
+    const auto fields = fieldsToShow(albumFields(), request.format);
     const Library library(request.library);
     library.sayHowItWasRead();
-    (request.asJson ? printAlbumsAsJson : printAlbums)(library, out);
+    if (request.format.sqlite) {
+        writeAlbumDatabase(*request.format.sqlite, library);
+        out << said("wrote {0}", printable(*request.format.sqlite)) << '\n';
+    } else {
+        const auto writer = makeRowWriter(request.format, out);
+        printAlbums({*writer, {"albums", libraryHead(library)}, fields}, library);
+    }
     return library.status();
 }
 
@@ -57,8 +45,11 @@ Command addAlbums(CLI::App &app)
     const auto request = std::make_shared<AlbumsRequest>();
     CLI::App *command = app.add_subcommand("albums", said("List the albums of a library"));
     addLibraryOptions(*command, request->library);
-    command->add_flag("--json", request->asJson, said("print a JSON document"));
-    command->footer(said("Example:") + "\n  iosphoto albums Photos.sqlite");
+    addRowFormatOptions(*command, request->format);
+    command->footer(said("Examples:") +
+                    "\n  iosphoto albums Photos.sqlite\n"
+                    "  iosphoto albums Photos.sqlite --csv\n"
+                    "  iosphoto albums Photos.sqlite --fields name,count,bytes");
     return {command, [request](std::ostream &out) { return showAlbums(*request, out); }};
 }
 

@@ -37,7 +37,7 @@ void printAsJsonLines(const Library &before, const Library &after,
     for (const PhotoDifference &photo : difference.photos.differences) {
         Json line = {{"a", before.name()}, {"b", after.name()}};
         line.update(asJson(photo));
-        out << line.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+        out << oneLine(line) << '\n';
     }
 }
 

@@ -1,5 +1,6 @@
 #include "commands/difference_csv.h"
 
+#include "catalogue/album_kinds.h"
 #include "commands/difference_document.h"
 #include "rows/csv_writer.h"
 
@@ -7,18 +8,20 @@ namespace iosphoto::tool {
 
 namespace {
 
-/// An item of a list: the name of an album, or a text.
-std::string plainText(const Json &item)
-{
-    return (item.is_object() ? item.at("name") : item).get<std::string>();
-}
-
-std::string joined(const Json &list)
+std::string joined(const std::vector<std::string> &items)
 {
     std::string text;
-    for (const Json &item : list)
-        text += (text.empty() ? "" : "; ") + plainText(item);
+    for (const std::string &item : items)
+        text += (text.empty() ? "" : "; ") + item;
     return text;
+}
+
+std::string names(const std::vector<const CAlbumGroup *> &albums)
+{
+    std::vector<std::string> names;
+    for (const CAlbumGroup *album : albums)
+        names.push_back(englishName(*album));
+    return joined(names);
 }
 
 Value asValue(const Json &member)
@@ -28,7 +31,7 @@ Value asValue(const Json &member)
     if (member.is_number())
         return member.get<std::int64_t>();
     if (member.is_array())
-        return joined(member);
+        return joined(member.get<std::vector<std::string>>());
     return member.is_string() ? Value(member.get<std::string>()) : Value();
 }
 
@@ -39,12 +42,13 @@ void forEachCell(const PhotoDifference &photo, Take take)
     static const Json noFacts = comparedFacts({});
     const Json members = asJson(photo);
     for (const auto &[key, member] : members.items()) {
-        if (key != "before" && key != "after") {
+        if (key == "before" || key == "after")
+            for (const auto &[fact, unknown] : noFacts.items())
+                take(key + "." + fact, member.is_null() ? Value() : asValue(member.at(fact)));
+        else if (key == "addedTo" || key == "removedFrom")
+            take(key, names(key == "addedTo" ? photo.addedTo : photo.removedFrom));
+        else
             take(key, asValue(member));
-            continue;
-        }
-        for (const auto &[fact, unknown] : noFacts.items())
-            take(key + "." + fact, member.is_null() ? Value() : asValue(member.at(fact)));
     }
 }
 
@@ -53,12 +57,12 @@ std::vector<Column> columns()
 {
     static const CAlbumGroup album;
     static const CPhotoData record;
-    static const Appearance appearance = {&record, &album};
+    static const Appearance appearance = {&record, &album, 0};
     PhotoDifference photo;
     photo.after = Asset(&appearance, &appearance + 1);
     std::vector<Column> columns;
     forEachCell(photo, [&](const std::string &key, const Value &) {
-        columns.push_back({key, key, Type::Text});
+        columns.emplace_back(key, Type::Text);
     });
     return columns;
 }

@@ -89,9 +89,9 @@ Words details(const PhotoDifference &photo)
         if (change == Change::Edited)
             addEdit(words, before, after);
     for (const CAlbumGroup *album : photo.addedTo)
-        words.push_back(said("added to {0}", englishName(*album)));
+        words.push_back(said("added to {0}", shownName(*album)));
     for (const CAlbumGroup *album : photo.removedFrom)
-        words.push_back(said("removed from {0}", englishName(*album)));
+        words.push_back(said("removed from {0}", shownName(*album)));
     for (const ChangedField field : photo.changedFields)
         words.push_back(fieldWords(field, before, after));
     return words;
@@ -101,8 +101,8 @@ void addRow(TextTable &table, const AlbumDifference &album)
 {
     const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
     const bool isRenamed = album.change == AlbumChange::Renamed;
-    table.add({said("album {0}", albumChangeWord(album.change)), englishName(latest),
-               isRenamed ? said("was named {0}", englishName(*album.before)) : ""});
+    table.add({said("album {0}", albumChangeWord(album.change)), shownName(latest),
+               isRenamed ? said("was named {0}", shownName(*album.before)) : ""});
 }
 
 void addRow(TextTable &table, const PhotoDifference &photo)

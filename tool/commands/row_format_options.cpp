@@ -25,7 +25,8 @@ void addRowFormatOptions(CLI::App &command, RowFormat &format)
             .add_option("--fields", format.fields,
                         said("show these fields in this order, such as uuid,path; not with "
                              "--sqlite, which has all"))
-            ->delimiter(',');
+            ->delimiter(',')
+            ->allow_extra_args(false);
     json->excludes(jsonLines, csv, sqlite);
     jsonLines->excludes(csv, sqlite);
     csv->excludes(sqlite);

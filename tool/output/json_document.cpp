@@ -1,7 +1,6 @@
 #include "output/json_document.h"
 
 #include "catalogue/album_kinds.h"
-#include "model/core_data_time.h"
 
 namespace iosphoto::tool {
 
@@ -36,10 +35,13 @@ Json textOrNull(const std::string &text)
 
 Json utcTime(double coreDataSeconds)
 {
-    constexpr double years = 366.0 * 24 * 60 * 60;
-    if (!(coreDataSeconds > -9999 * years && coreDataSeconds < 9999 * years))
-        return {};
-    return textOrNull(utcTimeText(wholeSeconds(coreDataSeconds) + coreDataEpoch));
+    const auto unixTime = unixTimeOf(coreDataSeconds);
+    return unixTime ? textOrNull(utcTimeText(*unixTime)) : Json();
+}
+
+std::string oneLine(const Json &document)
+{
+    return document.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
 void print(const Json &document, std::ostream &out)

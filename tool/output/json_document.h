@@ -25,6 +25,9 @@ Json textOrNull(const std::string &text);
 /// A time of the database as "2020-01-06T10:40:00Z"; null beyond the year 9999.
 Json utcTime(double coreDataSeconds);
 
+/// A document without a line break, UTF-8.
+std::string oneLine(const Json &document);
+
 /// Prints a document, indented. Bytes that are not UTF-8 become U+FFFD.
 void print(const Json &document, std::ostream &out);
 

@@ -14,6 +14,11 @@ namespace iosphoto::tool {
 void writeOutput(const std::filesystem::path &file, const QByteArray &content,
                  const std::filesystem::path &source);
 
+/// Where the output `file` goes: itself, or what it links to. Throws Failure when it is a folder,
+/// not a file, or `source`.
+std::filesystem::path outputPlace(const std::filesystem::path &file,
+                                  const std::filesystem::path &source);
+
 /// Makes a folder for output, with those above it. Throws Failure when that cannot be done.
 void makeOutputFolder(const std::filesystem::path &folder);
 

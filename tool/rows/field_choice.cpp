@@ -9,12 +9,11 @@
 
 namespace iosphoto::tool {
 
-std::vector<std::size_t> chooseKeys(const std::vector<std::string> &all,
-                                    const std::vector<std::string> &chosen,
-                                    const std::vector<std::string> &usual)
+std::vector<std::size_t> placesOfKeys(const std::vector<std::string> &all,
+                                      const std::vector<std::string> &chosen)
 {
     std::vector<std::size_t> places;
-    for (const std::string &key : chosen.empty() ? usual : chosen) {
+    for (const std::string &key : chosen) {
         const auto found = std::find(all.begin(), all.end(), key);
         if (found == all.end())
             throw Failure(WrongUsage, said("--fields: there is no field '{0}'; there are {1}", key,

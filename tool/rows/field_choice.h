@@ -7,11 +7,10 @@
 
 namespace iosphoto::tool {
 
-/// Where in `all` the `chosen` keys are, each once; or the `usual` ones when none is chosen. Throws
-/// Failure when a key is unknown, naming those that are known.
-std::vector<std::size_t> chooseKeys(const std::vector<std::string> &all,
-                                    const std::vector<std::string> &chosen,
-                                    const std::vector<std::string> &usual);
+/// Where in `all` the `chosen` keys are, each once. Throws Failure when one is unknown, naming
+/// those that are known.
+std::vector<std::size_t> placesOfKeys(const std::vector<std::string> &all,
+                                      const std::vector<std::string> &chosen);
 
 } // namespace iosphoto::tool
 

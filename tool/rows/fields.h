@@ -23,23 +23,39 @@ struct FieldTable
     std::vector<std::string> inTables; ///< the keys that tables show unless others are chosen
 };
 
-/// The fields that a format shows: those of `chosen` keys in their order, or where there are none
-/// its usual ones. Throws Failure when a key is unknown.
+/// The fields that are no mere views of others.
+template <typename Row>
+std::vector<Field<Row>> factsOf(const FieldTable<Row> &table)
+{
+    std::vector<Field<Row>> facts;
+    for (const Field<Row> &field : table.fields)
+        if (field.isFact)
+            facts.push_back(field);
+    return facts;
+}
+
+/// The fields of these keys in their order. Throws Failure when one is unknown.
+template <typename Row>
+std::vector<Field<Row>> fieldsOfKeys(const FieldTable<Row> &table,
+                                     const std::vector<std::string> &keys)
+{
+    std::vector<std::string> all;
+    for (const Field<Row> &field : table.fields)
+        all.push_back(field.column.key);
+    std::vector<Field<Row>> chosen;
+    for (const std::size_t place : placesOfKeys(all, keys))
+        chosen.push_back(table.fields.at(place));
+    return chosen;
+}
+
+/// The fields that are to be shown: the chosen ones, or the usual ones of the format. Throws
+/// Failure when one is unknown.
 template <typename Row>
 std::vector<Field<Row>> fieldsToShow(const FieldTable<Row> &table, const RowFormat &format)
 {
-    std::vector<std::string> all;
-    std::vector<std::string> facts;
-    for (const Field<Row> &field : table.fields) {
-        all.push_back(field.column.key);
-        if (field.isFact)
-            facts.push_back(field.column.key);
-    }
-    std::vector<Field<Row>> shown;
-    for (const std::size_t index :
-         chooseKeys(all, format.fields, format.isTable() ? table.inTables : facts))
-        shown.push_back(table.fields.at(index));
-    return shown;
+    if (!format.fields.empty())
+        return fieldsOfKeys(table, format.fields);
+    return format.isTable() ? fieldsOfKeys(table, table.inTables) : factsOf(table);
 }
 
 /// Turns rows of one kind into the values that a writer takes.

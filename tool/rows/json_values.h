@@ -21,11 +21,7 @@ public:
 
     void key(const std::string &key) { writer_.Key(key.data(), length(key)); }
     void write(const Value &value) { std::visit(*this, value); }
-    void write(const Json &document)
-    {
-        const std::string text = document.dump(-1, ' ', false, Json::error_handler_t::replace);
-        raw(text);
-    }
+    void write(const Json &document) { raw(oneLine(document)); }
 
     void operator()(std::monostate) { writer_.Null(); }
     void operator()(bool flag) { writer_.Bool(flag); }

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_ROW_WRITER_H
 
 #include "output/json_document.h"
+#include "output/text_table.h"
 #include "rows/value.h"
 
 #include <string>
@@ -12,11 +13,31 @@ namespace iosphoto::tool {
 /// What the values of a column are. Each may be null besides.
 enum class Type { Flag, Number, Real, Bytes, Text, Time, List };
 
+using Align = TextTable::Align;
+
+/// Where numbers, and only they, usually stand in tables.
+constexpr Align alignmentOf(Type type)
+{
+    const bool isNumber = type == Type::Number || type == Type::Real || type == Type::Bytes;
+    return isNumber ? Align::Right : Align::Left;
+}
+
 struct Column
 {
-    std::string key;     ///< for machines
-    std::string heading; ///< for people, in their language
-    Type type = Type::Text;
+    Column(std::string itsKey, Type itsType, std::string itsHeading = "")
+        : Column(std::move(itsKey), itsType, std::move(itsHeading), alignmentOf(itsType))
+    {
+    }
+    Column(std::string itsKey, Type itsType, std::string itsHeading, Align itsAlign)
+        : key(std::move(itsKey)), type(itsType),
+          heading(itsHeading.empty() ? key : std::move(itsHeading)), align(itsAlign)
+    {
+    }
+
+    std::string key; ///< for machines
+    Type type;
+    std::string heading; ///< in tables; the key unless a word of the user's language stands there
+    Align align;
 };
 
 /// What is said once for all rows.

@@ -31,12 +31,6 @@ struct ShownValue
     }
 };
 
-TextTable::Align alignment(Type type)
-{
-    const bool isNumber = type == Type::Number || type == Type::Real || type == Type::Bytes;
-    return isNumber ? TextTable::Align::Right : TextTable::Align::Left;
-}
-
 } // namespace
 
 void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &columns)
@@ -44,7 +38,7 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
     columns_ = columns;
     std::vector<TextTable::Column> shown;
     for (const Column &column : columns)
-        shown.push_back({column.heading, alignment(column.type)});
+        shown.push_back({column.heading, column.align});
     table_.emplace(std::move(shown));
 }
 

@@ -1,0 +1,84 @@
+#include "rows/library_database.h"
+
+#include "output/interruption.h"
+#include "rows/album_fields.h"
+#include "rows/sqlite_rows.h"
+
+#include <algorithm>
+
+namespace iosphoto::tool {
+
+namespace {
+
+void writeAlbums(SqliteOutput &output, const Library &library)
+{
+    SqliteRows writer(output, "index");
+    RowStream<AlbumRow> stream(writer, {"albums", {}}, factsOf(albumFields()));
+    for (const CAlbumGroup &album : library.albums())
+        stream.write(AlbumRow(album));
+    stream.end();
+}
+
+/// A list is a table of its own.
+std::vector<Field<PhotoRow>> photoColumns()
+{
+    std::vector<Field<PhotoRow>> fields = factsOf(photoFields());
+    fields.erase(std::remove_if(
+                     fields.begin(), fields.end(),
+                     [](const Field<PhotoRow> &field) { return field.column.type == Type::List; }),
+                 fields.end());
+    return fields;
+}
+
+void writePhotos(SqliteOutput &output, const std::vector<Asset> &photos, const PhotoRows &rows)
+{
+    SqliteRows writer(output);
+    RowStream<PhotoRow> stream(writer, {"photos", {}}, photoColumns());
+    for (const Asset &photo : photos)
+        stream.write(rows.of(photo));
+    stream.end();
+    output.execute("create index photos_uuid on photos (uuid);"
+                   "create index photos_created on photos (created)");
+}
+
+void writeAppearances(SqliteOutput &output, const std::vector<Asset> &photos)
+{
+    output.execute("create table album_photos ("
+                   "album integer references albums (\"index\"), position integer, "
+                   "photo integer references photos (id), "
+                   "primary key (album, position)) without rowid");
+    constexpr std::size_t columns = 3;
+    SqliteInsert insert(output, "album_photos", columns);
+    std::int64_t id = 0;
+    for (const Asset &photo : photos) {
+        ++id;
+        Interruption::throwIfAskedFor();
+        for (const Appearance &appearance : photo)
+            insert.row({std::int64_t(appearance.album->albumIndex),
+                        static_cast<std::int64_t>(appearance.position), id});
+    }
+    output.execute("create index album_photos_photo on album_photos (photo)");
+}
+
+} // namespace
+
+void writeAlbumDatabase(const std::string &file, const Library &library)
+{
+    const Interruption interruption;
+    SqliteOutput output(file, library.name(), libraryHead(library));
+    writeAlbums(output, library);
+    output.finish();
+}
+
+void writePhotoDatabase(const std::string &file, const Library &library,
+                        const std::vector<Asset> &photos, const PhotoRows &rows)
+{
+    const Interruption interruption;
+    SqliteOutput output(file, library.name(), libraryHead(library));
+    writeAlbums(output, library);
+    writePhotos(output, photos, rows);
+    writeAppearances(output, photos);
+    output.finish();
+}
+
+} // namespace iosphoto::tool

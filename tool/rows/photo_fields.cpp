@@ -1,0 +1,133 @@
+#include "rows/photo_fields.h"
+
+#include "catalogue/photo_kinds.h"
+#include "catalogue/traits.h"
+#include "language/said.h"
+#include "rows/photo_values.h"
+#include "rows/photo_words.h"
+
+#include <iterator>
+#include <utility>
+
+namespace iosphoto::tool {
+
+namespace {
+
+using Row = PhotoRow;
+
+Value text(const QString &text)
+{
+    return text.toStdString();
+}
+
+Value knownText(const QString &text)
+{
+    return tool::knownText(text.toStdString());
+}
+
+Value number(std::int64_t number)
+{
+    return number;
+}
+
+std::vector<Field<Row>> fieldsOfTheFile()
+{
+    return {
+        {{"uuid", Type::Text}, [](const Row &row) { return tool::knownText(row.facts.uuid); }},
+        {{"assetId", Type::Number},
+         [](const Row &row) {
+             return row.facts.assetId >= 0 ? number(row.facts.assetId) : Value();
+         }},
+        {{"mediaKind", Type::Text},
+         [](const Row &row) { return Value(std::string(isVideo(row.asset) ? "video" : "photo")); }},
+        {{"path", Type::Text, said("FILE")},
+         [](const Row &row) { return Value(row.asset.path()); }},
+        {{"directory", Type::Text}, [](const Row &row) { return text(row.facts.directory); }},
+        {{"fileName", Type::Text}, [](const Row &row) { return text(row.facts.fileName); }},
+        {{"originalFileName", Type::Text},
+         [](const Row &row) { return knownText(row.facts.sourceFileName); }},
+        {{"width", Type::Number}, [](const Row &row) { return number(row.facts.width); }},
+        {{"height", Type::Number}, [](const Row &row) { return number(row.facts.height); }},
+        {{"fileSize", Type::Bytes, said("SIZE")},
+         [](const Row &row) { return number(row.facts.fileSize); }},
+        {{"duration", Type::Real},
+         [](const Row &row) { return Value(double(row.facts.duration)); }},
+    };
+}
+
+std::vector<Field<Row>> fieldsOfTimes()
+{
+    return {
+        {{"created", Type::Time},
+         [](const Row &row) { return utcTimeValue(row.facts.createdTime); }},
+        {{"modified", Type::Time},
+         [](const Row &row) { return utcTimeValue(row.facts.modifiedTime); }},
+        {{"added", Type::Time}, [](const Row &row) { return utcTimeValue(row.facts.addedTime); }},
+        {{"createdSince2001", Type::Real},
+         [](const Row &row) { return Value(row.facts.createdTime); }},
+        {{"localDay", Type::Text, said("DAY")},
+         [](const Row &row) { return localDayValue(row.facts); }},
+        {{"trashed", Type::Time},
+         [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->trashed}) : Value(); }},
+        {{"goes", Type::Time},
+         [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->goes}) : Value(); }},
+        {{"daysLeft", Type::Number},
+         [](const Row &row) { return row.trash ? number(row.trash->daysLeft) : Value(); }},
+    };
+}
+
+std::vector<Field<Row>> fieldsOfBursts()
+{
+    return {
+        {{"thumbnailIndex", Type::Number},
+         [](const Row &row) { return number(row.facts.thumbnailIndex); }},
+        {{"burstUuid", Type::Text}, [](const Row &row) { return knownText(row.facts.burstUuid); }},
+        {{"burstCount", Type::Number}, [](const Row &row) { return number(row.facts.burstCount); }},
+        {{"burstFrames", Type::Number},
+         [](const Row &row) { return row.burstFrames > 0 ? number(row.burstFrames) : Value(); }},
+        {{"isBurstPick", Type::Flag},
+         [](const Row &row) { return Value(row.facts.isBurstPick != 0); }},
+    };
+}
+
+template <std::size_t index>
+Value traitOf(const Row &row)
+{
+    return row.facts.*traits[index].flag;
+}
+
+template <std::size_t... indices>
+std::vector<Field<Row>> fieldsOfTraits(std::index_sequence<indices...> /*all*/)
+{
+    return {{{traits[indices].key, Type::Flag}, traitOf<indices>}...};
+}
+
+std::vector<Field<Row>> viewsForPeople()
+{
+    constexpr bool isFact = false;
+    return {
+        {{"pixels", Type::Text, said("PIXELS"), Align::Right},
+         [](const Row &row) { return Value(pixelsOf(row.facts)); },
+         isFact},
+        {{"what", Type::Text, said("WHAT")},
+         [](const Row &row) { return Value(wordsFor(row)); },
+         isFact},
+    };
+}
+
+} // namespace
+
+FieldTable<PhotoRow> photoFields()
+{
+    const std::vector<Field<Row>> albums = {
+        {{"albums", Type::List, said("ALBUMS")}, [](const Row &row) { return Value(row.albums); }}};
+    FieldTable<PhotoRow> table;
+    for (const auto &part :
+         {fieldsOfTheFile(), fieldsOfTimes(), fieldsOfBursts(),
+          fieldsOfTraits(std::make_index_sequence<std::size(traits)>()), albums, viewsForPeople()})
+        table.fields.insert(table.fields.end(), part.begin(), part.end());
+    table.inTables = {"localDay", "path", "pixels", "fileSize", "what", "albums"};
+    return table;
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,48 @@
+#ifndef IOSPHOTO_TOOL_PHOTO_FIELDS_H
+#define IOSPHOTO_TOOL_PHOTO_FIELDS_H
+
+#include "catalogue/burst_frames.h"
+#include "catalogue/trash_stay.h"
+#include "rows/album_items.h"
+#include "rows/fields.h"
+
+namespace iosphoto::tool {
+
+/// A photo of a library with all that its fields are made of.
+struct PhotoRow
+{
+    Asset asset;
+    CPhotoData facts;
+    std::optional<TrashStay> trash;
+    int burstFrames; ///< of the burst that it belongs to; 0: none
+    Items albums;
+};
+
+/// Makes the rows of a library's photos.
+class PhotoRows
+{
+public:
+    /// @param library  has to outlive the rows, as have the others
+    PhotoRows(const Library &library, const BurstFrames &bursts)
+        : library_(library), bursts_(bursts), albums_(library.albums())
+    {
+    }
+
+    PhotoRow of(const Asset &asset) const
+    {
+        return {asset, asset.facts(), trashStay(library_, asset), bursts_.count(asset),
+                albums_.of(asset)};
+    }
+
+private:
+    const Library &library_;
+    const BurstFrames &bursts_;
+    AlbumItems albums_;
+};
+
+/// What is known about a photo.
+FieldTable<PhotoRow> photoFields();
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_PHOTO_FIELDS_H

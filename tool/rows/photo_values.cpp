@@ -1,0 +1,19 @@
+#include "rows/photo_values.h"
+
+#include "catalogue/moment.h"
+
+namespace iosphoto::tool {
+
+Value utcTimeValue(double coreDataSeconds)
+{
+    const auto unixTime = unixTimeOf(coreDataSeconds);
+    return unixTime ? Value(UtcTime{*unixTime}) : Value();
+}
+
+Value localDayValue(const CPhotoData &photo)
+{
+    const QString &day = photo.dateText;
+    return !day.isEmpty() && day.at(0).isDigit() ? Value(day.toStdString()) : Value();
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,18 @@
+#ifndef IOSPHOTO_TOOL_PHOTO_VALUES_H
+#define IOSPHOTO_TOOL_PHOTO_VALUES_H
+
+#include "ios_photo.h"
+#include "rows/value.h"
+
+namespace iosphoto::tool {
+
+/// A time of the database; nothing beyond the year 9999.
+Value utcTimeValue(double coreDataSeconds);
+
+/// The local day on which a photo was created, as the library found it; nothing where it cannot
+/// tell, for which it has a word.
+Value localDayValue(const CPhotoData &photo);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_PHOTO_VALUES_H
