@@ -5,6 +5,8 @@
 #include "support/library_builder.h"
 #include "support/run_tool.h"
 
+#include <gtest/gtest.h>
+
 #include <ctime>
 
 namespace iosphoto::test {
@@ -29,6 +31,13 @@ struct TwoSnapshots
     LibraryBuilder before;
     LibraryBuilder after;
 };
+
+/// What the comparison shows below the heading of its table.
+inline std::string rowsAndSummary(const ToolRun &run)
+{
+    EXPECT_EQ(run.out.substr(0, run.out.find(' ')), "CHANGE");
+    return run.out.substr(run.out.find('\n') + 1);
+}
 
 } // namespace iosphoto::test
 
