@@ -1,5 +1,4 @@
-#include "support/library_builder.h"
-#include "support/run_tool.h"
+#include "support/run_on.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,14 +6,6 @@
 
 using namespace iosphoto::test;
 using testing::HasSubstr;
-
-namespace {
-
-const std::string assumedIos17 = "iosphoto: reading as iOS 17, the newest with these tables and "
-                                 "columns (--ios), and iPhone14,2, "
-                                 "which hides no album (--product)\n";
-
-} // namespace
 
 TEST(ToolAlbums, ListsTheCatalogueAsAnAlignedTable)
 {
@@ -24,14 +15,16 @@ TEST(ToolAlbums, ListsTheCatalogueAsAnAlignedTable)
     library.asset("IMG_0002.JPG").in(trip);
 
     EXPECT_EQ(
-        runTool({"albums", library.path()}),
-        (ToolRun{"#  KIND              NAME          COUNT  UUID\n"
-                 "0  Camera Roll       相机胶卷          2\n"
-                 "1  Photo Library     照片图库          0\n"
-                 "2  Favorites         个人收藏          1\n"
-                 "3  User album        Ärger & 旅行      2  B0000000-0000-0000-0000-000000000001\n"
-                 "4  Recently Deleted  最近删除          0\n",
-                 assumedIos17, 0}));
+        runOn(library, "albums"),
+        (ToolRun{
+            "#  KIND              NAME          COUNT        SIZE  FIRST       LAST        UUID\n"
+            "0  Camera Roll                         2      2.0 kB  2020-01-04  2020-01-05\n"
+            "1  Photo Library                       0     0 bytes\n"
+            "2  Favorites                           1  1000 bytes  2020-01-05  2020-01-05\n"
+            "3  User album        Ärger & 旅行      2      2.0 kB  2020-01-04  2020-01-05  "
+            "B0000000-0000-0000-0000-000000000001\n"
+            "4  Recently Deleted                    0     0 bytes\n",
+            "", 0}));
 }
 
 TEST(ToolAlbums, ShowsControlCharactersInsteadOfObeyingThem)
@@ -39,9 +32,10 @@ TEST(ToolAlbums, ShowsControlCharactersInsteadOfObeyingThem)
     LibraryBuilder library(ios15);
     library.album("two\nlines \x1b[31mred \u202Eturned");
 
-    const ToolRun run = runTool({"albums", library.path()});
+    const ToolRun run = runOn(library, "albums");
 
     EXPECT_THAT(run.out, HasSubstr("two\\nlines \\u001b[31mred \\u202eturned"));
+    EXPECT_EQ(run.error, "");
     EXPECT_EQ(run.status, 0);
 }
 
@@ -52,17 +46,49 @@ TEST(ToolAlbums, DocumentNamesKindsForMachines)
         .in(library.album("Imported").set("ZKIND", 1552))
         .set("ZCAMERACAPTUREDEVICE", 1);
 
-    const ToolRun run = runTool({"albums", library.path(), "--json"});
+    const ToolRun run = runOn(library, "albums", {"--json"});
     const auto document = nlohmann::json::parse(run.out);
 
+    EXPECT_EQ(run.error, "");
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(document["iosVersion"], "17");
+    EXPECT_EQ(document["source"], library.path());
+    EXPECT_EQ(document["iosVersion"], "15.0");
     EXPECT_EQ(document["productType"], "iPhone14,2");
     EXPECT_EQ(document["isComplete"], true);
     const auto expected = R"({"index": 3, "kind": "selfies", "kindCode": 12,
         "englishKind": "Selfies from albums", "name": "自拍", "uuid": null, "count": 1,
-        "photoCount": 1, "isSmart": false, "collectsFromAlbums": true})"_json;
+        "photoCount": 1, "bytes": 1000, "firstCreated": "2020-01-05T10:40:00Z",
+        "lastCreated": "2020-01-05T10:40:00Z", "isSmart": false,
+        "collectsFromAlbums": true})"_json;
     EXPECT_THAT(document["albums"], testing::Contains(expected));
+}
+
+TEST(ToolAlbums, SecondAlbumOfAKindIsMarked)
+{
+    LibraryBuilder library(ios15);
+    library.asset("IMG_0001.JPG").set("ZCAMERACAPTUREDEVICE", 1);
+    library.asset("IMG_0002.JPG")
+        .in(library.album("Imported").set("ZKIND", 1552))
+        .set("ZCAMERACAPTUREDEVICE", 1);
+    EXPECT_EQ(runOn(library, "albums", {"--fields", "shownKind,ownName,photoCount"}),
+              (ToolRun{"KIND                 NAME      photoCount\n"
+                       "Camera Roll                             2\n"
+                       "Photo Library                           0\n"
+                       "Selfies                                 2\n"
+                       "Selfies from albums                     1\n"
+                       "User album           Imported           1\n"
+                       "Recently Deleted                        0\n",
+                       "", 0}));
+}
+
+TEST(ToolAlbums, BytesOfAnAlbumDoNotWrapAround)
+{
+    LibraryBuilder library(ios15);
+    const std::int64_t most = std::numeric_limits<std::int64_t>::max();
+    library.asset("IMG_0001.JPG").set("ZORIGINALFILESIZE", most);
+    library.asset("IMG_0002.JPG").set("ZORIGINALFILESIZE", most);
+    EXPECT_THAT(runOn(library, "albums", {"--fields", "kind,bytes", "--csv"}).out,
+                HasSubstr("camera-roll," + std::to_string(most) + "\r\n"));
 }
 
 class ToolDevice : public testing::TestWithParam<Schema>
@@ -72,13 +98,14 @@ class ToolDevice : public testing::TestWithParam<Schema>
 TEST_P(ToolDevice, IsFoundFromTheSchemaAlone)
 {
     const LibraryBuilder library(GetParam());
-    const ToolRun run = runTool({"albums", library.path()});
+    const ToolRun run = runTool({"albums", library.path(), "--as-of", "2020-01-10"});
 
     const std::string version = GetParam().iosVersion; // the schema's newest major version
     const std::string major = version.substr(0, version.find('.'));
     EXPECT_EQ(run.error, "iosphoto: reading as iOS " + major +
-                             ", the newest with these tables and columns (--ios), and " +
-                             GetParam().productType + ", which hides no album (--product)\n");
+                             " (the newest with these tables and columns) and " +
+                             GetParam().productType +
+                             " (hides no album), as of 2020-01-10 00:00 UTC\n");
     EXPECT_EQ(run.status, 0);
 }
 
@@ -87,11 +114,10 @@ INSTANTIATE_TEST_SUITE_P(Schemas, ToolDevice, testing::ValuesIn(allSchemas), Sch
 TEST(ToolAlbums, SaysNothingAboutADeviceThatWasNamed)
 {
     const LibraryBuilder library(ios15);
-    const ToolRun whole =
-        runTool({"albums", library.path(), "--ios", "15.4", "--product", "iPhone12,1"});
-    EXPECT_EQ(whole.error, "");
-    EXPECT_EQ(whole.status, 0);
-    const ToolRun half = runTool({"albums", library.path(), "--product", "iPhone12,1"});
-    EXPECT_EQ(half.error, "iosphoto: reading as iOS 17, the newest with these tables and columns "
-                          "(--ios)\n");
+    EXPECT_EQ(runOn(library, "albums", {"--fields", "index"}).error, "");
+    EXPECT_EQ(
+        runTool({"albums", library.path(), "--product", "iPhone12,1", "--as-of", "2020-01-10"})
+            .error,
+        "iosphoto: reading as iOS 17 (the newest with these tables and columns) and iPhone12,1, as "
+        "of 2020-01-10 00:00 UTC\n");
 }

@@ -1,3 +1,4 @@
+#include "support/json_schema.h"
 #include "support/two_snapshots.h"
 
 #include <gtest/gtest.h>
@@ -80,6 +81,7 @@ TEST_F(ToolDiffOutput, JsonIsOneDocument)
     EXPECT_EQ(run.status, 1);
 
     const json document = json::parse(run.out);
+    EXPECT_EQ(schemaComplaints("diff", document), "");
     EXPECT_EQ(document["a"]["source"], phone_.before.path());
     EXPECT_EQ(document["b"]["source"], phone_.after.path());
     EXPECT_EQ(document["b"]["iosVersion"], "15.0");
@@ -97,6 +99,14 @@ TEST_F(ToolDiffOutput, JsonIsOneDocument)
     EXPECT_EQ(document["photos"], json::array({favorite(), gone()}));
 }
 
+TEST_F(ToolDiffOutput, JsonFitsTheSchemaWhateverIsMissing)
+{
+    phone_.after.album("New").set("ZUUID", "NEW");
+    phone_.before.album("Old").set("ZUUID", "OLD");
+    phone_.after.asset("IMG_0003.JPG").set("ZUUID", nullptr).set("ZDATECREATED", 1e300);
+    EXPECT_EQ(schemaComplaints("diff", json::parse(phone_.diff({"--json"}).out)), "");
+}
+
 TEST_F(ToolDiffOutput, JsonLinesNameBothSources)
 {
     const ToolRun run = phone_.diff({"--jsonl"});
@@ -110,6 +120,7 @@ TEST_F(ToolDiffOutput, JsonLinesNameBothSources)
         std::string line;
         ASSERT_TRUE(std::getline(lines, line));
         EXPECT_EQ(json::parse(line), expected);
+        EXPECT_EQ(schemaComplaints("diff-line", expected), "");
     }
     EXPECT_EQ(lines.peek(), EOF);
 }

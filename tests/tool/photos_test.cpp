@@ -1,5 +1,4 @@
-#include "support/library_builder.h"
-#include "support/run_tool.h"
+#include "support/run_on.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,20 +19,14 @@ protected:
         library_.asset("IMG_0003.JPG").set("ZHIDDEN", 1);
     }
 
-    ToolRun photos(std::vector<std::string> arguments = {})
+    ToolRun photos(const std::vector<std::string> &arguments = {}) const
     {
-        arguments.insert(arguments.begin(),
-                         {"photos", library_.path(), "--ios", "15.0", "--product", "iPhone14,2"});
-        return runTool(arguments);
+        return runOn(library_, "photos", arguments);
     }
 
-    /// The file names that a table lists, in order.
-    static std::vector<std::string> listed(const ToolRun &run)
+    ToolRun namesIn(const std::string &album) const
     {
-        std::vector<std::string> names;
-        for (std::size_t at = 0; (at = run.out.find("IMG_", at)) != std::string::npos; ++at)
-            names.push_back(run.out.substr(at, std::string("IMG_0001").size()));
-        return names;
+        return photos({"--fields", "fileName", "--album", album});
     }
 
     LibraryBuilder library_{ios15};
@@ -55,20 +48,16 @@ TEST_F(ToolPhotos, ListsEachPhotoOnceWithItsAlbums)
 
 TEST_F(ToolPhotos, AlbumIsFoundByNameKindNumberAndUuid)
 {
-    for (const char *album : {"videos", "Videos", "4", "视频"})
-        EXPECT_EQ(listed(photos({"--album", album})), (std::vector<std::string>{"IMG_0002"}))
-            << album;
-    EXPECT_EQ(listed(photos({"--album", "b0000000-0000-0000-0000-000000000002"})),
-              (std::vector<std::string>{"IMG_0002"}));
-    EXPECT_EQ(listed(photos({"--album", "recently-deleted"})), (std::vector<std::string>{}));
+    for (const char *album :
+         {"videos", "Videos", "4", "视频", "b0000000-0000-0000-0000-000000000002"})
+        EXPECT_EQ(namesIn(album), fileNames({"IMG_0002.MOV"})) << album;
 }
 
 TEST_F(ToolPhotos, NameOfSeveralAlbumsTakesAllAndSaysSo)
 {
-    const ToolRun run = photos({"--album", "trip"});
-    EXPECT_EQ(listed(run), (std::vector<std::string>{"IMG_0001", "IMG_0002"}));
-    EXPECT_EQ(run.error, "iosphoto: 'trip' fits 2 albums, all are shown: Trip, Trip\n");
-    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(namesIn("trip"),
+              (ToolRun{"fileName\nIMG_0001.JPG\nIMG_0002.MOV\n",
+                       "iosphoto: 'trip' fits 2 albums, all are shown: Trip, Trip\n", 0}));
 }
 
 TEST_F(ToolPhotos, AlbumThatIsNotThereIsWrongUsage)
@@ -81,16 +70,50 @@ TEST_F(ToolPhotos, AlbumThatIsNotThereIsWrongUsage)
                            2}));
 }
 
+TEST_F(ToolPhotos, AlbumThatIsNotThereIsOneLineThoughTheDeviceWasGuessed)
+{
+    EXPECT_EQ(runTool({"photos", library_.path(), "--album", "Nowhere"}),
+              (ToolRun{"",
+                       "iosphoto: no album fits 'Nowhere'; 'iosphoto albums " + library_.path() +
+                           "' lists them\n",
+                       2}));
+}
+
+TEST_F(ToolPhotos, WhereNoneFitsThereAreHeadingsAndANotice)
+{
+    const std::string notice = "iosphoto: none of the 3 photos fits\n";
+    EXPECT_EQ(photos({"--album", "recently-deleted"}),
+              (ToolRun{"DAY  FILE  PIXELS  SIZE  WHAT  ALBUMS\n", notice, 0}));
+    EXPECT_EQ(photos({"--edited", "--csv", "--fields", "uuid,path"}),
+              (ToolRun{"uuid,path\r\n", notice, 0}));
+    EXPECT_EQ(photos({"--edited", "--jsonl"}), (ToolRun{"", notice, 0}));
+    const ToolRun document = photos({"--edited", "--json"});
+    EXPECT_EQ(nlohmann::json::parse(document.out)["photos"], nlohmann::json::array());
+    EXPECT_EQ(document.error, notice);
+    EXPECT_EQ(document.status, 0);
+}
+
+TEST(ToolPhotosOfAnEmptyLibrary, AreNotMissed)
+{
+    EXPECT_EQ(runOn(LibraryBuilder(ios15), "photos", {"--fields", "fileName"}), fileNames({}));
+}
+
 TEST_F(ToolPhotos, DocumentHoldsEveryFactAndNullForUnknownOnes)
 {
     const ToolRun run = photos({"--album", "favorites", "--json"});
     const auto document = nlohmann::json::parse(run.out);
 
+    EXPECT_EQ(run.error, "");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(document["asOf"], "2020-01-10T00:00:00Z");
     ASSERT_EQ(document["photos"].size(), 1U);
     const auto &photo = document["photos"][0];
     EXPECT_EQ(photo["uuid"], "A0000000-0000-0000-0000-000000000001");
+    EXPECT_EQ(photo["mediaKind"], "photo");
+    EXPECT_EQ(photo["path"], "DCIM/100APPLE/IMG_0001.JPG");
     EXPECT_EQ(photo["created"], "2020-01-05T10:40:00Z");
-    EXPECT_EQ(photo["originalFileName"], nullptr);
+    for (const char *key : {"originalFileName", "trashed", "goes", "daysLeft", "burstFrames"})
+        EXPECT_EQ(photo.at(key), nullptr) << key;
     EXPECT_EQ(photo["isFavorite"], true);
     EXPECT_EQ(photo["isVideo"], false);
     EXPECT_EQ(photo["fileSize"], 1000);
@@ -100,31 +123,52 @@ TEST_F(ToolPhotos, DocumentHoldsEveryFactAndNullForUnknownOnes)
     EXPECT_EQ(kinds, (std::vector<std::string>{"camera-roll", "favorites", "user"}));
 }
 
-TEST_F(ToolPhotos, AlbumThatIsNotThereIsOneLineThoughTheDeviceWasGuessed)
-{
-    const ToolRun run = runTool({"photos", library_.path(), "--album", "Nowhere"});
-    EXPECT_EQ(run.error, "iosphoto: no album fits 'Nowhere'; 'iosphoto albums " + library_.path() +
-                             "' lists them\n");
-}
-
 TEST_F(ToolPhotos, KnowsOfAPhotoWhatAnyAlbumKnows)
 {
     library_.asset("IMG_0004.JPG")
         .in(library_.album("Imported").set("ZKIND", 1552))
         .set("ZSAVEDASSETTYPE", 256)
         .set("ZUUID", "00000000-0000-0000-0000-000000000004")
-        .set("ZDURATION", 33.5)
+        .set("ZDURATION", 33.4)
         .set("ZCAMERACAPTUREDEVICE", 1);
 
-    EXPECT_THAT(photos({"--album", "photo-library"}).out,
-                HasSubstr("selfie  Photo Library, Selfies from albums, Imported"));
+    EXPECT_EQ(photos({"--album", "photo-library", "--fields", "what,albums"}),
+              (ToolRun{"WHAT    ALBUMS\n"
+                       "selfie  Photo Library, Selfies from albums, Imported\n",
+                       "", 0}));
     EXPECT_THAT(photos({"--album", "photo-library", "--json"}).out,
-                HasSubstr("\"duration\": 33.5"));
+                HasSubstr("\"duration\": 33.4,"));
 }
 
 TEST_F(ToolPhotos, WithoutUuidEveryRecordStandsForItself)
 {
     library_.execute("update ZASSET set ZUUID = null");
-    EXPECT_EQ(listed(photos({"--album", "camera-roll"})),
-              (std::vector<std::string>{"IMG_0001", "IMG_0002"}));
+    EXPECT_EQ(namesIn("camera-roll"), fileNames({"IMG_0001.JPG", "IMG_0002.MOV"}));
+}
+
+TEST_F(ToolPhotos, FieldsAreChosenAndOrderedInEveryFormat)
+{
+    const std::vector<std::string> only = {"--favorite", "--fields", "created,uuid,pixels,created"};
+    const auto as = [&](const std::string &format) {
+        std::vector<std::string> arguments = only;
+        arguments.push_back(format);
+        return photos(arguments);
+    };
+    const std::string uuid = "A0000000-0000-0000-0000-000000000001";
+    EXPECT_EQ(photos(only), (ToolRun{"created               uuid                                  "
+                                     "   PIXELS\n"
+                                     "2020-01-05 10:40 UTC  " +
+                                         uuid + "  4032x3024\n",
+                                     "", 0}));
+    EXPECT_EQ(as("--csv"), (ToolRun{"created,uuid,pixels\r\n"
+                                    "2020-01-05T10:40:00Z," +
+                                        uuid + ",4032x3024\r\n",
+                                    "", 0}));
+    EXPECT_EQ(as("--jsonl"), (ToolRun{"{\"source\":\"" + library_.path() +
+                                          "\",\"created\":\"2020-01-05T10:40:00Z\",\"uuid\":\"" +
+                                          uuid + "\",\"pixels\":\"4032x3024\"}\n",
+                                      "", 0}));
+    EXPECT_THAT(as("--json").out, HasSubstr("{\n      \"created\": \"2020-01-05T10:40:00Z\",\n"
+                                            "      \"uuid\": \"" +
+                                            uuid + "\",\n      \"pixels\": \"4032x3024\"\n"));
 }

@@ -1,4 +1,5 @@
 #include "support/expect_failure.h"
+#include "support/json_schema.h"
 #include "support/library_builder.h"
 
 #include <nlohmann/json.hpp>
@@ -53,6 +54,7 @@ TEST_P(ToolStatementsOfSchema, HaveTheEntityNumbersOfTheDatabase)
     const json document = statementsOf(
         {library.path(), "--ios", GetParam().iosVersion, "--product", GetParam().productType});
 
+    EXPECT_EQ(schemaComplaints("statements", document), "");
     EXPECT_EQ(document["iosVersion"], GetParam().iosVersion);
     EXPECT_EQ(document["productType"], GetParam().productType);
     EXPECT_EQ(document["numbersAreRead"], true);
@@ -132,6 +134,7 @@ TEST(ToolStatements, ThatNeedNumbersThatAreNotKnownTellHowToFindThem)
     EXPECT_EQ(run.status, 0);
 
     const json document = statementsOf({"--ios", "7.1"});
+    EXPECT_EQ(schemaComplaints("statements", document), "");
     EXPECT_EQ(document["numbersAreRead"], false);
     EXPECT_EQ(document["statements"][5]["entityNumbers"]["album"], nullptr);
 }

@@ -6,6 +6,7 @@
 #include "rows/photo_values.h"
 #include "rows/photo_words.h"
 
+#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -30,6 +31,14 @@ Value number(std::int64_t number)
     return number;
 }
 
+/// The shortest number that the record's can be: 33.4, not 33.400001525878906.
+Value duration(const Row &row)
+{
+    const float seconds = row.facts.duration;
+    return seconds == 0 || !std::isfinite(seconds) ? double(seconds)
+                                                   : std::stod(fmt::format("{}", seconds));
+}
+
 std::vector<Field<Row>> fieldsOfTheFile()
 {
     return {
@@ -50,8 +59,7 @@ std::vector<Field<Row>> fieldsOfTheFile()
         {{"height", Type::Number}, [](const Row &row) { return number(row.facts.height); }},
         {{"fileSize", Type::Bytes, said("SIZE")},
          [](const Row &row) { return number(row.facts.fileSize); }},
-        {{"duration", Type::Real},
-         [](const Row &row) { return Value(double(row.facts.duration)); }},
+        {{"duration", Type::Real}, duration},
     };
 }
 

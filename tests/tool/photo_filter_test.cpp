@@ -1,0 +1,122 @@
+#include "support/case_name.h"
+#include "support/expect_failure.h"
+#include "support/run_on.h"
+
+using namespace iosphoto::test;
+
+namespace {
+
+/// Photos 1 to 7, each a day older than the one before; the first is of 2020-01-05 10:40 UTC.
+class ManyKinds
+{
+public:
+    ManyKinds()
+    {
+        const AlbumRow trip = library_.album("Trip");
+        library_.asset("1.JPG").set("ZFAVORITE", 1).in(trip);
+        library_.asset("2.MOV").video().set("ZFAVORITE", 1);
+        library_.asset("3.JPG").set("ZVIDEOCPDURATIONTIMESCALE", 600).in(trip);
+        library_.asset("4.MOV").video().set("ZKINDSUBTYPE", 101);
+        library_.asset("5.JPG").set("ZHIDDEN", 1);
+        library_.asset("6.JPG").set("ZHASADJUSTMENTS", 1);
+        library_.asset("7.JPG").trashedAt(readingTime - 10 * days);
+    }
+
+    const LibraryBuilder &library() const { return library_; }
+
+private:
+    LibraryBuilder library_{ios15};
+};
+
+struct Filter
+{
+    std::vector<std::string> arguments;
+    std::vector<std::string> names;
+
+    std::string name() const
+    {
+        std::string all;
+        for (const std::string &argument : arguments)
+            all += argument;
+        return all;
+    }
+};
+
+std::ostream &operator<<(std::ostream &stream, const Filter &filter)
+{
+    return stream << filter.name();
+}
+
+const Filter filters[] = {
+    {{}, {"1.JPG", "2.MOV", "3.JPG", "4.MOV", "5.JPG", "6.JPG", "7.JPG"}},
+    {{"--favorite"}, {"1.JPG", "2.MOV"}},
+    {{"--hidden"}, {"5.JPG"}},
+    {{"--edited"}, {"6.JPG"}},
+    {{"--deleted"}, {"7.JPG"}},
+    {{"--deleted", "--within", "10"}, {"7.JPG"}},
+    {{"--album", "trip"}, {"1.JPG", "3.JPG"}},
+    {{"--kind", "live"}, {"3.JPG"}},
+    {{"--kind", "video"}, {"2.MOV", "4.MOV"}},
+    {{"--kind", "slo-mo"}, {"4.MOV"}},
+    {{"--kind", "photo"}, {"1.JPG", "3.JPG", "5.JPG", "6.JPG", "7.JPG"}},
+    {{"--kind", "live,slo-mo"}, {"3.JPG", "4.MOV"}},
+    {{"--kind", "live", "--kind", "edited"}, {"3.JPG", "6.JPG"}},
+    {{"--kind", "photo", "--favorite"}, {"1.JPG"}},
+    {{"--album", "trip", "--kind", "live,video"}, {"3.JPG"}},
+    {{"--since", "2020-01-04"}, {"1.JPG", "2.MOV"}},
+    {{"--since", "2020-01-04 10:40"}, {"1.JPG", "2.MOV"}},
+    {{"--since", "2020-01-04T10:40:01Z"}, {"1.JPG"}},
+    {{"--until", "2019-12-31"}, {"6.JPG", "7.JPG"}},
+    {{"--until", "2019-12-31T10:40:00Z"}, {"6.JPG", "7.JPG"}},
+    {{"--until", "2019-12-31 10:39"}, {"7.JPG"}},
+    {{"--since", "2020-01-02", "--until", "2020-01-03"}, {"3.JPG", "4.MOV"}},
+};
+
+} // namespace
+
+class ToolPhotoFilter : public testing::TestWithParam<Filter>
+{
+};
+
+TEST_P(ToolPhotoFilter, ShowsWhatFitsAllOfIt)
+{
+    std::vector<std::string> arguments = {"--fields", "fileName"};
+    arguments.insert(arguments.end(), GetParam().arguments.begin(), GetParam().arguments.end());
+    EXPECT_EQ(runOn(ManyKinds().library(), "photos", arguments), fileNames(GetParam().names));
+}
+
+INSTANTIATE_TEST_SUITE_P(Filters, ToolPhotoFilter, testing::ValuesIn(filters), NameOfCase());
+
+TEST(ToolPhotoFilters, TrashedEarlierThanWithinTheDaysDoesNotFit)
+{
+    EXPECT_EQ(runOn(ManyKinds().library(), "photos",
+                    {"--deleted", "--within", "9", "--fields", "fileName"}),
+              (ToolRun{"fileName\n", "iosphoto: none of the 7 photos fits\n", 0}));
+}
+
+TEST(ToolPhotoFilters, MistakesAreWrongUsage)
+{
+    const LibraryBuilder library(ios15);
+    const auto photos = [&](const std::vector<std::string> &arguments) {
+        return runOn(library, "photos", arguments);
+    };
+    expectFailure(
+        photos({"--kind", "live,sharp"}),
+        "--kind: there is no kind 'sharp'; there are photo, video, time-lapse, slo-mo, "
+        "screen-recording, panorama, burst, screenshot, live, selfie, portrait, animated, "
+        "raw, prores, favorite, edited, hidden, deleted\n",
+        2);
+    expectFailure(
+        photos({"--sort", "colour"}),
+        "--sort: there is no order 'colour'; there are date, name, size, duration, added, "
+        "modified, deleted\n",
+        2);
+    expectFailure(
+        photos({"--fields", "uuid,colour"}),
+        "--fields: there is no field 'colour'; there are uuid, assetId, mediaKind, path, ", 2);
+    expectFailure(photos({"--since", "yesterday"}), "--since: 'yesterday' is no time", 2);
+    expectFailure(photos({"--until", "2020-13-01"}), "--until: '2020-13-01' is no time", 2);
+    expectFailure(photos({"--within", "3"}), "--within requires --deleted", 2);
+    expectFailure(photos({"--deleted", "--within", "-1"}), "--within: ", 2);
+    expectFailure(photos({"--limit", "0"}), "--limit: ", 2);
+}
