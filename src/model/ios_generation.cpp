@@ -28,4 +28,12 @@ IosGeneration iosGeneration(const std::string &iosVersion)
     return IosGeneration::Oldest;
 }
 
+const char *firstVersion(IosGeneration generation)
+{
+    for (const FirstVersion &first : newestFirst)
+        if (first.generation == generation)
+            return first.version;
+    return "";
+}
+
 } // namespace iosphoto

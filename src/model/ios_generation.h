@@ -13,6 +13,9 @@ enum class IosGeneration { Oldest, Ios6, Ios7, Ios8, Ios9, Ios10, Ios11, Ios14, 
 /// The generation of a dotted decimal version.
 IosGeneration iosGeneration(const std::string &iosVersion);
 
+/// The version that a generation begins with, such as "14.0"; that of the oldest is empty.
+const char *firstVersion(IosGeneration generation);
+
 } // namespace iosphoto
 
 #endif // IOSPHOTO_IOS_GENERATION_H

@@ -96,10 +96,18 @@ const StatementVariant &choose(const StatementTable &table, const DeviceProfile 
 
 QString filledIn(const StatementVariant &variant, const EntityNumbers &numbers)
 {
+    return filledIn(variant, [&](auto number) {
+        return QString::number(static_cast<qlonglong>(numbers.*number));
+    });
+}
+
+QString filledIn(const StatementVariant &variant,
+                 const std::function<QString(std::int32_t EntityNumbers::*)> &textOf)
+{
     QString text = QString::fromUtf8(variant.statement.text);
     for (const auto number : variant.placeholders.numbers)
         if (number != nullptr)
-            text = text.arg(static_cast<qlonglong>(numbers.*number));
+            text = text.arg(textOf(number));
     return text;
 }
 

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <functional>
 
 namespace iosphoto {
 
@@ -56,6 +57,10 @@ const StatementVariant &choose(const StatementTable &table, const DeviceProfile 
 
 /// The variant's text with the entity numbers filled in, ready to run.
 QString filledIn(const StatementVariant &variant, const EntityNumbers &numbers);
+
+/// The same with what `textOf` makes of a number in its places.
+QString filledIn(const StatementVariant &variant,
+                 const std::function<QString(std::int32_t EntityNumbers::*)> &textOf);
 
 } // namespace iosphoto
 

@@ -1,7 +1,7 @@
-/// Real photo libraries against catalogues that were worked out without this code. They are not
-/// part of the repository: the tests skip where the folder beside it is absent.
+/// Real photo libraries against catalogues that were worked out without this code.
 #include "support/catalogue.h"
 #include "support/catalogue_json.h"
+#include "support/real_libraries.h"
 
 #include <gtest/gtest.h>
 
@@ -11,29 +11,6 @@ using namespace iosphoto;
 using namespace iosphoto::test;
 
 namespace {
-
-struct RealLibrary
-{
-    const char *name;
-    const char *iosVersion;
-};
-
-std::ostream &operator<<(std::ostream &stream, const RealLibrary &library)
-{
-    return stream << library.name;
-}
-
-constexpr RealLibrary realLibraries[] = {
-    {"ios13_a", "13.7"}, {"ios14_a", "14.8"}, {"ios15_a", "15.7"},
-    {"ios16_a", "16.5"}, {"ios18_a", "18.1"},
-};
-
-std::filesystem::path folderOf(const RealLibrary &library)
-{
-    std::string name = library.name;
-    name.replace(name.find('_'), 1, "-");
-    return std::filesystem::path(IOSPHOTO_REAL_LIBRARIES) / name;
-}
 
 /// Durations are 32-bit floats; both sides are compared as such.
 void roundDurations(nlohmann::json &album)

@@ -1,7 +1,7 @@
+#include "support/damage.h"
 #include "support/expect_failure.h"
 #include "support/library_builder.h"
 
-#include <fstream>
 #include <sys/stat.h>
 
 using namespace iosphoto::test;
@@ -120,14 +120,7 @@ protected:
     {
         LibraryBuilder library(ios15);
         library.asset("IMG_0001.JPG").in(library.album("Trip"));
-        const int pageSize = library.number("pragma page_size");
-        const int page = library.number(
-            std::string("select rootpage from sqlite_master where name = '") + GetParam() + "'");
-        library.close();
-        std::fstream file(library.path(), std::ios::binary | std::ios::in | std::ios::out);
-        file.seekp(std::streamoff(page - 1) * pageSize);
-        file << std::string(static_cast<std::size_t>(pageSize), '\xff');
-        file.close();
+        damageTable(library, GetParam());
         return runTool({"photos", library.path()});
     }
 };

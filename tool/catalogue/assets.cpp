@@ -59,6 +59,13 @@ std::vector<std::size_t> firstOfSame(const std::vector<Appearance> &appearances)
 
 } // namespace
 
+std::string Asset::path() const
+{
+    const CPhotoData &photo = *first_->record;
+    const QString separator = photo.directory.isEmpty() ? "" : "/";
+    return (photo.directory + separator + photo.fileName).toStdString();
+}
+
 bool Asset::has(bool CPhotoData::*flag) const
 {
     return std::any_of(begin(), end(),

@@ -28,6 +28,9 @@ public:
 
     const std::string &uuid() const { return first_->record->uuid; }
 
+    /// Such as "DCIM/100APPLE/IMG_0001.HEIC".
+    std::string path() const;
+
     /// Whether any of its records has a flag; as facts() says, but quicker.
     bool has(bool CPhotoData::*flag) const;
 

@@ -104,7 +104,7 @@ std::string Library::assumptions() const
                 asOf_.why.empty() ? when : when + " (" + asOf_.why + ")");
 }
 
-void Library::sayHowItWasRead() const
+void Library::sayHowItWasRead(const std::string &label) const
 {
     std::string line;
     if (!(schema_.iosWhy.empty() && schema_.deviceWhy.empty() && asOf_.why.empty()))
@@ -114,11 +114,11 @@ void Library::sayHowItWasRead() const
             (line.empty() ? "" : "; ") +
             said("left out since they were in the trash for 30 days: {0} (see --as-of)", leftOut_);
     if (!line.empty())
-        remark(line);
+        remark(label + line);
     if (!schema_.warning.empty())
-        notice(schema_.warning);
+        notice(label + schema_.warning);
     for (const std::string &text : missing_)
-        notice(text);
+        notice(label + text);
 }
 
 } // namespace iosphoto::tool

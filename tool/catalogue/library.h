@@ -57,7 +57,8 @@ public:
 
     /// Says on stderr in one line what was assumed and what is left out, and in others what does
     /// not agree and what is missing.
-    void sayHowItWasRead() const;
+    /// @param label  put before each line where there are several libraries, such as "A: "
+    void sayHowItWasRead(const std::string &label = {}) const;
 
 private:
     void inspect(const PrivateCopy &copy, const RecordedDevice &says);

@@ -21,7 +21,9 @@ struct Command
 /// Each adds a command to the tool.
 Command addInfo(CLI::App &app);
 Command addAlbums(CLI::App &app);
+Command addDiff(CLI::App &app);
 Command addPhotos(CLI::App &app);
+Command addStatements(CLI::App &app);
 Command addThumb(CLI::App &app);
 
 } // namespace iosphoto::tool

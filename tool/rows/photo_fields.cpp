@@ -50,7 +50,7 @@ std::vector<Field<Row>> fieldsOfTheFile()
         {{"mediaKind", Type::Text},
          [](const Row &row) { return Value(std::string(isVideo(row.asset) ? "video" : "photo")); }},
         {{"path", Type::Path, said("FILE")},
-         [](const Row &row) { return Value(pathOf(row.facts)); }},
+         [](const Row &row) { return Value(row.asset.path()); }},
         {{"directory", Type::Text}, [](const Row &row) { return text(row.facts.directory); }},
         {{"fileName", Type::Text}, [](const Row &row) { return text(row.facts.fileName); }},
         {{"originalFileName", Type::Text},

@@ -27,13 +27,6 @@ std::string wordsForTrait(const Trait &trait, const PhotoRow &row)
 
 } // namespace
 
-std::string pathOf(const CPhotoData &photo)
-{
-    if (photo.directory.isEmpty())
-        return photo.fileName.toStdString();
-    return photo.directory.toStdString() + "/" + photo.fileName.toStdString();
-}
-
 std::string pixelsOf(const CPhotoData &photo)
 {
     return std::to_string(photo.width) + "x" + std::to_string(photo.height);

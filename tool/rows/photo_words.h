@@ -5,9 +5,6 @@
 
 namespace iosphoto::tool {
 
-/// "DCIM/100APPLE/IMG_0001.HEIC"
-std::string pathOf(const CPhotoData &photo);
-
 /// "4032x3024"
 std::string pixelsOf(const CPhotoData &photo);
 

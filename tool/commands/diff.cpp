@@ -1,0 +1,125 @@
+#include "commands/command.h"
+#include "commands/difference_csv.h"
+#include "commands/difference_document.h"
+#include "commands/difference_table.h"
+#include "commands/library_options.h"
+#include "commands/looks_like.h"
+#include "language/said.h"
+#include "output/notice.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+struct DiffRequest
+{
+    std::string before;
+    std::string after;
+    Device device; ///< of both
+    bool asJson = false;
+    bool asJsonLines = false;
+    bool asCsv = false;
+};
+
+void printAsJson(const Library &before, const Library &after, const LibraryDifference &difference,
+                 std::ostream &out)
+{
+    Json document = differenceHead(before, after, difference);
+    Json &photos = document["photos"] = Json::array();
+    for (const PhotoDifference &photo : difference.photos.differences)
+        photos.push_back(asJson(photo));
+    print(document, out);
+}
+
+void printAsJsonLines(const Library &before, const Library &after,
+                      const LibraryDifference &difference, std::ostream &out)
+{
+    for (const PhotoDifference &photo : difference.photos.differences) {
+        Json line = {{"a", before.name()}, {"b", after.name()}};
+        line.update(asJson(photo));
+        out << oneLine(line) << '\n';
+    }
+}
+
+void printDifference(const DiffRequest &request, const Library &before, const Library &after,
+                     const LibraryDifference &difference, std::ostream &out)
+{
+    if (request.asJson)
+        printAsJson(before, after, difference, out);
+    else if (request.asJsonLines)
+        printAsJsonLines(before, after, difference, out);
+    else if (request.asCsv)
+        printDifferenceAsCsv(difference.photos.differences, out);
+    else
+        printDifferenceTable(difference, out);
+}
+
+/// Says when the libraries do not look like those of one phone.
+void checkThatTheyAreRelated(const Library &before, const Library &after,
+                             const LibraryDifference &difference)
+{
+    const int onlyThere = difference.count(Change::Gone);
+    const int onlyHere = difference.count(Change::New);
+    if (difference.photos.inBoth == 0 && onlyThere > 0 && onlyHere > 0)
+        notice(said("'{0}' and '{1}' have no photo in common; are they of one phone?",
+                    before.name(), after.name()));
+}
+
+ExitStatus statusOf(const Library &before, const Library &after,
+                    const LibraryDifference &difference)
+{
+    if (before.status() != Good || after.status() != Good) {
+        notice(said("what is missing may look like a difference, or hide one"));
+        return CannotAccess;
+    }
+    return difference.isNone() ? Good : Different;
+}
+
+ExitStatus showDifference(const DiffRequest &request, std::ostream &out)
+{
+    const Library before({request.before, request.device, {}});
+    const Library after({request.after, request.device, {}});
+    const AssetList first(before.albums());
+    const AssetList second(after.albums());
+    const LibraryDifference difference = {compareAlbums(before.albums(), after.albums()),
+                                          comparePhotos(first, second)};
+    before.sayHowItWasRead("A: ");
+    after.sayHowItWasRead("B: ");
+    checkThatTheyAreRelated(before, after, difference);
+    printDifference(request, before, after, difference, out);
+    return statusOf(before, after, difference);
+}
+
+} // namespace
+
+Command addDiff(CLI::App &app)
+{
+    const auto request = std::make_shared<DiffRequest>();
+    CLI::App *command =
+        app.add_subcommand("diff", said("Compare two snapshots of the library of one phone"));
+    command->add_option("A", request->before, said("the earlier library"))
+        ->required()
+        ->check(notEmpty());
+    command->add_option("B", request->after, said("the later library"))
+        ->required()
+        ->check(notEmpty());
+    addDeviceOptions(*command, request->device);
+    CLI::Option *const json =
+        command->add_flag("--json", request->asJson, said("print a JSON document"));
+    CLI::Option *const jsonLines = command->add_flag(
+        "--jsonl", request->asJsonLines, said("print a JSON object a line, for the photos only"));
+    CLI::Option *const csv =
+        command->add_flag("--csv", request->asCsv, said("print CSV, for the photos only"));
+    json->excludes(jsonLines, csv);
+    jsonLines->excludes(csv);
+    command->footer(
+        said("Each library is read as of its own time. The exit status is 0 when there is no "
+             "difference, 1 when there is one, and 3 when a library could not be read "
+             "completely.") +
+        "\n\n" + said("Examples:") +
+        "\n  iosphoto diff May/Photos.sqlite June/Photos.sqlite\n"
+        "  iosphoto diff May/Photos.sqlite June/Photos.sqlite --json");
+    return {command, [request](std::ostream &out) { return showDifference(*request, out); }};
+}
+
+} // namespace iosphoto::tool

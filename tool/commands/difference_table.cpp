@@ -1,0 +1,147 @@
+#include "commands/difference_table.h"
+
+#include "catalogue/album_kinds.h"
+#include "language/said.h"
+#include "output/counted.h"
+#include "output/text_table.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+std::string joined(const Words &words)
+{
+    std::string line;
+    for (const std::string &word : words)
+        line += (line.empty() ? "" : ", ") + word;
+    return line;
+}
+
+std::string changeWord(Change change)
+{
+    switch (change) {
+    case Change::New:
+        return said("new");
+    case Change::Gone:
+        return said("gone");
+    case Change::Trashed:
+        return said("trashed");
+    case Change::Restored:
+        return said("restored");
+    case Change::Edited:
+        return said("edited");
+    case Change::Moved:
+        return said("moved");
+    case Change::Changed:
+        break;
+    }
+    return said("changed");
+}
+
+std::string albumChangeWord(AlbumChange change)
+{
+    switch (change) {
+    case AlbumChange::New:
+        return said("new");
+    case AlbumChange::Gone:
+        return said("gone");
+    case AlbumChange::Renamed:
+        break;
+    }
+    return said("renamed");
+}
+
+std::string fieldWords(ChangedField field, const CPhotoData &before, const CPhotoData &after)
+{
+    switch (field) {
+    case ChangedField::Favorite:
+        return after.isFavorite ? said("now a favorite") : said("no longer a favorite");
+    case ChangedField::Hidden:
+        return after.isHidden ? said("now hidden") : said("no longer hidden");
+    case ChangedField::FileName:
+        return said("was named {0}", before.fileName.toStdString());
+    case ChangedField::Created:
+        break;
+    }
+    return said("has another time of creation");
+}
+
+/// What the edit made of a photo that had one before.
+void addEdit(Words &words, const CPhotoData &before, const CPhotoData &after)
+{
+    if (before.isEdited)
+        words.push_back(after.isEdited ? said("edited again") : said("edit undone"));
+}
+
+/// What the word for the change does not say.
+Words details(const PhotoDifference &photo)
+{
+    Words words;
+    if (!photo.after && photo.before->facts().isDeleted)
+        words.push_back(said("gone from the trash"));
+    if (!photo.before || !photo.after)
+        return words;
+    const CPhotoData before = photo.before->facts();
+    const CPhotoData after = photo.after->facts();
+    for (const Change change : photo.changes)
+        if (change == Change::Edited)
+            addEdit(words, before, after);
+    for (const CAlbumGroup *album : photo.addedTo)
+        words.push_back(said("added to {0}", shownName(*album)));
+    for (const CAlbumGroup *album : photo.removedFrom)
+        words.push_back(said("removed from {0}", shownName(*album)));
+    for (const ChangedField field : photo.changedFields)
+        words.push_back(fieldWords(field, before, after));
+    return words;
+}
+
+void addRow(TextTable &table, const AlbumDifference &album)
+{
+    const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
+    const bool isRenamed = album.change == AlbumChange::Renamed;
+    table.add({said("album {0}", albumChangeWord(album.change)), shownName(latest),
+               isRenamed ? said("was named {0}", shownName(*album.before)) : ""});
+}
+
+void addRow(TextTable &table, const PhotoDifference &photo)
+{
+    Words changes;
+    for (const Change change : photo.changes)
+        changes.push_back(changeWord(change));
+    table.add({joined(changes), photo.latest().path(), joined(details(photo))});
+}
+
+std::string summary(const LibraryDifference &difference)
+{
+    Words photos;
+    for (const Change change : allChanges)
+        if (const int count = difference.count(change); count > 0)
+            photos.push_back(said("{0} {1}", grouped(count), changeWord(change)));
+    Words albums;
+    for (const AlbumChange change : allAlbumChanges)
+        if (const int count = difference.count(change); count > 0)
+            albums.push_back(said("{0} {1}", grouped(count), albumChangeWord(change)));
+    if (albums.empty())
+        return photos.empty() ? said("no difference") : joined(photos);
+    return (photos.empty() ? "" : joined(photos) + "; ") + said("albums: {0}", joined(albums));
+}
+
+} // namespace
+
+void printDifferenceTable(const LibraryDifference &difference, std::ostream &out)
+{
+    if (!difference.isNone()) {
+        TextTable table({{said("CHANGE")}, {said("FILE")}, {said("WHAT")}});
+        for (const AlbumDifference &album : difference.albums)
+            addRow(table, album);
+        for (const PhotoDifference &photo : difference.photos.differences)
+            addRow(table, photo);
+        table.print(out);
+        out << '\n';
+    }
+    out << summary(difference) << '\n';
+}
+
+} // namespace iosphoto::tool

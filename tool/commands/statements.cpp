@@ -1,0 +1,178 @@
+#include "commands/command.h"
+#include "commands/library_options.h"
+#include "commands/looks_like.h"
+#include "language/said.h"
+#include "output/file_use_observer.h"
+#include "output/json_document.h"
+#include "output/notice.h"
+#include "output/printable.h"
+#include "source/build_statements.h"
+#include "source/private_copy.h"
+#include "source/schema_probe.h"
+#include "source/usual_entity_numbers.h"
+
+#include <algorithm>
+
+namespace iosphoto::tool {
+
+namespace {
+
+struct StatementsRequest
+{
+    std::string source; ///< empty for the usual numbers of the version
+    Device device;
+    bool asJson = false;
+};
+
+/// What the statements are for.
+struct Target
+{
+    Device device;
+    NumberSource numbers;
+    std::string warning; ///< that version and schema disagree; empty if they do not
+};
+
+Target readTarget(const StatementsRequest &request)
+{
+    const Source source(request.source);
+    FileUseObserver::announceReading(source.inputs());
+    const PrivateCopy copy(source);
+    const CopyDatabase database(copy.database(), source.databaseName());
+    const ProbedSchema schema =
+        probe(database, request.device, source.device().value_or(RecordedDevice()));
+    return {schema.device, {schema.numbers, true}, schema.warning};
+}
+
+Target usualTarget(const Device &wanted)
+{
+    if (wanted.iosVersion.empty())
+        throw Failure(WrongUsage, said("name a SOURCE, or a version with --ios; see iosphoto "
+                                       "statements --help"));
+    Device device = wanted;
+    if (device.productType.empty())
+        device.productType = productThatHidesNoAlbum;
+    return {device, {usualEntityNumbers(device.iosVersion), false}, {}};
+}
+
+bool uses(const BuildStatement &statement, const EntityNumberName &name)
+{
+    return std::count(statement.numbers.begin(), statement.numbers.end(), &name) > 0;
+}
+
+/// The numbers that `statements` need and that are not known.
+std::vector<const EntityNumberName *> unknownNumbers(const Target &target,
+                                                     const std::vector<BuildStatement> &statements)
+{
+    std::vector<const EntityNumberName *> unknown;
+    for (const EntityNumberName &name : entityNumberNames)
+        if (!target.numbers[name] &&
+            std::any_of(statements.begin(), statements.end(),
+                        [&](const BuildStatement &statement) { return uses(statement, name); }))
+            unknown.push_back(&name);
+    return unknown;
+}
+
+/// Where the entity numbers come from.
+std::string origin(const Target &target, const std::vector<BuildStatement> &statements)
+{
+    if (target.numbers.areRead)
+        return said("the entity numbers are those of the database");
+    std::string placeholders;
+    for (const EntityNumberName *name : unknownNumbers(target, statements))
+        placeholders += (placeholders.empty() ? "" : ", ") + std::string(name->placeholder);
+    if (placeholders.empty())
+        return said("the entity numbers are those that databases of iOS {0} usually have; compare "
+                    "them with what the first three statements find in yours, or name it as SOURCE",
+                    target.device.iosVersion);
+    return said("not all entity numbers of iOS {0} are known; put what the first three statements "
+                "find in place of {1}, or name a database as SOURCE",
+                target.device.iosVersion, placeholders);
+}
+
+/// A line of a script, whatever a source says of its device.
+std::string comment(const std::string &text)
+{
+    return "-- " + printable(text) + "\n";
+}
+
+std::string numberComment(const EntityNumberName &name, const std::optional<std::int32_t> &number)
+{
+    if (number)
+        return comment(said("entity number of {0}: {1}", name.entity, *number));
+    return comment(said("{0}, entity number of {1}: {2} as {3} finds it", name.placeholder,
+                        name.entity, name.column, name.lookup->name));
+}
+
+void printScript(const Target &target, const std::vector<BuildStatement> &statements,
+                 std::ostream &out)
+{
+    out << comment(said("iOS {0}, {1}: the statements of a build, in the order in which it runs "
+                        "them",
+                        target.device.iosVersion, target.device.productType))
+        << comment(origin(target, statements));
+    for (const BuildStatement &statement : statements) {
+        out << '\n'
+            << comment(said("pass {0}, statement {1}.sql: {2}", statement.pass, statement.name,
+                            statement.variant));
+        for (const EntityNumberName *name : statement.numbers)
+            out << numberComment(*name, target.numbers[*name]);
+        out << statement.sql << ";\n";
+    }
+}
+
+void printAsJson(const Target &target, const std::vector<BuildStatement> &statements,
+                 std::ostream &out)
+{
+    Json document = {{"iosVersion", target.device.iosVersion},
+                     {"productType", target.device.productType},
+                     {"numbersAreRead", target.numbers.areRead}};
+    Json &entries = document["statements"] = Json::array();
+    for (const BuildStatement &statement : statements) {
+        Json numbers = Json::object();
+        for (const EntityNumberName &name : entityNumberNames) {
+            const std::optional<std::int32_t> number = target.numbers[name];
+            numbers[name.key] = uses(statement, name) && number ? Json(*number) : Json();
+        }
+        entries.push_back({{"pass", statement.pass},
+                           {"name", statement.name},
+                           {"sql", statement.sql},
+                           {"entityNumbers", std::move(numbers)}});
+    }
+    print(document, out);
+}
+
+ExitStatus showStatements(const StatementsRequest &request, std::ostream &out)
+{
+    const Target target =
+        request.source.empty() ? usualTarget(request.device) : readTarget(request);
+    const std::vector<BuildStatement> statements = statementsOfBuild(target.device, target.numbers);
+    if (!target.numbers.areRead)
+        notice(origin(target, statements));
+    if (!target.warning.empty())
+        notice(target.warning);
+    (request.asJson ? printAsJson : printScript)(target, statements, out);
+    return Good;
+}
+
+} // namespace
+
+Command addStatements(CLI::App &app)
+{
+    const auto request = std::make_shared<StatementsRequest>();
+    CLI::App *command = app.add_subcommand(
+        "statements", said("Print the SQL that reads a library, to run it in the sqlite3 shell"));
+    command
+        ->add_option("SOURCE", request->source,
+                     said("library whose version and entity numbers to fill in; without it --ios "
+                          "is needed and the numbers are the usual ones"))
+        ->check(notEmpty());
+    addDeviceOptions(*command, request->device);
+    command->add_flag("--json", request->asJson, said("print a JSON document"));
+    command->footer(said("Examples:") +
+                    "\n  iosphoto statements Photos.sqlite > passes.sql\n"
+                    "  sqlite3 -readonly Photos.sqlite < passes.sql\n"
+                    "  iosphoto statements --ios 17.4 --product iPhone14,2 --json");
+    return {command, [request](std::ostream &out) { return showStatements(*request, out); }};
+}
+
+} // namespace iosphoto::tool
