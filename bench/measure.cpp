@@ -1,0 +1,58 @@
+#include "measure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ctime>
+
+namespace iosphoto::bench {
+
+namespace {
+
+constexpr double longEnough = 0.2; // seconds of a round
+
+/// How often a round repeats what takes this long. This run also fills the caches.
+int repetitions(const Run &run)
+{
+    constexpr double shortest = 1e-6;
+    return std::max(1, static_cast<int>(std::ceil(longEnough / std::max(run(), shortest))));
+}
+
+} // namespace
+
+double processorSeconds()
+{
+    timespec time = {};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+Comparison compare(const Run &floor, const Run &library, int rounds)
+{
+    const int times = repetitions(floor);
+    std::vector<double> floors;
+    std::vector<double> libraries;
+    std::vector<double> ratios;
+    for (int round = 0; round < rounds; ++round) {
+        double ofFloor = 0;
+        double ofLibrary = 0;
+        for (int i = 0; i < times; ++i) {
+            ofFloor += floor();
+            ofLibrary += library();
+        }
+        floors.push_back(ofFloor / times);
+        libraries.push_back(ofLibrary / times);
+        ratios.push_back(ofLibrary / ofFloor);
+    }
+    return {median(floors), median(libraries), median(ratios)};
+}
+
+double median(std::vector<double> values)
+{
+    if (values.empty())
+        return 0;
+    std::sort(values.begin(), values.end());
+    const std::size_t middle = values.size() / 2;
+    return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+} // namespace iosphoto::bench

@@ -1,0 +1,42 @@
+#ifndef IOSPHOTO_BENCH_MEASURE_H
+#define IOSPHOTO_BENCH_MEASURE_H
+
+#include <functional>
+#include <vector>
+
+namespace iosphoto::bench {
+
+/// Processor time that this process has used, in seconds.
+double processorSeconds();
+
+/// What a call takes of it.
+template <typename Call>
+double secondsOf(Call call)
+{
+    const double before = processorSeconds();
+    call();
+    return processorSeconds() - before;
+}
+
+/// One run of something: the processor time in seconds that counts, without preparing and clearing
+/// up.
+using Run = std::function<double()>;
+
+/// The medians of several rounds.
+struct Comparison
+{
+    double floorSeconds;
+    double librarySeconds;
+    double ratio; ///< library to floor within one round
+};
+
+/// Runs both in turns, so that what slows the machine down meets both. The short ones run as often
+/// in a round as it takes to be long enough for the clock.
+Comparison compare(const Run &floor, const Run &library, int rounds);
+
+/// The middle one, or the mean of the two in the middle; 0 of none.
+double median(std::vector<double> values);
+
+} // namespace iosphoto::bench
+
+#endif // IOSPHOTO_BENCH_MEASURE_H

@@ -1,0 +1,138 @@
+-- The tables of an iOS 15 photo library that the statements read, with the columns of a real one in
+-- its order: SQLite decodes a row up to the last column asked for. The entity numbers are those of
+-- iOS 15. The indexes stand apart, as a large table is filled faster without.
+
+create table Z_PRIMARYKEY (
+    Z_ENT integer primary key, Z_NAME varchar, Z_SUPER integer, Z_MAX integer
+);
+
+insert into Z_PRIMARYKEY values
+    (1, 'AdditionalAssetAttributes', 0, 0), (2, 'AlbumList', 0, 0), (3, 'Asset', 0, 0),
+    (4, 'AssetAnalysisState', 0, 0), (5, 'AssetDescription', 0, 0),
+    (6, 'CharacterRecognitionAttributes', 0, 0), (7, 'CloudFeedEntry', 0, 0),
+    (8, 'CloudFeedAssetsEntry', 7, 0), (9, 'CloudFeedCommentsEntry', 7, 0),
+    (10, 'CloudMaster', 0, 0), (11, 'CloudMasterMediaMetadata', 0, 0),
+    (12, 'CloudResource', 0, 0), (13, 'CloudSharedAlbumInvitationRecord', 0, 0),
+    (14, 'CloudSharedComment', 0, 0), (15, 'ComputedAssetAttributes', 0, 0),
+    (16, 'DeferredRebuildFace', 0, 0), (17, 'DetectedFace', 0, 0),
+    (18, 'DetectedFaceGroup', 0, 0), (19, 'DetectedFaceprint', 0, 0),
+    (20, 'DetectionTrait', 0, 0), (21, 'EditedIPTCAttributes', 0, 0),
+    (22, 'ExtendedAttributes', 0, 0), (23, 'FaceCrop', 0, 0), (24, 'FileSystemBookmark', 0, 0),
+    (25, 'FileSystemVolume', 0, 0), (26, 'GenericAlbum', 0, 0), (27, 'Album', 26, 0),
+    (28, 'CloudSharedAlbum', 27, 0), (29, 'LegacyFaceAlbum', 27, 0),
+    (30, 'PhotoStreamAlbum', 27, 0), (31, 'ProjectAlbum', 27, 0), (32, 'Conversation', 26, 0),
+    (33, 'FetchingAlbum', 26, 0), (34, 'Folder', 26, 0), (35, 'ImportSession', 26, 0),
+    (36, 'GlobalKeyValue', 0, 0), (37, 'InternalResource', 0, 0), (38, 'Keyword', 0, 0),
+    (39, 'LegacyFace', 0, 0), (40, 'LimitedLibraryFetchFilter', 0, 0),
+    (41, 'MediaAnalysisAssetAttributes', 0, 0), (42, 'Memory', 0, 0),
+    (43, 'MigrationHistory', 0, 0), (44, 'Moment', 0, 0), (45, 'Person', 0, 0),
+    (46, 'PersonReference', 0, 0), (47, 'PhotosHighlight', 0, 0), (48, 'Question', 0, 0),
+    (49, 'SceneClassification', 0, 0), (50, 'Sceneprint', 0, 0), (51, 'Share', 0, 0),
+    (52, 'LibraryScope', 51, 0), (53, 'MomentShare', 51, 0), (54, 'ShareParticipant', 0, 0),
+    (55, 'Suggestion', 0, 0), (56, 'UnmanagedAdjustment', 0, 0), (57, 'UserFeedback', 0, 0),
+    (58, 'VisualSearchAttributes', 0, 0), (16001, 'CHANGE', 0, 0), (16002, 'TRANSACTION', 0, 0),
+    (16003, 'TRANSACTIONSTRING', 0, 0);
+
+create table ZASSET (
+    Z_PK integer primary key, Z_ENT integer, Z_OPT integer, ZAVALANCHEPICKTYPE integer,
+    ZBUNDLESCOPE integer, ZCAMERAPROCESSINGADJUSTMENTSTATE integer, ZCLOUDDELETESTATE integer,
+    ZCLOUDDOWNLOADREQUESTS integer, ZCLOUDHASCOMMENTSBYME integer,
+    ZCLOUDHASCOMMENTSCONVERSATION integer, ZCLOUDHASUNSEENCOMMENTS integer,
+    ZCLOUDISDELETABLE integer, ZCLOUDISMYASSET integer, ZCLOUDLOCALSTATE integer,
+    ZCLOUDPLACEHOLDERKIND integer, ZCOMPLETE integer, ZDEFERREDPROCESSINGNEEDED integer,
+    ZDEPTHTYPE integer, ZDERIVEDCAMERACAPTUREDEVICE integer, ZFACEAREAPOINTS integer,
+    ZFAVORITE integer, ZHASADJUSTMENTS integer, ZHDRTYPE integer, ZHEIGHT integer,
+    ZHIDDEN integer, ZHIGHFRAMERATESTATE integer, ZKIND integer, ZKINDSUBTYPE integer,
+    ZORIENTATION integer, ZPACKEDACCEPTABLECROPRECT integer, ZPACKEDBADGEATTRIBUTES integer,
+    ZPACKEDPREFERREDCROPRECT integer, ZPLAYBACKSTYLE integer, ZPLAYBACKVARIATION integer,
+    ZSAVEDASSETTYPE integer, ZSYNDICATIONSTATE integer, ZTHUMBNAILINDEX integer,
+    ZTRASHEDSTATE integer, ZVIDEOCPDURATIONVALUE integer, ZVIDEOCPVISIBILITYSTATE integer,
+    ZVIDEODEFERREDPROCESSINGNEEDED integer, ZVIDEOKEYFRAMETIMESCALE integer,
+    ZVIDEOKEYFRAMEVALUE integer, ZVISIBILITYSTATE integer, ZWIDTH integer,
+    ZADDITIONALATTRIBUTES integer, ZCLOUDFEEDASSETSENTRY integer, ZCOMPUTEDATTRIBUTES integer,
+    ZCONVERSATION integer, ZDAYGROUPHIGHLIGHTBEINGASSETS integer,
+    ZDAYGROUPHIGHLIGHTBEINGEXTENDEDASSETS integer, ZDAYGROUPHIGHLIGHTBEINGKEYASSET integer,
+    ZDAYGROUPHIGHLIGHTBEINGSUMMARYASSETS integer, ZEXTENDEDATTRIBUTES integer,
+    ZHIGHLIGHTBEINGASSETS integer, ZHIGHLIGHTBEINGEXTENDEDASSETS integer,
+    ZHIGHLIGHTBEINGKEYASSET integer, ZHIGHLIGHTBEINGSUMMARYASSETS integer, ZIMPORTSESSION integer,
+    ZLIBRARYSCOPE integer, ZLIBRARYSCOPEORIGINATOR integer, ZMASTER integer,
+    ZMEDIAANALYSISATTRIBUTES integer, ZMOMENT integer, ZMOMENTSHARE integer,
+    ZMONTHHIGHLIGHTBEINGFIRSTASSET integer, ZMONTHHIGHLIGHTBEINGKEYASSET integer,
+    ZYEARHIGHLIGHTBEINGKEYASSET integer, Z_FOK_CLOUDFEEDASSETSENTRY integer, ZADDEDDATE timestamp,
+    ZADJUSTMENTTIMESTAMP timestamp, ZANALYSISSTATEMODIFICATIONDATE timestamp,
+    ZCLOUDBATCHPUBLISHDATE timestamp, ZCLOUDLASTVIEWEDCOMMENTDATE timestamp,
+    ZCLOUDSERVERPUBLISHDATE timestamp, ZCURATIONSCORE float, ZDATECREATED timestamp,
+    ZDURATION float, ZFACEADJUSTMENTVERSION timestamp, ZHDRGAIN float,
+    ZHIGHLIGHTVISIBILITYSCORE float, ZLASTSHAREDDATE timestamp, ZLATITUDE float, ZLONGITUDE float,
+    ZMODIFICATIONDATE timestamp, ZOVERALLAESTHETICSCORE float, ZPROMOTIONSCORE float,
+    ZSORTTOKEN float, ZTRASHEDDATE timestamp, ZAVALANCHEUUID varchar, ZCLOUDASSETGUID varchar,
+    ZCLOUDBATCHID varchar, ZCLOUDCOLLECTIONGUID varchar, ZCLOUDOWNERHASHEDPERSONID varchar,
+    ZDIRECTORY varchar, ZFILENAME varchar, ZMEDIAGROUPUUID varchar, ZORIGINALCOLORSPACE varchar,
+    ZUNIFORMTYPEIDENTIFIER varchar, ZUUID varchar, ZIMAGEREQUESTHINTS blob, ZLOCATIONDATA blob,
+    ZISMAGICCARPET integer
+);
+
+create table ZADDITIONALASSETATTRIBUTES (
+    Z_PK integer primary key, Z_ENT integer, Z_OPT integer, ZALLOWEDFORANALYSIS integer,
+    ZCAMERACAPTUREDEVICE integer, ZCLOUDAVALANCHEPICKTYPE integer, ZCLOUDKINDSUBTYPE integer,
+    ZCLOUDRECOVERYSTATE integer, ZCLOUDSTATERECOVERYATTEMPTSCOUNT integer,
+    ZDEFERREDPROCESSINGCANDIDATEOPTIONS integer, ZDESTINATIONASSETCOPYSTATE integer,
+    ZEMBEDDEDTHUMBNAILHEIGHT integer, ZEMBEDDEDTHUMBNAILLENGTH integer,
+    ZEMBEDDEDTHUMBNAILOFFSET integer, ZEMBEDDEDTHUMBNAILWIDTH integer, ZIMPORTEDBY integer,
+    ZINFERREDTIMEZONEOFFSET integer, ZLOCATIONHASH integer, ZORIGINALFILESIZE integer,
+    ZORIGINALHEIGHT integer, ZORIGINALORIENTATION integer, ZORIGINALRESOURCECHOICE integer,
+    ZORIGINALWIDTH integer, ZPENDINGPLAYCOUNT integer, ZPENDINGSHARECOUNT integer,
+    ZPENDINGVIEWCOUNT integer, ZPLAYCOUNT integer, ZPTPTRASHEDSTATE integer,
+    ZREVERSELOCATIONDATAISVALID integer, ZSCENEANALYSISVERSION integer, ZSHARECOUNT integer,
+    ZSHARETYPE integer, ZSHIFTEDLOCATIONISVALID integer, ZTIMEZONEOFFSET integer,
+    ZUPLOADATTEMPTS integer, ZVARIATIONSUGGESTIONSTATES integer, ZVIDEOCPDISPLAYTIMESCALE integer,
+    ZVIDEOCPDISPLAYVALUE integer, ZVIDEOCPDURATIONTIMESCALE integer, ZVIEWCOUNT integer,
+    ZASSET integer, ZASSETDESCRIPTION integer, ZEDITEDIPTCATTRIBUTES integer,
+    ZMEDIAMETADATA integer, ZSCENEPRINT integer, ZUNMANAGEDADJUSTMENT integer,
+    ZALTERNATEIMPORTIMAGEDATE timestamp, ZGPSHORIZONTALACCURACY float,
+    ZLASTUPLOADATTEMPTDATE timestamp, ZSCENEANALYSISTIMESTAMP timestamp,
+    ZACCESSIBILITYDESCRIPTION varchar, ZADJUSTEDFINGERPRINT varchar,
+    ZIMPORTEDBYBUNDLEIDENTIFIER varchar, ZDEFERREDPHOTOIDENTIFIER varchar,
+    ZEDITORBUNDLEID varchar, ZEXIFTIMESTAMPSTRING varchar, ZIMPORTSESSIONID varchar,
+    ZMASTERFINGERPRINT varchar, ZMEDIAMETADATATYPE varchar, ZMONTAGE varchar,
+    ZORIGINALASSETSUUID varchar, ZORIGINALFILENAME varchar, ZORIGINATINGASSETIDENTIFIER varchar,
+    ZPHOTOSTREAMTAGID varchar, ZPUBLICGLOBALUUID varchar, ZSHAREORIGINATOR varchar,
+    ZSNOWDAYSNOWPLOWIDENTIFIER varchar, ZSPATIALOVERCAPTUREGROUPIDENTIFIER varchar,
+    ZTIMEZONENAME varchar, ZTITLE varchar, ZDISTANCEIDENTITY blob, ZFACEREGIONS blob,
+    ZOBJECTSALIENCYRECTSDATA blob, ZORIGINALHASH blob, ZPLACEANNOTATIONDATA blob,
+    ZREVERSELOCATIONDATA blob, ZSHIFTEDLOCATIONDATA blob, ZIMPORTEDBYDISPLAYNAME varchar,
+    ZSYNDICATIONIDENTIFIER varchar, ZSOURCEASSETFORDUPLICATIONSCOPEIDENTIFIER varchar,
+    ZSOURCEASSETFORDUPLICATIONIDENTIFIER varchar, ZSCENEANALYSISISFROMPREVIEW integer,
+    ZDATECREATEDSOURCE integer, ZFACEANALYSISVERSION integer, ZSYNDICATIONHISTORY integer
+);
+
+create table ZGENERICALBUM (
+    Z_PK integer primary key, Z_ENT integer, Z_OPT integer, ZCACHEDCOUNT integer,
+    ZCACHEDPHOTOSCOUNT integer, ZCACHEDVIDEOSCOUNT integer, ZCLOUDDELETESTATE integer,
+    ZCLOUDLOCALSTATE integer, ZCUSTOMSORTASCENDING integer, ZCUSTOMSORTKEY integer,
+    ZISPINNED integer, ZISPROTOTYPE integer, ZKIND integer, ZPENDINGITEMSCOUNT integer,
+    ZPENDINGITEMSTYPE integer, ZSYNCEVENTORDERKEY integer, ZTRASHEDSTATE integer,
+    ZCUSTOMKEYASSET integer, ZKEYASSET integer, ZPARENTFOLDER integer, ZSECONDARYKEYASSET integer,
+    ZTERTIARYKEYASSET integer, ZCLOUDALBUMSUBTYPE integer,
+    ZCLOUDMULTIPLECONTRIBUTORSENABLED integer, ZCLOUDMULTIPLECONTRIBUTORSENABLEDLOCAL integer,
+    ZCLOUDNOTIFICATIONSENABLED integer, ZCLOUDOWNEREMAILKEY integer,
+    ZCLOUDOWNERISWHITELISTED integer, ZCLOUDPUBLICURLENABLED integer,
+    ZCLOUDPUBLICURLENABLEDLOCAL integer, ZCLOUDRELATIONSHIPSTATE integer,
+    ZCLOUDRELATIONSHIPSTATELOCAL integer, ZHASUNSEENCONTENT integer, ZISOWNED integer,
+    ZUNSEENASSETSCOUNT integer, ZKEYASSETFACEIDENTIFIER integer,
+    ZKEYASSETFACETHUMBNAILINDEX integer, ZSYNDICATE integer, Z_FOK_PARENTFOLDER integer,
+    ZCREATIONDATE timestamp, ZENDDATE timestamp, ZSTARTDATE timestamp, ZTRASHEDDATE timestamp,
+    ZCLOUDCREATIONDATE timestamp, ZCLOUDLASTCONTRIBUTIONDATE timestamp,
+    ZCLOUDLASTINTERESTINGCHANGEDATE timestamp, ZCLOUDSUBSCRIPTIONDATE timestamp,
+    ZCLOUDGUID varchar, ZIMPORTSESSIONID varchar, ZIMPORTEDBYBUNDLEIDENTIFIER varchar,
+    ZTITLE varchar, ZUUID varchar, ZCLOUDOWNERFIRSTNAME varchar, ZCLOUDOWNERFULLNAME varchar,
+    ZCLOUDOWNERHASHEDPERSONID varchar, ZCLOUDOWNERLASTNAME varchar, ZCLOUDPERSONID varchar,
+    ZPUBLICURL varchar, ZPROJECTDOCUMENTTYPE varchar, ZPROJECTEXTENSIONIDENTIFIER varchar,
+    ZPROJECTRENDERUUID varchar, ZCUSTOMQUERYTYPE varchar, ZCLOUDMETADATA blob,
+    ZUSERQUERYDATA blob, ZPROJECTDATA blob, ZCUSTOMQUERYPARAMETERS blob
+);
+
+create table Z_27ASSETS (
+    Z_27ALBUMS integer, Z_3ASSETS integer, Z_FOK_3ASSETS integer,
+    primary key (Z_27ALBUMS, Z_3ASSETS)
+);
