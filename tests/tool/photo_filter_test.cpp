@@ -1,5 +1,6 @@
 #include "support/case_name.h"
 #include "support/expect_failure.h"
+#include "support/listing_case.h"
 #include "support/run_on.h"
 
 using namespace iosphoto::test;
@@ -28,26 +29,12 @@ private:
     LibraryBuilder library_{ios15};
 };
 
-struct Filter
-{
-    std::vector<std::string> arguments;
-    std::vector<std::string> names;
-
-    std::string name() const
-    {
-        std::string all;
-        for (const std::string &argument : arguments)
-            all += argument;
-        return all;
-    }
-};
-
-std::ostream &operator<<(std::ostream &stream, const Filter &filter)
+const Filter &filter)
 {
     return stream << filter.name();
 }
 
-const Filter filters[] = {
+const ListingCase filters[] = {
     {{}, {"1.JPG", "2.MOV", "3.JPG", "4.MOV", "5.JPG", "6.JPG", "7.JPG"}},
     {{"--favorite"}, {"1.JPG", "2.MOV"}},
     {{"--hidden"}, {"5.JPG"}},
@@ -74,7 +61,7 @@ const Filter filters[] = {
 
 } // namespace
 
-class ToolPhotoFilter : public testing::TestWithParam<Filter>
+class ToolPhotoFilter : public testing::TestWithParam<ListingCase>
 {
 };
 

@@ -1,4 +1,5 @@
 #include "support/case_name.h"
+#include "support/listing_case.h"
 #include "support/run_on.h"
 
 #include <gtest/gtest.h>
@@ -7,26 +8,12 @@ using namespace iosphoto::test;
 
 namespace {
 
-struct Order
-{
-    std::vector<std::string> arguments;
-    std::vector<std::string> names;
-
-    std::string name() const
-    {
-        std::string all;
-        for (const std::string &argument : arguments)
-            all += argument;
-        return all;
-    }
-};
-
-std::ostream &operator<<(std::ostream &stream, const Order &order)
+const Order &order)
 {
     return stream << order.name();
 }
 
-const Order orders[] = {
+const ListingCase orders[] = {
     {{}, {"b.JPG", "A.MOV", "c.MOV", "d.JPG"}},
     {{"--sort", "date"}, {"b.JPG", "A.MOV", "c.MOV", "d.JPG"}},
     {{"--reverse"}, {"d.JPG", "c.MOV", "A.MOV", "b.JPG"}},
@@ -45,7 +32,7 @@ const Order orders[] = {
 
 } // namespace
 
-class ToolPhotoOrder : public testing::TestWithParam<Order>
+class ToolPhotoOrder : public testing::TestWithParam<ListingCase>
 {
 };
 

@@ -25,7 +25,8 @@ Value number(std::int64_t number)
 /// The name that somebody gave; built-in albums are called by their kind.
 Value ownName(const Row &row)
 {
-    return isOfTheTable(row.album) ? text(row.album.albumName.toStdString()) : Value();
+    return row.album.albumKind == AlbumKind::User ? text(row.album.albumName.toStdString())
+                                                  : Value();
 }
 
 std::vector<Field<Row>> facts()
