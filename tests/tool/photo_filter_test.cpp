@@ -29,11 +29,6 @@ private:
     LibraryBuilder library_{ios15};
 };
 
-const Filter &filter)
-{
-    return stream << filter.name();
-}
-
 const ListingCase filters[] = {
     {{}, {"1.JPG", "2.MOV", "3.JPG", "4.MOV", "5.JPG", "6.JPG", "7.JPG"}},
     {{"--favorite"}, {"1.JPG", "2.MOV"}},

@@ -8,11 +8,6 @@ using namespace iosphoto::test;
 
 namespace {
 
-const Order &order)
-{
-    return stream << order.name();
-}
-
 const ListingCase orders[] = {
     {{}, {"b.JPG", "A.MOV", "c.MOV", "d.JPG"}},
     {{"--sort", "date"}, {"b.JPG", "A.MOV", "c.MOV", "d.JPG"}},
