@@ -86,7 +86,7 @@ Failure tooMany(const FileTree &tree, const std::string &shownName, const std::v
 {
     std::string names;
     for (const Find &find : finds)
-        names += (names.empty() ? "'" : ", '") + tree.shown(find.path) + "'";
+        names += (names.empty() ? "" : said(", ")) + said("'{0}'", tree.shown(find.path));
     const bool areBackups = std::all_of(finds.begin(), finds.end(), [](const Find &find) {
         return find.kind == SourceKind::Backup;
     });
