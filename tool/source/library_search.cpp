@@ -119,7 +119,7 @@ std::unique_ptr<LibraryLayout> findLibrary(const FileTree &tree, const std::stri
     if (finds.empty())
         throw Failure(WrongKindOfFile,
                       said("'{0}' holds no photo library: neither {1}, such as in the Media folder "
-                           "of a phone, nor the Manifest.db of a backup",
+                           "of a phone, nor the Manifest.db of a backup; name another source",
                            shownName, databaseBelowMedia));
     if (finds.size() > 1)
         throw tooMany(tree, shownName, finds);
