@@ -22,10 +22,11 @@ TEST_F(ToolBadInput, WrongUsage)
     expectFailure(runTool({"sing", "a.sqlite"}), "", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--loud"}), "", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--ios", "new"}),
-                  "--ios: 'new' is not of the form of 17.4", 2);
+                  "--ios: 'new' should look like 17.4", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--product", "iPhone 14"}),
-                  "--product: 'iPhone 14' is not of the form of iPhone14,2", 2);
-    expectFailure(runTool({"albums", "a.sqlite", "--ios", ""}), "--ios: '' is not of the form", 2);
+                  "--product: 'iPhone 14' should look like iPhone14,2", 2);
+    expectFailure(runTool({"albums", "a.sqlite", "--ios", ""}), "--ios: '' should look like 17.4",
+                  2);
     expectFailure(runTool({"albums", "a.sqlite", "--product", std::string(120000, 'a')}),
                   "--product: 'aaa", 2);
 }
@@ -53,7 +54,7 @@ TEST_F(ToolBadInput, PathThatNamesNoFile)
     const fs::path pipe = folder_ / "pipe";
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
     expectFailure(runTool({"albums", pipe.string()}),
-                  "cannot read " + quoted(pipe) + ": it is not a file", 3);
+                  "cannot read " + quoted(pipe) + ": it is not a file; name a file", 3);
 }
 
 TEST_F(ToolBadInput, FileThatThisUserMayNotRead)

@@ -24,6 +24,9 @@ struct CommandCase
 const CommandCase commands[] = {
     {"albums", {"--ios", "--product", "--as-of", "--json"}},
     {"photos", {"--ios", "--product", "--as-of", "--album", "--json"}},
+    {"diff", {"--ios", "--product", "--json", "--jsonl", "--csv"}},
+    {"info", {"--ios", "--product", "--as-of", "--json"}},
+    {"statements", {"--ios", "--product", "--json"}},
     {"thumb", {"-o,--output", "--index", "--all", "--png", "--sheet", "--json"}},
 };
 
@@ -129,7 +132,7 @@ TEST_F(ToolLanguage, OfAKindOfAlbums)
     const ToolRun chinese =
         runTool({"photos", library.path(), "--album", "个人收藏", "-q", "--lang", "zh"});
     EXPECT_THAT(english.out, HasSubstr("Camera Roll, Favorites\n"));
-    EXPECT_THAT(chinese.out, HasSubstr("相机胶卷, 个人收藏\n"));
+    EXPECT_THAT(chinese.out, HasSubstr("相机胶卷、个人收藏\n"));
 }
 
 TEST(ToolGeneralOptions, TakeNoOtherValues)
@@ -207,5 +210,5 @@ INSTANTIATE_TEST_SUITE_P(
                   {"thumb", "x", "--index", "1"},
                   "--index requires --output",
                   "--index 需要与 --output 一起使用"},
-        UsageCase{"no file", {"thumb", ""}, "CACHE: names no file", "CACHE: 未指定文件"}),
+        UsageCase{"no file", {"thumb", ""}, "CACHE: names no file", "CACHE：未指定文件"}),
     NameOfCase());

@@ -71,9 +71,11 @@ INSTANTIATE_TEST_SUITE_P(Filters, ToolPhotoFilter, testing::ValuesIn(filters), N
 
 TEST(ToolPhotoFilters, TrashedEarlierThanWithinTheDaysDoesNotFit)
 {
-    EXPECT_EQ(runOn(ManyKinds().library(), "photos",
-                    {"--deleted", "--within", "9", "--fields", "fileName"}),
-              (ToolRun{"fileName\n", "iosphoto: none of the 7 photos fits\n", 0}));
+    EXPECT_EQ(
+        runOn(ManyKinds().library(), "photos",
+              {"--deleted", "--within", "9", "--fields", "fileName"}),
+        (ToolRun{"fileName\n",
+                 "iosphoto: none of the 7 photos fits; leave out an option to see more\n", 0}));
 }
 
 TEST(ToolPhotoFilters, ListsOfAnOptionEndWhereTheSourceBegins)
@@ -108,6 +110,8 @@ TEST(ToolPhotoFilters, MistakesAreWrongUsage)
     expectFailure(photos({"--since", "yesterday"}), "--since: 'yesterday' is no time", 2);
     expectFailure(photos({"--until", "2020-13-01"}), "--until: '2020-13-01' is no time", 2);
     expectFailure(photos({"--within", "3"}), "--within requires --deleted", 2);
-    expectFailure(photos({"--deleted", "--within", "-1"}), "--within: ", 2);
-    expectFailure(photos({"--limit", "0"}), "--limit: ", 2);
+    expectFailure(photos({"--deleted", "--within", "-1"}), "--within: '-1' should look like 7", 2);
+    expectFailure(photos({"--deleted", "--within", "99999999999"}),
+                  "--within = 99999999999: the number is too large", 2);
+    expectFailure(photos({"--limit", "0"}), "--limit: '0' should look like 20", 2);
 }

@@ -81,7 +81,8 @@ TEST_F(ToolPhotos, AlbumThatIsNotThereIsOneLineThoughTheDeviceWasGuessed)
 
 TEST_F(ToolPhotos, WhereNoneFitsThereAreHeadingsAndANotice)
 {
-    const std::string notice = "iosphoto: none of the 3 photos fits\n";
+    const std::string notice =
+        "iosphoto: none of the 3 photos fits; leave out an option to see more\n";
     EXPECT_EQ(photos({"--album", "recently-deleted"}),
               (ToolRun{"DAY  FILE  PIXELS  SIZE  WHAT  ALBUMS\n", notice, 0}));
     EXPECT_EQ(photos({"--edited", "--csv", "--fields", "uuid,path"}),

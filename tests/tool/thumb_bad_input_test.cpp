@@ -48,8 +48,9 @@ TEST_F(ToolThumbBadInput, WrongUsage)
     expectFailure(thumb({"--all"}), "--all requires --output", 2);
     expectFailure(thumb({"-o", path("x")}), "--output requires --index or --all", 2);
     expectFailure(thumb({"--index", "-1", "-o", path("x")}),
-                  "--index: '-1' is not of the form of 7; see iosphoto --help\n", 2);
-    expectFailure(thumb({"--index", "0x1", "-o", path("x")}), "--index: '0x1' is not of the", 2);
+                  "--index: '-1' should look like 7; see iosphoto --help\n", 2);
+    expectFailure(thumb({"--index", "0x1", "-o", path("x")}), "--index: '0x1' should look like 7",
+                  2);
     expectFailure(thumb({"--index", "0", "-o", ""}), "--output: names no file; see", 2);
     expectFailure(thumb({"--sheet", ""}), "--sheet: names no file; see", 2);
     expectFailure(thumb({"--index", "0", "--all", "-o", path("x")}), "--index excludes --all", 2);
@@ -84,7 +85,7 @@ TEST_F(ToolThumbBadInput, PathThatNamesNoFile)
                   3);
     ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
     expectFailure(runTool({"thumb", path("pipe")}),
-                  "cannot read '" + path("pipe") + "': it is not a file", 3);
+                  "cannot read '" + path("pipe") + "': it is not a file; name a file", 3);
 }
 
 TEST_F(ToolThumbBadInput, FileThatThisUserMayNotRead)
@@ -178,7 +179,7 @@ TEST_F(ToolThumbBadInput, OutputThatIsNoFileOrFolder)
                   "cannot write " + quoted(folder_.path()) + ": it is a folder; name a file in it",
                   3);
     expectFailure(thumb({"--index", "0", "-o", "/dev/null"}),
-                  "cannot write '/dev/null': it is not a file", 3);
+                  "cannot write '/dev/null': it is not a file; name a file", 3);
     expectFailure(thumb({"--index", "0", "-o", path("none/x.bmp")}),
                   "cannot write '" + path("none/x.bmp") + "': No such file or directory; choose",
                   3);

@@ -1,6 +1,7 @@
 #include "catalogue/album_difference.h"
 
 #include "catalogue/album_kinds.h"
+#include "language/said.h"
 
 #include <cctype>
 #include <map>
@@ -42,13 +43,13 @@ const char *changeName(AlbumChange change)
 {
     switch (change) {
     case AlbumChange::New:
-        return "new";
+        return translatable("new");
     case AlbumChange::Gone:
-        return "gone";
+        return translatable("gone");
     case AlbumChange::Renamed:
         break;
     }
-    return "renamed";
+    return translatable("renamed");
 }
 
 std::vector<AlbumDifference> compareAlbums(const std::vector<CAlbumGroup> &before,

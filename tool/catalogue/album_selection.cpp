@@ -34,7 +34,7 @@ std::vector<const CAlbumGroup *> selectAlbums(const Library &library, const std:
     for (const CAlbumGroup &album : library.albums()) {
         if (!fits(album, QString::fromStdString(wanted)))
             continue;
-        listed += (selected.empty() ? "" : ", ") + shownName(album);
+        listed += (selected.empty() ? "" : said(", ")) + shownName(album);
         selected.push_back(&album);
     }
     if (selected.empty())

@@ -1,6 +1,7 @@
 #include "catalogue/difference.h"
 
 #include "catalogue/album_difference.h"
+#include "language/said.h"
 #include "model/core_data_time.h"
 
 #include <algorithm>
@@ -138,21 +139,21 @@ const char *changeName(Change change)
 {
     switch (change) {
     case Change::New:
-        return "new";
+        return translatable("new");
     case Change::Gone:
-        return "gone";
+        return translatable("gone");
     case Change::Trashed:
-        return "trashed";
+        return translatable("trashed");
     case Change::Restored:
-        return "restored";
+        return translatable("restored");
     case Change::Edited:
-        return "edited";
+        return translatable("edited");
     case Change::Moved:
-        return "moved";
+        return translatable("moved");
     case Change::Changed:
         break;
     }
-    return "changed";
+    return translatable("changed");
 }
 
 const char *fieldName(ChangedField field)

@@ -101,7 +101,7 @@ std::string Library::assumptions() const
 {
     const std::string when = localTimeText(asOf_.unixTime);
     return said("reading as {0} and {1}, as of {2}", schema_.iosText(), schema_.productText(),
-                asOf_.why.empty() ? when : when + " (" + asOf_.why + ")");
+                asOf_.why.empty() ? when : said("{0} ({1})", when, asOf_.why));
 }
 
 void Library::sayHowItWasRead(const std::string &label) const
@@ -111,7 +111,7 @@ void Library::sayHowItWasRead(const std::string &label) const
         line = assumptions();
     if (leftOut_ > 0)
         line +=
-            (line.empty() ? "" : "; ") +
+            (line.empty() ? "" : said("; ")) +
             said("left out since they were in the trash for 30 days: {0} (see --as-of)", leftOut_);
     if (!line.empty())
         remark(label + line);

@@ -1,5 +1,7 @@
 #include "catalogue/log_changes.h"
 
+#include "language/said.h"
+
 #include <fmt/format.h>
 
 namespace iosphoto::tool {
@@ -43,13 +45,13 @@ const char *machineName(LogChangeKind kind)
 {
     switch (kind) {
     case Kind::Added:
-        return "added";
+        return translatable("added");
     case Kind::Gone:
-        return "gone";
+        return translatable("gone");
     case Kind::Trashed:
-        return "trashed";
+        return translatable("trashed");
     case Kind::Restored:
-        return "restored";
+        return translatable("restored");
     }
     return "";
 }

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_TRAITS_H
 
 #include "ios_photo.h"
+#include "language/said.h"
 
 namespace iosphoto::tool {
 
@@ -16,23 +17,24 @@ struct Trait
 };
 
 constexpr Trait traits[] = {
-    {&CPhotoData::isVideo, "isVideo", "video", "video"},
-    {&CPhotoData::isTimelapse, "isTimelapse", "time-lapse", "time-lapse"},
-    {&CPhotoData::isSlomo, "isSlomo", "slo-mo", "slo-mo"},
-    {&CPhotoData::isScreenRecording, "isScreenRecording", "screen-recording", "screen recording"},
-    {&CPhotoData::isPanorama, "isPanorama", "panorama", "panorama"},
-    {&CPhotoData::isBurst, "isBurst", "burst", "burst"},
-    {&CPhotoData::isScreenshot, "isScreenshot", "screenshot", "screenshot"},
-    {&CPhotoData::isLivePhoto, "isLivePhoto", "live", "live"},
-    {&CPhotoData::isSelfie, "isSelfie", "selfie", "selfie"},
-    {&CPhotoData::isPortrait, "isPortrait", "portrait", "portrait"},
-    {&CPhotoData::isAnimated, "isAnimated", "animated", "animated"},
-    {&CPhotoData::isRaw, "isRaw", "raw", "RAW"},
-    {&CPhotoData::isProRes, "isProRes", "prores", "ProRes"},
-    {&CPhotoData::isFavorite, "isFavorite", "favorite", "favorite"},
-    {&CPhotoData::isEdited, "isEdited", "edited", "edited"},
-    {&CPhotoData::isHidden, "isHidden", "hidden", "hidden"},
-    {&CPhotoData::isDeleted, "isDeleted", "deleted", "deleted"},
+    {&CPhotoData::isVideo, "isVideo", "video", translatable("video")},
+    {&CPhotoData::isTimelapse, "isTimelapse", "time-lapse", translatable("time-lapse")},
+    {&CPhotoData::isSlomo, "isSlomo", "slo-mo", translatable("slo-mo")},
+    {&CPhotoData::isScreenRecording, "isScreenRecording", "screen-recording",
+     translatable("screen recording")},
+    {&CPhotoData::isPanorama, "isPanorama", "panorama", translatable("panorama")},
+    {&CPhotoData::isBurst, "isBurst", "burst", translatable("burst")},
+    {&CPhotoData::isScreenshot, "isScreenshot", "screenshot", translatable("screenshot")},
+    {&CPhotoData::isLivePhoto, "isLivePhoto", "live", translatable("live")},
+    {&CPhotoData::isSelfie, "isSelfie", "selfie", translatable("selfie")},
+    {&CPhotoData::isPortrait, "isPortrait", "portrait", translatable("portrait")},
+    {&CPhotoData::isAnimated, "isAnimated", "animated", translatable("animated")},
+    {&CPhotoData::isRaw, "isRaw", "raw", translatable("RAW")},
+    {&CPhotoData::isProRes, "isProRes", "prores", translatable("ProRes")},
+    {&CPhotoData::isFavorite, "isFavorite", "favorite", translatable("favorite")},
+    {&CPhotoData::isEdited, "isEdited", "edited", translatable("edited")},
+    {&CPhotoData::isHidden, "isHidden", "hidden", translatable("hidden")},
+    {&CPhotoData::isDeleted, "isDeleted", "deleted", translatable("deleted")},
     {&CPhotoData::inUserAlbum, "isInPhotoStream", "", ""},
 };
 

@@ -15,42 +15,14 @@ std::string joined(const Words &words)
 {
     std::string line;
     for (const std::string &word : words)
-        line += (line.empty() ? "" : ", ") + word;
+        line += (line.empty() ? "" : said(", ")) + word;
     return line;
 }
 
-std::string changeWord(Change change)
+template <typename AnyChange>
+std::string changeWord(AnyChange change)
 {
-    switch (change) {
-    case Change::New:
-        return said("new");
-    case Change::Gone:
-        return said("gone");
-    case Change::Trashed:
-        return said("trashed");
-    case Change::Restored:
-        return said("restored");
-    case Change::Edited:
-        return said("edited");
-    case Change::Moved:
-        return said("moved");
-    case Change::Changed:
-        break;
-    }
-    return said("changed");
-}
-
-std::string albumChangeWord(AlbumChange change)
-{
-    switch (change) {
-    case AlbumChange::New:
-        return said("new");
-    case AlbumChange::Gone:
-        return said("gone");
-    case AlbumChange::Renamed:
-        break;
-    }
-    return said("renamed");
+    return translated(changeName(change));
 }
 
 std::string fieldWords(ChangedField field, const CPhotoData &before, const CPhotoData &after)
@@ -101,7 +73,7 @@ void addRow(TextTable &table, const AlbumDifference &album)
 {
     const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
     const bool isRenamed = album.change == AlbumChange::Renamed;
-    table.add({said("album {0}", albumChangeWord(album.change)), shownName(latest),
+    table.add({said("album {0}", changeWord(album.change)), shownName(latest),
                isRenamed ? said("was named {0}", shownName(*album.before)) : ""});
 }
 
@@ -113,19 +85,25 @@ void addRow(TextTable &table, const PhotoDifference &photo)
     table.add({joined(changes), photo.latest().path(), joined(details(photo))});
 }
 
+/// How many there are of each change, where there are any.
+template <typename Changes>
+Words counts(const LibraryDifference &difference, const Changes &changes)
+{
+    Words words;
+    for (const auto change : changes)
+        if (const int count = difference.count(change); count > 0)
+            words.push_back(said("{0} {1}", grouped(count), changeWord(change)));
+    return words;
+}
+
 std::string summary(const LibraryDifference &difference)
 {
-    Words photos;
-    for (const Change change : allChanges)
-        if (const int count = difference.count(change); count > 0)
-            photos.push_back(said("{0} {1}", grouped(count), changeWord(change)));
-    Words albums;
-    for (const AlbumChange change : allAlbumChanges)
-        if (const int count = difference.count(change); count > 0)
-            albums.push_back(said("{0} {1}", grouped(count), albumChangeWord(change)));
+    const Words photos = counts(difference, allChanges);
+    const Words albums = counts(difference, allAlbumChanges);
     if (albums.empty())
         return photos.empty() ? said("no difference") : joined(photos);
-    return (photos.empty() ? "" : joined(photos) + "; ") + said("albums: {0}", joined(albums));
+    return (photos.empty() ? "" : joined(photos) + said("; ")) +
+           said("albums: {0}", joined(albums));
 }
 
 } // namespace

@@ -7,7 +7,10 @@ namespace iosphoto::tool {
 
 void addEvidenceOption(CLI::App &command, std::optional<std::string> &file)
 {
-    command.add_option("--evidence", file, said("write a JSON file of what was read and written"))
+    command
+        .add_option("--evidence", file,
+                    said("write a JSON file that lists the files read and written, with their "
+                         "SHA-256 hashes"))
         ->check(notEmpty());
 }
 

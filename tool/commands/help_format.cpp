@@ -44,6 +44,7 @@ HelpFormat::HelpFormat()
     label("REQUIRED", said("REQUIRED"));
     label("TEXT", said("TEXT"));
     label("INT", said("NUMBER"));
+    label("UINT", said("NUMBER"));
     label("Needs", said("Needs"));
     label("Excludes", said("Excludes"));
 }

@@ -25,7 +25,7 @@ std::string localTimeOf(const std::optional<double> &coreDataSeconds)
 
 std::string joined(const std::string &what, const std::string &more)
 {
-    return more.empty() ? what : what + ", " + more;
+    return more.empty() ? what : what + said(", ") + more;
 }
 
 std::string schemaText(const Library &library)

@@ -12,7 +12,7 @@ CLI::Validator looksLike(const char *pattern, const std::string &example)
     return {[=](const std::string &text) {
                 return expression.match(QString::fromStdString(text)).hasMatch()
                            ? std::string()
-                           : said("'{0}' is not of the form of {1}", text, example);
+                           : said("'{0}' should look like {1}", text, example);
             },
             std::string()};
 }

@@ -1,5 +1,6 @@
 #include "commands/photo_options.h"
 
+#include "commands/looks_like.h"
 #include "language/said.h"
 
 namespace iosphoto::tool {
@@ -36,9 +37,10 @@ void addFlags(CLI::App &command, PhotoFilter &filter)
     CLI::Option *const deleted =
         command.add_flag("--deleted", filter.isDeleted, said("only what is in Recently Deleted"));
     command
-        .add_option("--within", filter.trashedWithinDays,
-                    said("only what was deleted within so many days before the library's moment"))
-        ->check(CLI::NonNegativeNumber)
+        .add_option(
+            "--within", filter.trashedWithinDays,
+            said("only what was deleted within so many days before the library's time (--as-of)"))
+        ->check(looksLike("0|[1-9][0-9]*", "7"))
         ->needs(deleted);
     command.add_flag("--hidden", filter.isHidden, said("only hidden ones"));
     command.add_flag("--favorite", filter.isFavorite, said("only favorites"));
@@ -51,9 +53,9 @@ void addOrder(CLI::App &command, PhotoChoice &choice)
         "--sort", [&choice](const std::string &name) { choice.order = orderNamed(name); },
         said("sort by date (default: newest first), name, size, duration, added, modified or "
              "deleted"));
-    command.add_flag("--reverse", choice.isReversed, said("turn the order around"));
-    command.add_option("--limit", choice.limit, said("show only so many, the first of the order"))
-        ->check(CLI::PositiveNumber);
+    command.add_flag("--reverse", choice.isReversed, said("reverse the order"));
+    command.add_option("--limit", choice.limit, said("show only so many, the first in the order"))
+        ->check(looksLike("[1-9][0-9]*", "20"));
 }
 
 } // namespace

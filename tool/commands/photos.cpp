@@ -37,7 +37,9 @@ ExitStatus showPhotos(const PhotosRequest &request, std::ostream &out)
     const PhotoRows rows(library, bursts);
     library.sayHowItWasRead();
     if (photos.empty() && assets.size() > 0)
-        notice(said("none of the {0} photos fits", grouped(static_cast<int>(assets.size()))));
+        notice(counted(static_cast<int>(assets.size()),
+                       "the only photo does not fit; leave out an option to see it",
+                       "none of the {0} photos fits; leave out an option to see more"));
     if (request.format.sqlite) {
         writePhotoDatabase(*request.format.sqlite, library, photos, rows);
         out << said("wrote {0}", printable(*request.format.sqlite)) << '\n';

@@ -8,7 +8,7 @@ namespace iosphoto::tool {
 void addRowFormatOptions(CLI::App &command, RowFormat &format)
 {
     CLI::Option *const json =
-        command.add_flag("--json", format.json, said("print one JSON document"));
+        command.add_flag("--json", format.json, said("print a JSON document"));
     CLI::Option *const jsonLines = command.add_flag(
         "--jsonl", format.jsonLines, said("print JSON Lines: an object a line, with its source"));
     CLI::Option *const csv = command.add_flag(
@@ -18,7 +18,7 @@ void addRowFormatOptions(CLI::App &command, RowFormat &format)
     CLI::Option *const sqlite =
         command
             .add_option("--sqlite", format.sqlite,
-                        said("write a SQLite database; one that this wrote before is replaced"))
+                        said("write a SQLite database; one that iosphoto wrote before is replaced"))
             ->check(notEmpty());
     CLI::Option *const fields =
         command

@@ -98,9 +98,9 @@ std::string comment(const std::string &text)
 std::string numberComment(const EntityNumberName &name, const std::optional<std::int32_t> &number)
 {
     if (number)
-        return comment(said("entity number of {0}: {1}", name.entity, *number));
+        return comment(said("entity number of {0}: {1}", translated(name.entity), *number));
     return comment(said("{0}, entity number of {1}: {2} as {3} finds it", name.placeholder,
-                        name.entity, name.column, name.lookup->name));
+                        translated(name.entity), name.column, name.lookup->name));
 }
 
 void printScript(const Target &target, const std::vector<BuildStatement> &statements,

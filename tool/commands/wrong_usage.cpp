@@ -26,8 +26,11 @@ constexpr Wording wordings[] = {
      translatable("{0} is given more than once")},
     {CLI::ExitCodes::ConversionError, ": too many inputs for a flag",
      translatable("{0} takes no value")},
+    {CLI::ExitCodes::ConversionError,
+     "Could not convert: ", translatable("{1}: the number is too large")},
     {CLI::ExitCodes::ConversionError, ": Should be true/false or a number",
      translatable("{0} takes no value")},
+    {CLI::ExitCodes::ValidationError, ": ", translatable("{0}: {1}")},
 };
 
 std::string inOurWords(const CLI::ParseError &error)

@@ -3,6 +3,7 @@
 #include "output/code_points.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace iosphoto::tool {
@@ -70,22 +71,41 @@ std::size_t widthOf(const std::vector<Cluster> &clusters)
     return width;
 }
 
+template <std::size_t count>
+bool isAmong(const std::string_view (&marks)[count], const Cluster &cluster)
+{
+    return std::find(std::begin(marks), std::end(marks), cluster.bytes) != std::end(marks);
+}
+
+/// Whether a line may end between two clusters: at a space, or beside a wide one, unless its
+/// punctuation belongs to what is on the other side.
+bool mayBreak(const Cluster &before, const Cluster &after)
+{
+    constexpr std::string_view opening[] = {"（", "“", "《", "("};
+    constexpr std::string_view closing[] = {"，", "。", "、", "；", "：", "？",
+                                            "！", "）", "”",  "》", "…",  ")"};
+    if (after.bytes == " ")
+        return true;
+    return (before.width == 2 || after.width == 2) && !isAmong(opening, before) &&
+           !isAmong(closing, after);
+}
+
 /// How many clusters from `first` on make up the next line.
 std::size_t lineLength(const std::vector<Cluster> &clusters, std::size_t first, std::size_t columns)
 {
     std::size_t last = first;
     std::size_t width = 0;
-    std::size_t space = 0;
+    std::size_t lastBreak = 0;
     for (; last < clusters.size(); ++last) {
-        if (clusters[last].bytes == " ")
-            space = last - first;
+        if (last > first && mayBreak(clusters[last - 1], clusters[last]))
+            lastBreak = last - first;
         width += clusters[last].width;
         if (width > columns)
             break;
     }
     if (last == clusters.size())
         return last - first;
-    return space > 0 ? space : std::max<std::size_t>(last - first, 1);
+    return lastBreak > 0 ? lastBreak : std::max<std::size_t>(last - first, 1);
 }
 
 } // namespace

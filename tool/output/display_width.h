@@ -16,8 +16,8 @@ enum class Kept { Beginning, End };
 /// `text`, or as much of one part of it as fits into `columns` with "…" for the rest.
 std::string shortened(const std::string &text, std::size_t columns, Kept kept = Kept::Beginning);
 
-/// `text` in lines of at most `columns`, broken at spaces where there are some; a character that is
-/// wider has a line of its own. At least one line.
+/// `text` in lines of at most `columns`, broken at spaces and beside wide characters where there
+/// are some; a character that is wider has a line of its own. At least one line.
 std::vector<std::string> wrapped(const std::string &text, std::size_t columns);
 
 /// `text` with spaces behind it (or before it) up to a width.

@@ -26,7 +26,7 @@ void requirePlaceForFile(const fs::path &file)
     if (fs::is_directory(status))
         throw cannotWrite(file, said("it is a folder; name a file in it"));
     if (fs::exists(status) && !fs::is_regular_file(status))
-        throw cannotWrite(file, said("it is not a file"));
+        throw cannotWrite(file, said("it is not a file; name a file"));
 }
 
 } // namespace

@@ -32,7 +32,8 @@ Value ownName(const Row &row)
 std::vector<Field<Row>> facts()
 {
     return {
-        {{"index", Type::Number, "#"}, [](const Row &row) { return number(row.album.albumIndex); }},
+        {{"index", Type::Number, said("#")},
+         [](const Row &row) { return number(row.album.albumIndex); }},
         {{"kind", Type::Text}, [](const Row &row) { return text(kindName(row.album)); }},
         {{"kindCode", Type::Number}, [](const Row &row) { return number(row.album.albumKind); }},
         {{"englishKind", Type::Text}, [](const Row &row) { return text(englishKind(row.album)); }},

@@ -37,7 +37,7 @@ std::string wordsFor(const PhotoRow &row)
     std::string words;
     for (const Trait &trait : traits)
         if (const std::string word = wordsForTrait(trait, row); !word.empty())
-            words += (words.empty() ? "" : ", ") + word;
+            words += (words.empty() ? "" : said(", ")) + word;
     return words;
 }
 

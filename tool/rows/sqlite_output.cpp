@@ -1,6 +1,7 @@
 #include "rows/sqlite_output.h"
 
 #include "language/said.h"
+#include "language/sqlite_error.h"
 #include "output/file_use_observer.h"
 #include "output/output_file.h"
 #include "rows/own_database.h"
@@ -76,7 +77,7 @@ void SqliteOutput::finish()
 Failure SqliteOutput::unwritable() const
 {
     return cannotWrite(shownFile_, said("{0}; choose another place for the output",
-                                        sqlite3_errmsg(connection_.get())));
+                                        sqliteError(connection_.get())));
 }
 
 } // namespace iosphoto::tool

@@ -26,7 +26,7 @@ struct ShownValue
     {
         std::string text;
         for (const ListItem *item : items)
-            text += (text.empty() ? "" : ", ") + item->shown;
+            text += (text.empty() ? "" : said(", ")) + item->shown;
         return text;
     }
 };

@@ -159,8 +159,10 @@ Failure ArchiveReader::damaged() const
                                    file_.string())};
     const char *const reason = archive_error_string(archive_.get());
     return {CannotAccess,
-            said("the archive '{0}' is damaged or cut short{1}; copy it again", file_.string(),
-                 reason != nullptr ? fmt::format(" ({})", reason) : "")};
+            reason == nullptr
+                ? said("the archive '{0}' is damaged or cut short; copy it again", file_.string())
+                : said("the archive '{0}' is damaged or cut short ({1}); copy it again",
+                       file_.string(), reason)};
 }
 
 bool isArchive(const fs::path &file)

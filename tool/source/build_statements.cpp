@@ -12,7 +12,7 @@ const EntityNumberName entityNumberNames[4] = {
     {&EntityNumbers::album, "album", "Album", "<ALBUM>", &albumEntityStatement, "Z_ENT"},
     {&EntityNumbers::photoStreamAlbum, "photoStreamAlbum", "PhotoStreamAlbum",
      "<PHOTO_STREAM_ALBUM>", &photoStreamAlbumEntityStatement, "Z_ENT"},
-    {&EntityNumbers::assetSuper, "assetSuper", "the parent of Asset", "<ASSET_SUPER>",
+    {&EntityNumbers::assetSuper, "assetSuper", translatable("the parent of Asset"), "<ASSET_SUPER>",
      &assetEntityStatement, "Z_SUPER"},
     {&EntityNumbers::asset, "asset", "Asset", "<ASSET>", &assetEntityStatement, "Z_ENT"},
 };
@@ -66,12 +66,12 @@ std::string systems(const StatementTable &table, const StatementVariant &variant
 std::string models(const StatementTable &table, const StatementVariant &variant)
 {
     if (variant.onlyOn == &DeviceProfile::proRawAndProRes)
-        return ", " + said("models with ProRAW and ProRes");
+        return said(", ") + said("models with ProRAW and ProRes");
     if (variant.onlyOn == &DeviceProfile::ios7SubTypes)
-        return ", " + said("iPhone4,1 and later models");
+        return said(", ") + said("iPhone4,1 and later models");
     const bool hasSpecialModels =
         &variant != table.begin() && std::prev(&variant)->from == variant.from;
-    return hasSpecialModels ? ", " + said("other models") : "";
+    return hasSpecialModels ? said(", ") + said("other models") : "";
 }
 
 const EntityNumberName &nameOf(std::int32_t EntityNumbers::*number)

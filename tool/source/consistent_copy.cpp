@@ -31,7 +31,8 @@ void copyFile(const Copy &file)
 {
     std::error_code error;
     if (!fs::is_regular_file(file.from, error)) // a pipe would keep us waiting
-        throw cannotRead(file.from, error ? systemError(error.value()) : said("it is not a file"));
+        throw cannotRead(file.from, error ? systemError(error.value())
+                                          : said("it is not a file; name a file"));
     requireReadable(file.from);
     fs::copy_file(file.from, file.to, error);
     if (!error)

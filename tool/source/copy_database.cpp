@@ -1,6 +1,7 @@
 #include "source/copy_database.h"
 
 #include "language/said.h"
+#include "language/sqlite_error.h"
 
 namespace iosphoto::tool {
 
@@ -117,7 +118,7 @@ Failure CopyDatabase::unreadable() const
 {
     return {CannotAccess,
             said("cannot read '{0}': {1}; copy it from the device or the backup again", shownName_,
-                 sqlite3_errmsg(connection_.get()))};
+                 sqliteError(connection_.get()))};
 }
 
 } // namespace iosphoto::tool

@@ -86,7 +86,7 @@ Failure tooMany(const FileTree &tree, const std::string &shownName, const std::v
 {
     std::string names;
     for (const Find &find : finds)
-        names += (names.empty() ? "'" : ", '") + tree.shown(find.path) + "'";
+        names += (names.empty() ? "" : said(", ")) + said("'{0}'", tree.shown(find.path));
     const bool areBackups = std::all_of(finds.begin(), finds.end(), [](const Find &find) {
         return find.kind == SourceKind::Backup;
     });
@@ -119,7 +119,7 @@ std::unique_ptr<LibraryLayout> findLibrary(const FileTree &tree, const std::stri
     if (finds.empty())
         throw Failure(WrongKindOfFile,
                       said("'{0}' holds no photo library: neither {1}, such as in the Media folder "
-                           "of a phone, nor the Manifest.db of a backup",
+                           "of a phone, nor the Manifest.db of a backup; name another source",
                            shownName, databaseBelowMedia));
     if (finds.size() > 1)
         throw tooMany(tree, shownName, finds);

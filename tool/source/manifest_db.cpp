@@ -2,6 +2,7 @@
 
 #include "failure.h"
 #include "language/said.h"
+#include "language/sqlite_error.h"
 #include "source/stored_name.h"
 
 #include <sqlite3.h>
@@ -80,7 +81,7 @@ void ManifestDb::fail() const
                                          "encrypted; copy the whole backup again",
                                          shownName_));
     throw Failure(CannotAccess, said("cannot read '{0}': {1}; copy the whole backup again",
-                                     shownName_, sqlite3_errmsg(connection_.get())));
+                                     shownName_, sqliteError(connection_.get())));
 }
 
 } // namespace iosphoto::tool

@@ -107,7 +107,7 @@ Failure noFit(const CopyDatabase &database, const ProbedSchema &probed, const Kn
                          "look for a newer iosphoto",
                          database.shownName(), *major)};
         return {SchemaDoesNotFit, said("'{0}' is a photo database of no known schema: no iOS from "
-                                       "6 to 18 has these tables",
+                                       "6 to 18 has these tables; look for a newer iosphoto",
                                        database.shownName())};
     }
     return {SchemaDoesNotFit,
@@ -119,7 +119,7 @@ Failure noFit(const CopyDatabase &database, const ProbedSchema &probed, const Kn
 
 std::string withReason(const std::string &what, const std::string &why)
 {
-    return why.empty() ? what : what + " (" + why + ")";
+    return why.empty() ? what : said("{0} ({1})", what, why);
 }
 
 } // namespace

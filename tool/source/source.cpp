@@ -112,7 +112,7 @@ void Source::copyDatabaseTo(const fs::path &folder) const
         file.target = folder / file.target;
     tree_->copyOut(files);
     if (!fs::exists(folder / databaseFile))
-        throw cannotRead(databaseName_, said("it is not there any more"));
+        throw cannotRead(databaseName_, said("it is not there any more; check the path"));
 }
 
 std::optional<std::string> Source::locate(const std::string &mediaPath) const

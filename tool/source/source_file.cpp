@@ -51,7 +51,7 @@ fs::path sourceFile(const fs::path &path, const std::string &toName)
     if (fs::is_directory(status))
         throw cannotRead(path, said("it is a folder; name {0}", toName));
     if (!fs::is_regular_file(status))
-        throw cannotRead(path, said("it is not a file"));
+        throw cannotRead(path, said("it is not a file; name a file"));
     return target;
 }
 

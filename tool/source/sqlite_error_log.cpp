@@ -1,5 +1,7 @@
 #include "source/sqlite_error_log.h"
 
+#include "language/sqlite_error.h"
+
 #include <sqlite3.h>
 
 namespace iosphoto::tool::sqlite_error_log {
@@ -31,7 +33,7 @@ void clear()
 
 std::string firstError()
 {
-    return firstCode != SQLITE_OK ? sqlite3_errstr(firstCode) : "";
+    return firstCode != SQLITE_OK ? sqliteError(firstCode) : "";
 }
 
 } // namespace iosphoto::tool::sqlite_error_log

@@ -94,6 +94,14 @@ TEST(Wrapped, BreaksAtSpacesWhereThereAreSome)
     EXPECT_THAT(wrapped("", 3), ElementsAre(""));
 }
 
+TEST(Wrapped, BreaksBesideWideCharactersButNotBeforeTheirPunctuation)
+{
+    EXPECT_THAT(wrapped("例如 iPhone14,2（默认）", 18), ElementsAre("例如 iPhone14,2", "（默认）"));
+    EXPECT_THAT(wrapped("按 date、name", 9), ElementsAre("按 date、", "name"));
+    EXPECT_THAT(wrapped("按 date、name", 8), ElementsAre("按", "date、", "name"));
+    EXPECT_THAT(wrapped("在“相簿”中", 4), ElementsAre("在", "“相", "簿”", "中"));
+}
+
 TEST(Wrapped, KeepsCharactersWhole)
 {
     EXPECT_THAT(wrapped("相机胶卷", 5), ElementsAre("相机", "胶卷"));

@@ -176,7 +176,8 @@ TEST_F(ToolBrokenBackup, FolderThatIsNone)
 {
     fs::create_directory(backup_);
     const std::string text = " holds no photo library: neither PhotoData/Photos.sqlite, such as in "
-                             "the Media folder of a phone, nor the Manifest.db of a backup\n";
+                             "the Media folder of a phone, nor the Manifest.db of a backup; name "
+                             "another source\n";
     expectFailure(albums(backup_), quoted(backup_) + text, 4);
     writeFile(backup_ / "notes.txt", "x");
     const fs::path archive = packed(backup_, folder_ / "notes", zip);

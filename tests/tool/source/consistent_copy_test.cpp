@@ -184,5 +184,5 @@ TEST_F(ToolConsistentCopy, DoesNotWaitForAPipe)
 {
     fs::remove(log_);
     ASSERT_EQ(mkfifo(log_.c_str(), 0600), 0);
-    EXPECT_EQ(failure(), "cannot read '" + log_.string() + "': it is not a file");
+    EXPECT_EQ(failure(), "cannot read '" + log_.string() + "': it is not a file; name a file");
 }
