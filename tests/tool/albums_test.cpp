@@ -90,3 +90,14 @@ TEST(ToolAlbums, BytesOfAnAlbumDoNotWrapAround)
     EXPECT_THAT(runOn(library, "albums", {"--fields", "kind,bytes", "--csv"}).out,
                 HasSubstr("camera-roll," + std::to_string(most) + "\r\n"));
 }
+
+TEST(ToolAlbums, TimesOfAnAlbumAreOfDatesThatCanBeTold)
+{
+    LibraryBuilder library(ios15);
+    library.asset("IMG_0001.JPG");
+    library.asset("IMG_0002.JPG").set("ZDATECREATED", 123456789012345);
+    library.asset("IMG_0003.JPG").set("ZDATECREATED", -123456789012345);
+    EXPECT_THAT(
+        runOn(library, "albums", {"--fields", "kind,firstCreated,lastCreated", "--csv"}).out,
+        HasSubstr("camera-roll,2020-01-05T10:40:00Z,2020-01-05T10:40:00Z\r\n"));
+}

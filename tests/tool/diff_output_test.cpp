@@ -1,6 +1,7 @@
 #include "support/json_schema.h"
 #include "support/two_snapshots.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -8,6 +9,7 @@
 
 using namespace iosphoto::test;
 using nlohmann::json;
+using testing::IsEmpty;
 
 class ToolDiffOutput : public testing::Test
 {
@@ -82,6 +84,7 @@ TEST_F(ToolDiffOutput, JsonIsOneDocument)
 
     const json document = json::parse(run.out);
     EXPECT_EQ(schemaComplaints("diff", document), "");
+    EXPECT_THAT(freeKeys("diff", document), IsEmpty());
     EXPECT_EQ(document["a"]["source"], phone_.before.path());
     EXPECT_EQ(document["b"]["source"], phone_.after.path());
     EXPECT_EQ(document["b"]["iosVersion"], "15.0");
@@ -121,6 +124,7 @@ TEST_F(ToolDiffOutput, JsonLinesNameBothSources)
         ASSERT_TRUE(std::getline(lines, line));
         EXPECT_EQ(json::parse(line), expected);
         EXPECT_EQ(schemaComplaints("diff-line", expected), "");
+        EXPECT_THAT(freeKeys("diff-line", expected), IsEmpty());
     }
     EXPECT_EQ(lines.peek(), EOF);
 }

@@ -7,6 +7,7 @@
 using namespace iosphoto::test;
 using nlohmann::json;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
@@ -135,6 +136,7 @@ TEST(ToolStatements, ThatNeedNumbersThatAreNotKnownTellHowToFindThem)
 
     const json document = statementsOf({"--ios", "7.1"});
     EXPECT_EQ(schemaComplaints("statements", document), "");
+    EXPECT_THAT(freeKeys("statements", document), IsEmpty());
     EXPECT_EQ(document["numbersAreRead"], false);
     EXPECT_EQ(document["statements"][5]["entityNumbers"]["album"], nullptr);
 }

@@ -17,6 +17,13 @@ namespace {
 
 constexpr char timeFormat[] = "yyyy-MM-dd HH:mm t";
 
+bool isOfTheCalendar(std::int64_t unixTime)
+{
+    constexpr std::int64_t firstSecond = -62135596800; // 0001-01-01 00:00:00
+    constexpr std::int64_t lastSecond = 253402300799;  // 9999-12-31 23:59:59
+    return unixTime >= firstSecond && unixTime <= lastSecond;
+}
+
 TimeSpan spanOf(const QDateTime &first, int seconds)
 {
     const std::int64_t start = first.toSecsSinceEpoch();
@@ -66,9 +73,7 @@ std::optional<std::int64_t> unixTimeOf(double coreDataSeconds)
 
 std::string utcTimeText(std::int64_t unixTime)
 {
-    constexpr std::int64_t firstSecond = -62135596800; // 0001-01-01 00:00:00
-    constexpr std::int64_t lastSecond = 253402300799;  // 9999-12-31 23:59:59
-    if (unixTime < firstSecond || unixTime > lastSecond)
+    if (!isOfTheCalendar(unixTime))
         return "";
     const std::time_t time = unixTime;
     std::tm utc = {};
@@ -81,6 +86,12 @@ std::string utcTimeOf(double coreDataSeconds)
 {
     const auto unixTime = unixTimeOf(coreDataSeconds);
     return unixTime ? utcTimeText(*unixTime) : "";
+}
+
+bool isOfTheCalendar(double coreDataSeconds)
+{
+    const auto unixTime = unixTimeOf(coreDataSeconds);
+    return unixTime && isOfTheCalendar(*unixTime);
 }
 
 } // namespace iosphoto::tool

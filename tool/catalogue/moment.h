@@ -41,6 +41,9 @@ std::string utcTimeText(std::int64_t unixTime);
 /// The same of a time that a record holds, in seconds since 2001.
 std::string utcTimeOf(double coreDataSeconds);
 
+/// Whether there is such a text for a time that a record holds.
+bool isOfTheCalendar(double coreDataSeconds);
+
 } // namespace iosphoto::tool
 
 #endif // IOSPHOTO_TOOL_MOMENT_H

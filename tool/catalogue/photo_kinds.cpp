@@ -8,12 +8,23 @@ namespace iosphoto::tool {
 
 namespace {
 
+std::vector<PhotoKind> allKinds()
+{
+    std::vector<PhotoKind> kinds = {
+        {"photo", translatable("photo"), [](const Asset &asset) { return !isVideo(asset); }},
+        {"video", translatable("video"), isVideo}};
+    for (const Trait &trait : traits)
+        if (*trait.name != '\0' && trait.flag != &CPhotoData::isVideo) // "video" says more
+            kinds.push_back({trait.name, trait.word,
+                             [flag = trait.flag](const Asset &asset) { return asset.has(flag); }});
+    return kinds;
+}
+
 std::string knownKinds()
 {
-    std::string known = "photo";
-    for (const Trait &trait : traits)
-        if (*trait.name != '\0')
-            known += std::string(", ") + trait.name;
+    std::string known;
+    for (const PhotoKind &kind : photoKinds())
+        known += (known.empty() ? "" : ", ") + std::string(kind.name);
     return known;
 }
 
@@ -25,15 +36,17 @@ bool isVideo(const Asset &asset)
            asset.has(&CPhotoData::isSlomo) || asset.has(&CPhotoData::isScreenRecording);
 }
 
+const std::vector<PhotoKind> &photoKinds()
+{
+    static const std::vector<PhotoKind> kinds = allKinds();
+    return kinds;
+}
+
 KindTest kindNamed(const std::string &name)
 {
-    if (name == "photo")
-        return [](const Asset &asset) { return !isVideo(asset); };
-    if (name == "video")
-        return isVideo;
-    for (const Trait &trait : traits)
-        if (!name.empty() && name == trait.name)
-            return [flag = trait.flag](const Asset &asset) { return asset.has(flag); };
+    for (const PhotoKind &kind : photoKinds())
+        if (name == kind.name)
+            return kind.test;
     throw Failure(WrongUsage,
                   said("--kind: there is no kind '{0}'; there are {1}", name, knownKinds()));
 }

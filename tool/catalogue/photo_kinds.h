@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -14,8 +15,20 @@ bool isVideo(const Asset &asset);
 /// Whether an asset is of a kind.
 using KindTest = std::function<bool(const Asset &)>;
 
-/// The test of a kind that somebody names: "photo", "video" (of whatever sort) or the name of a
-/// trait, such as "live". Throws Failure for an unknown one, naming those that are known.
+/// A kind of photos, as far as somebody may ask for it.
+struct PhotoKind
+{
+    const char *name; ///< in options and documents, such as "slo-mo"
+    const char *word; ///< in tables
+    KindTest test;
+};
+
+/// "photo", "video" (of whatever sort), then every trait that has a name. One asset may be of
+/// several.
+const std::vector<PhotoKind> &photoKinds();
+
+/// The test of the kind that somebody names. Throws Failure for an unknown one, naming those that
+/// are known.
 KindTest kindNamed(const std::string &name);
 
 } // namespace iosphoto::tool

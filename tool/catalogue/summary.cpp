@@ -1,6 +1,7 @@
 #include "catalogue/summary.h"
 
 #include "catalogue/moment.h"
+#include "catalogue/photo_kinds.h"
 
 #include <algorithm>
 
@@ -16,29 +17,29 @@ void add(Tally &tally, const CPhotoData &photo)
     tally.bytes = std::min(most, tally.bytes + std::clamp<std::int64_t>(photo.fileSize, 0, most));
 }
 
-bool isMoving(const CPhotoData &photo)
+void addTime(Summary &summary, double created)
 {
-    return photo.isVideo || photo.isTimelapse || photo.isSlomo || photo.isScreenRecording;
+    if (!isOfTheCalendar(created))
+        return;
+    summary.firstCreated = std::min(summary.firstCreated.value_or(created), created);
+    summary.lastCreated = std::max(summary.lastCreated.value_or(created), created);
 }
 
 } // namespace
 
 Summary summaryOf(const AssetList &assets)
 {
+    const std::vector<PhotoKind> &kinds = photoKinds();
     Summary summary;
+    summary.byKind.resize(kinds.size());
     for (std::size_t i = 0; i < assets.size(); ++i) {
-        const CPhotoData photo = assets[i].facts();
+        const Asset asset = assets[i];
+        const CPhotoData &photo = *asset.begin()->record;
         add(summary.all, photo);
-        add(isMoving(photo) ? summary.videos : summary.photos, photo);
-        for (std::size_t trait = 0; trait < std::size(traits); ++trait)
-            if (photo.*traits[trait].flag)
-                add(summary.byTrait.at(trait), photo);
-        if (utcTimeOf(photo.createdTime).empty())
-            continue;
-        summary.firstCreated =
-            std::min(summary.firstCreated.value_or(photo.createdTime), photo.createdTime);
-        summary.lastCreated =
-            std::max(summary.lastCreated.value_or(photo.createdTime), photo.createdTime);
+        for (std::size_t kind = 0; kind < kinds.size(); ++kind)
+            if (kinds[kind].test(asset))
+                add(summary.byKind[kind], photo);
+        addTime(summary, photo.createdTime);
     }
     return summary;
 }

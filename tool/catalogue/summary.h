@@ -2,12 +2,10 @@
 #define IOSPHOTO_TOOL_SUMMARY_H
 
 #include "catalogue/assets.h"
-#include "catalogue/traits.h"
 
-#include <array>
 #include <cstdint>
-#include <iterator>
 #include <optional>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -22,9 +20,7 @@ struct Tally
 struct Summary
 {
     Tally all;
-    Tally photos;
-    Tally videos;
-    std::array<Tally, std::size(traits)> byTrait;
+    std::vector<Tally> byKind;          ///< as photoKinds() lists them
     std::optional<double> firstCreated; ///< seconds since 2001
     std::optional<double> lastCreated;
 };

@@ -1,6 +1,8 @@
 #include "catalogue/library.h"
+#include "catalogue/photo_kinds.h"
 #include "catalogue/summary.h"
 #include "commands/command.h"
+#include "commands/info_document.h"
 #include "commands/library_options.h"
 #include "language/said.h"
 #include "model/core_data_time.h"
@@ -61,11 +63,9 @@ void printCounts(const Summary &summary, std::ostream &out)
         table.add({kind, std::to_string(tally.count), readableSize(tally.bytes)});
     };
     add(said("all"), summary.all);
-    add(said("photos"), summary.photos);
-    add(said("videos"), summary.videos);
-    for (std::size_t i = 0; i < std::size(traits); ++i)
-        if (summary.byTrait.at(i).count > 0 && *traits[i].word != '\0')
-            add(translated(traits[i].word), summary.byTrait.at(i));
+    for (std::size_t i = 0; i < photoKinds().size(); ++i)
+        if (summary.byKind[i].count > 0)
+            add(translated(photoKinds()[i].word), summary.byKind[i]);
     table.print(out);
 }
 
@@ -85,63 +85,13 @@ void printLog(const Library &library, std::ostream &out)
     table.print(out);
 }
 
-Json asJson(const Tally &tally)
-{
-    return {{"count", tally.count}, {"bytes", tally.bytes}};
-}
-
-Json countsAsJson(const Summary &summary)
-{
-    Json counts = {{"all", asJson(summary.all)},
-                   {"photos", asJson(summary.photos)},
-                   {"videos", asJson(summary.videos)}};
-    for (std::size_t i = 0; i < std::size(traits); ++i)
-        counts[traits[i].key] = asJson(summary.byTrait.at(i));
-    return counts;
-}
-
-Json logAsJson(const Library &library)
-{
-    if (!library.hasLog())
-        return {};
-    Json changes = Json::array();
-    for (const LogChange &change : library.logChanges())
-        changes.push_back({{"change", machineName(change.kind)},
-                           {"uuid", textOrNull(change.uuid)},
-                           {"path", change.path}});
-    return {{"changes", changes}};
-}
-
-Json timeOrNull(const std::optional<double> &coreDataSeconds)
-{
-    return coreDataSeconds ? utcTime(*coreDataSeconds) : Json();
-}
-
-void printAsJson(const Library &library, const Summary &summary, std::ostream &out)
-{
-    const ProbedSchema &schema = library.schema();
-    Json document = libraryHead(library);
-    document["build"] = textOrNull(schema.iosBuild);
-    document["schema"] = schema.name;
-    document["modelVersion"] =
-        schema.metadata.modelVersion ? Json(*schema.metadata.modelVersion) : Json();
-    document["isOfMac"] = schema.metadata.isOfMac();
-    document["albumCount"] = library.albums().size();
-    document["firstCreated"] = timeOrNull(summary.firstCreated);
-    document["lastCreated"] = timeOrNull(summary.lastCreated);
-    document["leftOut"] = library.leftOut();
-    document["counts"] = countsAsJson(summary);
-    document["log"] = logAsJson(library);
-    print(document, out);
-}
-
 ExitStatus showInfo(const InfoRequest &request, std::ostream &out)
 {
     const Library library(request.library);
     library.sayHowItWasRead();
     const Summary summary = summaryOf(AssetList(library.albums()));
     if (request.asJson) {
-        printAsJson(library, summary, out);
+        print(infoDocument(library, summary), out);
         return library.status();
     }
     printFacts(library, summary, out);

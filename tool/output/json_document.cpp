@@ -6,10 +6,19 @@ namespace iosphoto::tool {
 
 Json libraryHead(const Library &library)
 {
+    const ProbedSchema &schema = library.schema();
+    const std::optional<std::int64_t> &model = schema.metadata.modelVersion;
     return {{"source", library.name()},
+            {"sourceKind", machineName(library.kind())},
+            {"isArchive", library.isArchive()},
+            {"database", library.database()},
             {"iosVersion", library.device().iosVersion},
+            {"build", textOrNull(schema.iosBuild)},
             {"productType", library.device().productType},
+            {"schema", schema.name},
+            {"modelVersion", model ? Json(*model) : Json()},
             {"asOf", textOrNull(utcTimeText(library.asOf().unixTime))},
+            {"leftOut", library.leftOut()},
             {"isComplete", library.status() == Good}};
 }
 

@@ -12,7 +12,7 @@ namespace iosphoto::tool {
 /// Keeps its keys in the order in which they were set.
 using Json = nlohmann::ordered_json;
 
-/// What every document begins with: the database and the device that it was read as.
+/// What every document of a library begins with: the source, and as what and when it was read.
 Json libraryHead(const Library &library);
 
 /// What names an album wherever one is mentioned.

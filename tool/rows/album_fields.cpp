@@ -1,6 +1,7 @@
 #include "rows/album_fields.h"
 
 #include "catalogue/album_kinds.h"
+#include "catalogue/moment.h"
 #include "language/said.h"
 #include "rows/photo_values.h"
 
@@ -80,6 +81,8 @@ AlbumRow::AlbumRow(const CAlbumGroup &group) : album(group)
     for (const CPhotoData *photo : group.photos) {
         if (__builtin_add_overflow(bytes, photo->fileSize, &bytes)) // a database can claim anything
             bytes = std::numeric_limits<std::int64_t>::max();
+        if (!isOfTheCalendar(photo->createdTime))
+            continue;
         if (first == nullptr || photo->createdTime < first->createdTime)
             first = photo;
         if (last == nullptr || photo->createdTime > last->createdTime)

@@ -50,6 +50,8 @@ void SqliteOutput::writeHead(const Json &head)
             values.emplace_back();
         else if (member.is_boolean())
             values.emplace_back(member.get<bool>());
+        else if (member.is_number_integer())
+            values.emplace_back(member.get<std::int64_t>());
         else if (member.is_string())
             values.emplace_back(member.get<std::string>());
         else

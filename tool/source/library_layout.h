@@ -12,6 +12,19 @@ namespace iosphoto::tool {
 
 enum class SourceKind { Database, MediaFolder, Backup };
 
+/// The kind's name for machines.
+constexpr const char *machineName(SourceKind kind)
+{
+    switch (kind) {
+    case SourceKind::MediaFolder:
+        return "media-folder";
+    case SourceKind::Backup:
+        return "backup";
+    default:
+        return "database";
+    }
+}
+
 /// Where the database lies below Media.
 constexpr const char *databaseBelowMedia = "PhotoData/Photos.sqlite";
 

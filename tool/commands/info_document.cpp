@@ -1,0 +1,52 @@
+#include "commands/info_document.h"
+
+#include "catalogue/photo_kinds.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+Json counts(const Summary &summary)
+{
+    Json counts = Json::array();
+    for (std::size_t i = 0; i < photoKinds().size(); ++i)
+        counts.push_back({{"kind", photoKinds()[i].name},
+                          {"count", summary.byKind[i].count},
+                          {"bytes", summary.byKind[i].bytes}});
+    return counts;
+}
+
+Json timeOrNull(const std::optional<double> &coreDataSeconds)
+{
+    return coreDataSeconds ? utcTime(*coreDataSeconds) : Json();
+}
+
+Json logOrNull(const Library &library)
+{
+    if (!library.hasLog())
+        return {};
+    Json changes = Json::array();
+    for (const LogChange &change : library.logChanges())
+        changes.push_back({{"change", machineName(change.kind)},
+                           {"uuid", textOrNull(change.uuid)},
+                           {"path", change.path}});
+    return {{"changes", changes}};
+}
+
+} // namespace
+
+Json infoDocument(const Library &library, const Summary &summary)
+{
+    Json document = libraryHead(library);
+    document["isOfMac"] = library.schema().metadata.isOfMac();
+    document["albumCount"] = library.albums().size();
+    document["photoCount"] = summary.all.count;
+    document["bytes"] = summary.all.bytes;
+    document["firstCreated"] = timeOrNull(summary.firstCreated);
+    document["lastCreated"] = timeOrNull(summary.lastCreated);
+    document["counts"] = counts(summary);
+    document["log"] = logOrNull(library);
+    return document;
+}
+
+} // namespace iosphoto::tool
