@@ -4,7 +4,6 @@
 #include "language/said.h"
 #include "model/clock.h"
 #include "output/busy_line.h"
-#include "output/file_use_observer.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
 #include "source/private_copy.h"
@@ -30,14 +29,6 @@ std::uint32_t clockTime(std::int64_t unixTime)
         std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
 }
 
-/// The time that the library is of, where nobody says another.
-Moment timeOf(const Source &source)
-{
-    if (const auto date = source.backupDate())
-        return {*date, said("Last Backup Date")};
-    return {source.lastChange(), said("its last change")};
-}
-
 std::string adviceToCopyAgain()
 {
     return said("copy it from the device or the backup again, its -wal with it");
@@ -45,10 +36,18 @@ std::string adviceToCopyAgain()
 
 } // namespace
 
-Library::Library(const LibraryRequest &request) : request_(request)
+Moment ownTimeOf(const Source &source)
 {
-    const Source source(request.source);
-    FileUseObserver::announceReading(source.inputs());
+    if (const auto date = source.backupDate())
+        return {*date, said("Last Backup Date")};
+    return {source.lastChange(), said("its last change")};
+}
+
+Library::Library(const LibraryRequest &request) : Library(request, Source(request.source)) {}
+
+Library::Library(const LibraryRequest &request, const Source &source) : request_(request)
+{
+    source.announceReading();
     const PrivateCopy copy(source);
     database_ = source.databaseName();
     kind_ = source.kind();
@@ -56,7 +55,7 @@ Library::Library(const LibraryRequest &request) : request_(request)
     if (!source.missing().empty())
         missing_.push_back(source.missing());
     inspect(copy, source.device().value_or(RecordedDevice()));
-    asOf_ = request.asOf ? Moment{*request.asOf, ""} : timeOf(source);
+    asOf_ = request.asOf.value_or(ownTimeOf(source));
     const StoppedClock asOf(clockTime(asOf_.unixTime));
     read(copy.database());
     leftOut_ = trash_.leftOutOf(albums_, asOf_.unixTime);
@@ -68,6 +67,10 @@ void Library::inspect(const PrivateCopy &copy, const RecordedDevice &says)
     schema_ = probe(database, request_.device, says);
     trash_ = Trash(database);
     hasLog_ = copy.hasLog();
+    if (hasLog_ && !copy.hasReadableLog())
+        missing_.push_back(said("the -wal of '{0}' is no write-ahead log, so changes that it was "
+                                "to hold are missing; {1}",
+                                database_, adviceToCopyAgain()));
     if (hasLog_ && request_.comparesLog)
         logChanges_ = readLogChanges(database);
 }

@@ -19,10 +19,13 @@ namespace iosphoto::tool {
 struct LibraryRequest
 {
     std::string source;
-    Device device;                    ///< as far as the user named it
-    std::optional<std::int64_t> asOf; ///< Unix time; by default the source's own time
-    bool comparesLog = false;         ///< whether to find out what the write-ahead log holds
+    Device device;              ///< as far as the user named it
+    std::optional<Moment> asOf; ///< by default the source's own time
+    bool comparesLog = false;   ///< whether to find out what the write-ahead log holds
 };
+
+/// The time that a source is of: when the backup was made, else when it last changed.
+Moment ownTimeOf(const Source &source);
 
 /// A photo library that was read, with the records of its catalogue.
 class Library
@@ -31,6 +34,8 @@ public:
     /// Reads the database through a private copy, which is gone when this returns. Throws Failure
     /// when the library cannot be read.
     explicit Library(const LibraryRequest &request);
+    /// The same of a source that was opened before.
+    Library(const LibraryRequest &request, const Source &source);
     ~Library();
     Library(const Library &) = delete;
     Library &operator=(const Library &) = delete;

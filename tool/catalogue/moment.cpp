@@ -15,7 +15,16 @@ namespace iosphoto::tool {
 
 namespace {
 
-constexpr char timeFormat[] = "yyyy-MM-dd HH:mm t";
+constexpr char timeFormat[] = "yyyy-MM-dd HH:mm ";
+
+/// "+08:00", or "UTC" where there is no offset.
+std::string offsetText(int seconds)
+{
+    const int minutes = std::abs(seconds) / 60;
+    return seconds == 0
+               ? "UTC"
+               : fmt::format("{}{:02}:{:02}", seconds < 0 ? '-' : '+', minutes / 60, minutes % 60);
+}
 
 bool isOfTheCalendar(std::int64_t unixTime)
 {
@@ -55,7 +64,9 @@ TimeSpan parseTime(const std::string &text, const std::string &option)
 
 std::string localTimeText(std::int64_t unixTime)
 {
-    return QDateTime::fromSecsSinceEpoch(unixTime).toString(timeFormat).toStdString();
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(unixTime);
+    // Names of zones stand for several: CST is one in China and another in Chicago.
+    return time.toString(timeFormat).toStdString() + offsetText(time.offsetFromUtc());
 }
 
 std::string localDayText(std::int64_t unixTime)

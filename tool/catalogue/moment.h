@@ -26,7 +26,7 @@ struct Moment
     std::string why; ///< such as "Last Backup Date"; empty if the user named it
 };
 
-/// "2024-05-01 14:30 CEST": local, for people.
+/// "2024-05-01 14:30 +02:00": local, for people.
 std::string localTimeText(std::int64_t unixTime);
 
 /// "2024-05-01": the same moment's local day.

@@ -7,6 +7,8 @@
 #include "language/said.h"
 #include "output/notice.h"
 
+#include <algorithm>
+
 namespace iosphoto::tool {
 
 namespace {
@@ -75,14 +77,23 @@ ExitStatus statusOf(const Library &before, const Library &after,
     return difference.isNone() ? Good : Different;
 }
 
+/// Both libraries are read as of one moment, so that time alone makes no photo leave the trash.
+Moment earlierOf(const Moment &one, const Moment &other)
+{
+    return {std::min(one.unixTime, other.unixTime), said("the earlier of both")};
+}
+
 ExitStatus showDifference(const DiffRequest &request, std::ostream &out)
 {
-    const Library before({request.before, request.device, {}});
-    const Library after({request.after, request.device, {}});
-    const AssetList first(before.albums());
-    const AssetList second(after.albums());
+    const Source first(request.before);
+    const Source second(request.after);
+    const Moment now = earlierOf(ownTimeOf(first), ownTimeOf(second));
+    const Library before({request.before, request.device, now}, first);
+    const Library after({request.after, request.device, now}, second);
+    const AssetList assetsBefore(before.albums());
+    const AssetList assetsAfter(after.albums());
     const LibraryDifference difference = {compareAlbums(before.albums(), after.albums()),
-                                          comparePhotos(first, second)};
+                                          comparePhotos(assetsBefore, assetsAfter)};
     before.sayHowItWasRead("A: ");
     after.sayHowItWasRead("B: ");
     checkThatTheyAreRelated(before, after, difference);
@@ -112,13 +123,13 @@ Command addDiff(CLI::App &app)
         command->add_flag("--csv", request->asCsv, said("print CSV, for the photos only"));
     json->excludes(jsonLines, csv);
     jsonLines->excludes(csv);
-    command->footer(
-        said("Each library is read as of its own time. The exit status is 0 when there is no "
-             "difference, 1 when there is one, and 3 when a library could not be read "
-             "completely.") +
-        "\n\n" + said("Examples:") +
-        "\n  iosphoto diff May/Photos.sqlite June/Photos.sqlite\n"
-        "  iosphoto diff May/Photos.sqlite June/Photos.sqlite --json");
+    command->footer(said("Both libraries are read as of the time of the earlier one. The exit "
+                         "status is 0 when there is no "
+                         "difference, 1 when there is one, and 3 when a library could not be read "
+                         "completely.") +
+                    "\n\n" + said("Examples:") +
+                    "\n  iosphoto diff May/Photos.sqlite June/Photos.sqlite\n"
+                    "  iosphoto diff May/Photos.sqlite June/Photos.sqlite --json");
     return {command, [request](std::ostream &out) { return showDifference(*request, out); }};
 }
 

@@ -18,6 +18,7 @@ struct InfoRequest
 {
     LibraryRequest library;
     bool asJson = false;
+    bool asJsonLine = false;
 };
 
 std::string localTimeOf(const std::optional<double> &coreDataSeconds)
@@ -33,7 +34,7 @@ std::string joined(const std::string &what, const std::string &more)
 std::string schemaText(const Library &library)
 {
     const std::optional<std::int64_t> &model = library.schema().metadata.modelVersion;
-    return joined(library.schema().name, model ? said("model {0}", *model) : "");
+    return joined(library.schema().shownName, model ? said("model {0}", *model) : "");
 }
 
 void printFacts(const Library &library, const Summary &summary, std::ostream &out)
@@ -43,9 +44,14 @@ void printFacts(const Library &library, const Summary &summary, std::ostream &ou
         if (!fact.empty())
             table.add({label, fact});
     };
-    add(said("Device"), library.schema().productText());
-    add(said("System"), library.schema().iosText());
-    add(said("Build"), library.schema().iosBuild);
+    const ProbedSchema &schema = library.schema();
+    add(said("Device"),
+        schema.productOrigin == DeviceOrigin::Assumption
+            ? said("not recorded; read like {0}, which hides no album", schema.device.productType)
+            : schema.productText());
+    add(said("System"), schema.iosText());
+    if (schema.iosOrigin != DeviceOrigin::Schema) // which names it already
+        add(said("Build"), schema.iosBuild);
     add(said("Schema"), schemaText(library));
     add(said("As of"), localTimeText(library.asOf().unixTime));
     add(said("Albums"), std::to_string(library.albums().size()));
@@ -94,6 +100,10 @@ ExitStatus showInfo(const InfoRequest &request, std::ostream &out)
         print(infoDocument(library, summary), out);
         return library.status();
     }
+    if (request.asJsonLine) {
+        out << oneLine(infoDocument(library, summary)) << '\n';
+        return library.status();
+    }
     printFacts(library, summary, out);
     out << '\n';
     printCounts(summary, out);
@@ -111,7 +121,12 @@ Command addInfo(CLI::App &app)
     CLI::App *command = app.add_subcommand(
         "info", said("Show device, iOS, counts, and what the write-ahead log holds"));
     addLibraryOptions(*command, request->library);
-    command->add_flag("--json", request->asJson, said("print a JSON document"));
+    CLI::Option *const json =
+        command->add_flag("--json", request->asJson, said("print a JSON document"));
+    command
+        ->add_flag("--jsonl", request->asJsonLine,
+                   said("print the document as one line, to put those of many libraries together"))
+        ->excludes(json);
     command->footer(said("Examples:") +
                     "\n  iosphoto info Photos.sqlite\n  iosphoto info backup.zip --json");
     return {command, [request](std::ostream &out) { return showInfo(*request, out); }};

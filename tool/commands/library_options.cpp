@@ -14,9 +14,11 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
     addDeviceOptions(command, request.device);
     command.add_option_function<std::string>(
         "--as-of",
-        [&request](const std::string &text) { request.asOf = parseTime(text, "--as-of").first; },
-        said("read the library as it was at this time, such as 2024-05-01 or now (default: when "
-             "the source was made)"));
+        [&request](const std::string &text) {
+            request.asOf = Moment{parseTime(text, "--as-of").first, ""};
+        },
+        said("the moment that counts as now, such as 2024-05-01 or now: what had been in the "
+             "trash for 30 days then is left out (default: when the source was made)"));
 }
 
 void addDeviceOptions(CLI::App &command, Device &device)

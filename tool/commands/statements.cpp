@@ -2,7 +2,6 @@
 #include "commands/library_options.h"
 #include "commands/looks_like.h"
 #include "language/said.h"
-#include "output/file_use_observer.h"
 #include "output/json_document.h"
 #include "output/notice.h"
 #include "output/printable.h"
@@ -35,7 +34,7 @@ struct Target
 Target readTarget(const StatementsRequest &request)
 {
     const Source source(request.source);
-    FileUseObserver::announceReading(source.inputs());
+    source.announceReading();
     const PrivateCopy copy(source);
     const CopyDatabase database(copy.database(), source.databaseName());
     const ProbedSchema schema =
@@ -48,10 +47,16 @@ Target usualTarget(const Device &wanted)
     if (wanted.iosVersion.empty())
         throw Failure(WrongUsage, said("name a SOURCE, or a version with --ios; see iosphoto "
                                        "statements --help"));
+    constexpr int oldestIos = 6;
+    if (std::atoi(wanted.iosVersion.c_str()) < oldestIos)
+        throw Failure(SchemaDoesNotFit, said("the databases of iOS {0} are not known; name a "
+                                             "version from 6 on",
+                                             wanted.iosVersion));
     Device device = wanted;
     if (device.productType.empty())
         device.productType = productThatHidesNoAlbum;
-    return {device, {usualEntityNumbers(device.iosVersion), false}, {}};
+    return {
+        device, {usualEntityNumbers(device.iosVersion), false}, warningOfNewer(device.iosVersion)};
 }
 
 bool uses(const BuildStatement &statement, const EntityNumberName &name)
@@ -147,7 +152,7 @@ ExitStatus showStatements(const StatementsRequest &request, std::ostream &out)
         request.source.empty() ? usualTarget(request.device) : readTarget(request);
     const std::vector<BuildStatement> statements = statementsOfBuild(target.device, target.numbers);
     if (!target.numbers.areRead)
-        notice(origin(target, statements));
+        remark(origin(target, statements));
     if (!target.warning.empty())
         notice(target.warning);
     (request.asJson ? printAsJson : printScript)(target, statements, out);

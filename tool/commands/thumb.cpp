@@ -6,6 +6,7 @@
 #include "output/json_document.h"
 #include "output/notice.h"
 #include "output/printable.h"
+#include "output/protected_sources.h"
 #include "output/text_table.h"
 #include "thumbnails/export.h"
 
@@ -95,6 +96,7 @@ ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
 {
     if (request.output && !request.index && !request.all)
         throw Failure(WrongUsage, said("--output requires --index or --all; see iosphoto --help"));
+    protectFiles({request.cache});
     FileUseObserver::announceReading({request.cache});
     const ThumbCache cache(request.cache);
     const WrittenFiles pictures = writePictures(cache, request);

@@ -5,6 +5,7 @@
 #include "failure.h"
 #include "language/said.h"
 #include "output/output_file.h"
+#include "output/protected_sources.h"
 
 #include <algorithm>
 #include <fstream>
@@ -53,16 +54,26 @@ void Evidence::Written::add(const char *bytes, std::size_t count)
 Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
     : file_(file), commandLine_(std::move(commandLine)), started_(utcNow())
 {
+    std::error_code ignored;
+    if (fs::exists(file_, ignored))
+        throw Failure(WrongUsage, said("'{0}' is there already, and evidence replaces no file; "
+                                       "choose another name",
+                                       file_.string()));
     requireWritable(file_);
 }
 
 void Evidence::addInputs(const std::vector<fs::path> &files)
 {
-    for (const fs::path &file : files)
+    std::vector<fs::path> added;
+    for (const fs::path &file : files) {
+        if (!sources_.contains(file))
+            added.push_back(file);
         sources_.add(file);
+    }
     requireOther(file_, sources_);
-    HashingProgress progress(files);
-    for (const fs::path &file : files)
+    requireOutsideOfSources(file_);
+    HashingProgress progress(added);
+    for (const fs::path &file : added)
         inputs_.push_back({file, stateOf(file, progress), std::nullopt});
 }
 

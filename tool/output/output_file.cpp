@@ -4,6 +4,7 @@
 #include "language/said.h"
 #include "language/system_error.h"
 #include "output/file_use_observer.h"
+#include "output/protected_sources.h"
 #include "output/unfinished_file.h"
 
 namespace iosphoto::tool {
@@ -31,12 +32,17 @@ void requirePlaceForFile(const fs::path &file)
 
 } // namespace
 
+void refuseAsOutput(const fs::path &file)
+{
+    throw Failure(WrongUsage, said("'{0}' is the source, which is never changed; choose "
+                                   "another place for the output",
+                                   file.string()));
+}
+
 void requireOther(const fs::path &file, const FileSet &sources)
 {
     if (sources.contains(file))
-        throw Failure(WrongUsage, said("'{0}' is the source, which is never changed; choose "
-                                       "another place for the output",
-                                       file.string()));
+        refuseAsOutput(file);
 }
 
 void requireWritable(const fs::path &file)
@@ -49,6 +55,7 @@ fs::path outputPlace(const fs::path &file, const fs::path &source)
 {
     requirePlaceForFile(file);
     requireOther(file, FileSet(source));
+    requireOutsideOfSources(file);
     if (FileUseObserver *const observer = FileUseObserver::current())
         observer->willWrite(file);
     return targetOf(file);

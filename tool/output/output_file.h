@@ -24,6 +24,9 @@ std::filesystem::path outputPlace(const std::filesystem::path &file,
 /// Throws Failure where writeOutput() would, as far as can be told before.
 void requireWritable(const std::filesystem::path &file);
 
+/// Throws the Failure of an output that is a source.
+[[noreturn]] void refuseAsOutput(const std::filesystem::path &file);
+
 /// Throws Failure when an output `file` is one of the sources.
 void requireOther(const std::filesystem::path &file, const FileSet &sources);
 

@@ -2,12 +2,17 @@
 
 #include "failure.h"
 #include "language/said.h"
+#include "output/file_use_observer.h"
 #include "source/manifest_db.h"
 #include "source/manifest_mbdb.h"
 #include "source/property_list.h"
 #include "source/stored_names.h"
 
+#include <algorithm>
+
 namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -58,8 +63,13 @@ Backup::Backup(const FileTree &tree, std::string folder) : tree_(tree), folder_(
 void Backup::copyRecords() const
 {
     std::vector<FileToCopy> files;
-    for (const char *const name : recordNames)
+    std::vector<fs::path> onDisk;
+    for (const char *const name : recordNames) {
         files.push_back({joined(folder_, name), copies_ / name});
+        if (has(name))
+            onDisk.push_back(tree_.onDisk(files.back().path));
+    }
+    FileUseObserver::announceReading(onDisk);
     tree_.copyOut(files);
 }
 
@@ -120,6 +130,20 @@ void Backup::noteWhatIsMissing()
                             "not there; copy the whole backup again",
                             tree_.shown(*path), databaseBelowMedia, suffix);
     }
+    if (missing_.empty())
+        noteMissingMedia();
+}
+
+void Backup::noteMissingMedia()
+{
+    const std::vector<std::string> listed = index_->storedFiles();
+    const auto absent = std::count_if(listed.begin(), listed.end(), [&](const std::string &path) {
+        return !tree_.find(joined(folder_, path));
+    });
+    if (absent > 0)
+        missing_ = said("'{0}' is half a backup: of {1} files of the photo library that {2} lists "
+                        "{3} are not there; copy the whole backup again",
+                        tree_.shown(folder_), listed.size(), indexName_, absent);
 }
 
 std::optional<std::string> Backup::locate(const std::string &mediaPath) const

@@ -35,6 +35,7 @@ private:
     std::unique_ptr<BackupIndex> openIndex();
     void requireDatabase() const;
     void noteWhatIsMissing();
+    void noteMissingMedia();
     bool has(const std::string &name) const;
     std::string shown(const std::string &name) const;
 

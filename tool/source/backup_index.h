@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -18,6 +19,10 @@ public:
     /// The path in the backup of a file that has this path below Media on the phone; nothing when
     /// the backup does not hold it.
     virtual std::optional<std::string> locate(const std::string &mediaPath) const = 0;
+
+    /// The paths in the backup of all files below Media that it is to hold; none where there is no
+    /// list of them.
+    virtual std::vector<std::string> storedFiles() const = 0;
 };
 
 } // namespace iosphoto::tool

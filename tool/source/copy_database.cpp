@@ -3,6 +3,8 @@
 #include "language/said.h"
 #include "language/sqlite_error.h"
 
+#include <filesystem>
+
 namespace iosphoto::tool {
 
 namespace {
@@ -50,6 +52,12 @@ void CopyDatabase::check() const
     // Reads the first page, and so meets a wrong header, an encrypted file and a bad journal.
     const int result = sqlite3_exec(connection_.get(), "select name from sqlite_master", nullptr,
                                     nullptr, nullptr);
+    std::error_code ignored;
+    if (std::filesystem::file_size(file_, ignored) == 0 && !ignored &&
+        !std::filesystem::exists(file_ + "-wal", ignored))
+        throw Failure(
+            WrongKindOfFile,
+            said("'{0}' is empty; copy it from the device or the backup again", shownName_));
     if (result == SQLITE_NOTADB)
         throw Failure(WrongKindOfFile,
                       said("'{0}' is not a SQLite database, or it is encrypted; name the "

@@ -34,7 +34,12 @@ std::int32_t lastNumber(const CopyDatabase &database, const Statement &lookup, i
 std::string KnownSchema::name() const
 {
     return firstIos == lastIos ? fmt::format("iOS {}", firstIos)
-                               : said("iOS {0} to {1}", firstIos, lastIos);
+                               : fmt::format("iOS {} to {}", firstIos, lastIos);
+}
+
+std::string KnownSchema::shownName() const
+{
+    return firstIos == lastIos ? name() : said("iOS {0} to {1}", firstIos, lastIos);
 }
 
 const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers &numbers)
@@ -51,6 +56,16 @@ const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers 
 const KnownSchema &newestSchema()
 {
     return newestFirst[0];
+}
+
+std::string warningOfNewer(const std::string &iosVersion)
+{
+    const int newest = newestSchema().lastIos;
+    if (std::atoi(iosVersion.c_str()) <= newest)
+        return {};
+    return said("iOS {0} is newer than all that are known, so it is read like iOS {1}; check a few "
+                "photos against the device",
+                iosVersion, newest);
 }
 
 EntityNumbers readEntityNumbers(const CopyDatabase &database)

@@ -21,8 +21,9 @@ struct KnownSchema
     /// that its statements read do not tell it from the one before.
     const char *goneColumn = nullptr;
 
-    /// Such as "iOS 15 to 17".
+    /// Such as "iOS 15 to 17", for machines in English.
     std::string name() const;
+    std::string shownName() const;
 };
 
 constexpr char productThatHidesNoAlbum[] = "iPhone14,2";
@@ -32,6 +33,9 @@ const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers 
 
 /// The newest of all.
 const KnownSchema &newestSchema();
+
+/// What to say of an iOS version that is newer than all schemas; empty for others.
+std::string warningOfNewer(const std::string &iosVersion);
 
 EntityNumbers readEntityNumbers(const CopyDatabase &database);
 

@@ -17,6 +17,11 @@ constexpr const char *lookupStatement =
     "select fileID from Files where domain = ? and relativePath = ? "
     "and flags is not 2 and flags is not 4"; // neither folders nor links
 
+/// The log's index is made anew by whoever opens the database.
+constexpr const char *listStatement =
+    "select fileID from Files where domain = ? and relativePath like 'Media/%' "
+    "and relativePath not like '%-shm' and flags is not 2 and flags is not 4";
+
 void bindText(sqlite3_stmt *statement, int number, const std::string &text)
 {
     sqlite3_bind_text(statement, number, text.data(), static_cast<int>(text.size()),
@@ -72,6 +77,24 @@ std::optional<std::string> ManifestDb::locate(const std::string &mediaPath) cons
                                          "copy the whole backup again",
                                          shownName_, name));
     return inItsFolder(name);
+}
+
+std::vector<std::string> ManifestDb::storedFiles() const
+{
+    sqlite3_stmt *list = nullptr;
+    sqlite3_prepare_v2(connection_.get(), listStatement, -1, &list, nullptr);
+    const std::unique_ptr<sqlite3_stmt, Close> owned(list);
+    bindText(list, 1, mediaDomain);
+    std::vector<std::string> files;
+    int result = SQLITE_ROW;
+    while ((result = sqlite3_step(list)) == SQLITE_ROW) {
+        const auto *const name = reinterpret_cast<const char *>(sqlite3_column_text(list, 0));
+        if (name != nullptr && isStoredName(name))
+            files.push_back(inItsFolder(name));
+    }
+    if (result != SQLITE_DONE)
+        fail();
+    return files;
 }
 
 void ManifestDb::fail() const

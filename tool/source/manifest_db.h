@@ -21,6 +21,7 @@ public:
     ManifestDb(const std::filesystem::path &copy, std::string shownName);
 
     std::optional<std::string> locate(const std::string &mediaPath) const override;
+    std::vector<std::string> storedFiles() const override;
 
 private:
     struct Close

@@ -125,4 +125,14 @@ std::optional<std::string> ManifestMbdb::locate(const std::string &mediaPath) co
     return storedName(mediaPath);
 }
 
+std::vector<std::string> ManifestMbdb::storedFiles() const
+{
+    std::vector<std::string> files;
+    const std::string media = pathInDomain("");
+    for (const std::string &path : paths_)
+        if (path.rfind(media, 0) == 0)
+            files.push_back(storedName(path.substr(media.size())));
+    return files;
+}
+
 } // namespace iosphoto::tool

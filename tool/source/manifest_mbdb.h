@@ -17,6 +17,7 @@ public:
     ManifestMbdb(const std::filesystem::path &file, const std::string &shownName);
 
     std::optional<std::string> locate(const std::string &mediaPath) const override;
+    std::vector<std::string> storedFiles() const override;
 
 private:
     std::set<std::string> paths_; ///< in the domain

@@ -4,7 +4,9 @@
 #include "source/private_folder.h"
 #include "source/source.h"
 
+#include <fstream>
 #include <string>
+#include <string_view>
 
 namespace iosphoto::tool {
 
@@ -24,6 +26,17 @@ public:
         std::error_code ignored;
         const auto size = std::filesystem::file_size(database() + "-wal", ignored);
         return !ignored && size > 0;
+    }
+
+    /// Whether that log is one, as far as its beginning tells.
+    bool hasReadableLog() const
+    {
+        std::ifstream log(database() + "-wal", std::ios::binary);
+        char magic[4] = {};
+        log.read(magic, sizeof magic);
+        const std::string_view found(magic, sizeof magic);
+        using namespace std::string_view_literals;
+        return found == "\x37\x7f\x06\x82"sv || found == "\x37\x7f\x06\x83"sv;
     }
 
 private:

@@ -46,12 +46,15 @@ void decideIos(ProbedSchema &probed, const Device &wanted, const RecordedDevice 
         probed.device.iosVersion = wanted.iosVersion;
     } else if (!says.iosVersion.empty()) {
         probed.device.iosVersion = says.iosVersion;
+        probed.iosOrigin = DeviceOrigin::Source;
         probed.iosWhy = says.recordedIn;
     } else if (const auto major = probed.metadata.iosMajor(); agree(major, schema)) {
         probed.device.iosVersion = std::to_string(*major);
+        probed.iosOrigin = DeviceOrigin::Schema;
         probed.iosWhy = modelWords(probed.metadata);
     } else if (schema != nullptr) {
         probed.device.iosVersion = schema->iosVersion;
+        probed.iosOrigin = DeviceOrigin::Schema;
         probed.iosWhy = said("the newest with these tables and columns");
     }
 }
@@ -63,10 +66,12 @@ void decideProduct(ProbedSchema &probed, const Device &wanted, const RecordedDev
         probed.device.productType = wanted.productType;
     } else if (!says.productType.empty()) {
         probed.device.productType = says.productType;
+        probed.productOrigin = DeviceOrigin::Source;
         probed.deviceWhy = says.recordedIn;
     } else {
         probed.device.productType =
             schema != nullptr ? schema->productType : productThatHidesNoAlbum;
+        probed.productOrigin = DeviceOrigin::Assumption;
         probed.deviceWhy = said("hides no album");
     }
 }
@@ -76,16 +81,14 @@ std::string disagreement(const ProbedSchema &probed, const KnownSchema *schema)
     const int major = std::atoi(probed.device.iosVersion.c_str());
     const KnownSchema &newest = newestSchema();
     if (major > newest.lastIos && (schema == nullptr || schema == &newest))
-        return said("iOS {0} is newer than all that are known, so it is read like iOS {1}; check "
-                    "a few photos against the device",
-                    probed.device.iosVersion, newest.lastIos);
+        return warningOfNewer(probed.device.iosVersion);
     const std::optional<int> model = probed.metadata.iosMajor();
     const bool modelTells = agree(model, schema);
     const int first = modelTells ? *model : schema != nullptr ? schema->firstIos : major;
     const int last = modelTells ? *model : schema != nullptr ? schema->lastIos : major;
     if (major >= first && major <= last)
         return {};
-    const std::string name = first == last ? fmt::format("iOS {}", last) : schema->name();
+    const std::string name = first == last ? fmt::format("iOS {}", last) : schema->shownName();
     return said("the database has the schema of {0}, not of iOS {1}, and photos may be wrong or "
                 "missing; try --ios {2}",
                 name, probed.device.iosVersion, last);
@@ -124,6 +127,12 @@ std::string withReason(const std::string &what, const std::string &why)
 
 } // namespace
 
+const char *machineName(DeviceOrigin origin)
+{
+    constexpr const char *names[] = {"user", "source", "schema", "assumption"};
+    return names[static_cast<int>(origin)];
+}
+
 std::string ProbedSchema::iosText() const
 {
     return withReason("iOS " + device.iosVersion, iosWhy);
@@ -148,6 +157,7 @@ ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const Rec
         throw noFit(database, probed, schema);
     probed.warning = disagreement(probed, schema);
     probed.name = schema != nullptr ? schema->name() : "iOS " + probed.device.iosVersion;
+    probed.shownName = schema != nullptr ? schema->shownName() : probed.name;
     return probed;
 }
 

@@ -11,15 +11,24 @@
 
 namespace iosphoto::tool {
 
+/// Who says what the device is.
+enum class DeviceOrigin { User, Source, Schema, Assumption };
+
+/// The origin's name for machines, such as "source".
+const char *machineName(DeviceOrigin origin);
+
 /// What a probe found out about a photo database.
 struct ProbedSchema
 {
-    Device device;         ///< to read it as; complete
-    std::string iosBuild;  ///< of the system, or of the one that made the schema; may be empty
+    Device device;        ///< to read it as; complete
+    std::string iosBuild; ///< of the system, or of the one that made the schema; may be empty
+    DeviceOrigin iosOrigin = DeviceOrigin::User;
+    DeviceOrigin productOrigin = DeviceOrigin::User;
     std::string iosWhy;    ///< where the version comes from; empty if the user named it
     std::string deviceWhy; ///< likewise the product type
     std::string warning;   ///< that version and schema disagree; empty if they do not
-    std::string name;      ///< of the schema, such as "iOS 15 to 17"
+    std::string name;      ///< of the schema, such as "iOS 15 to 17", for machines in English
+    std::string shownName; ///< the same for people
     StoreMetadata metadata;
     EntityNumbers numbers;
 

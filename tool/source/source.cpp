@@ -1,6 +1,8 @@
 #include "source/source.h"
 
 #include "language/said.h"
+#include "output/file_use_observer.h"
+#include "output/protected_sources.h"
 #include "source/archive_reader.h"
 #include "source/archive_tree.h"
 #include "source/backup.h"
@@ -52,8 +54,9 @@ bool staysBelowMedia(const std::string &mediaPath)
 
 Source::Source(const std::string &name) : name_(name), databaseName_(name)
 {
-    if (const auto folder = folderToSearch(resolved(name))) {
-        search(std::make_unique<FolderTree>(*folder));
+    folder_ = folderToSearch(resolved(name));
+    if (folder_) {
+        search(std::make_unique<FolderTree>(*folder_));
         return;
     }
     const fs::path file = sourceFile(name, "");
@@ -94,6 +97,17 @@ std::vector<fs::path> Source::inputs() const
         files.push_back(tree_->onDisk(path));
     files.erase(std::unique(files.begin(), files.end()), files.end());
     return files;
+}
+
+void Source::announceReading() const
+{
+    if (folder_)
+        protectFolder(*folder_);
+    const std::vector<fs::path> files = inputs();
+    protectFiles(files);
+    const std::string database = tree_->onDisk(databaseFiles().front().path).string();
+    protectFiles({database + "-wal", database + "-journal", database + "-shm"});
+    FileUseObserver::announceReading(files);
 }
 
 std::vector<FileToCopy> Source::databaseFiles() const

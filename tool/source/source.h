@@ -43,6 +43,9 @@ public:
     /// write-ahead log; for an archive the archive.
     std::vector<std::filesystem::path> inputs() const;
 
+    /// Tells that these are read, and keeps outputs away from the source.
+    void announceReading() const;
+
     /// Puts the database there, with the write-ahead log and journal that belong to it. Throws
     /// Failure when one cannot be read, or changes all the time.
     void copyDatabaseTo(const std::filesystem::path &folder) const;
@@ -64,6 +67,7 @@ private:
     std::string name_;
     std::string databaseName_;
     bool isArchive_ = false;
+    std::optional<std::filesystem::path> folder_; ///< where the source is one
     std::unique_ptr<FileTree> tree_;
     std::unique_ptr<LibraryLayout> layout_;
 };

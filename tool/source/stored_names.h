@@ -15,6 +15,7 @@ public:
     }
 
     std::optional<std::string> locate(const std::string &mediaPath) const override;
+    std::vector<std::string> storedFiles() const override { return {}; }
 
 private:
     const FileTree &tree_;
