@@ -79,8 +79,7 @@ TEST_F(ToolBadInput, FileThatIsNoPhotoDatabase)
     const fs::path empty = folder_ / "empty.sqlite";
     writeFile(empty, "");
     expectFailure(runTool({"photos", empty.string()}),
-                  quoted(empty) + " is a SQLite database without a photo library; name the Photos",
-                  4);
+                  quoted(empty) + " is empty; copy it from the device or the backup again\n", 4);
 }
 
 TEST_F(ToolBadInput, TemporaryFolderThatIsNotThere)

@@ -15,9 +15,10 @@ using testing::StartsWith;
 
 namespace {
 
-constexpr const char *keys[] = {"source",       "sourceKind", "isArchive",   "database",
-                                "iosVersion",   "build",      "productType", "schema",
-                                "modelVersion", "asOf",       "leftOut",     "isComplete"};
+constexpr const char *keys[] = {"source",          "sourceKind",     "isArchive",    "database",
+                                "iosVersion",      "iosVersionFrom", "build",        "productType",
+                                "productTypeFrom", "schema",         "modelVersion", "asOf",
+                                "leftOut",         "isComplete"};
 
 /// The keys of the head alone.
 json headOf(const json &document)
@@ -111,8 +112,10 @@ TEST(LibraryHeadOfADatabase, IsNullForWhatItDoesNotSay)
                                          {"isArchive", false},
                                          {"database", library.path()},
                                          {"iosVersion", "15.0"},
+                                         {"iosVersionFrom", "user"},
                                          {"build", nullptr},
                                          {"productType", "iPhone14,2"},
+                                         {"productTypeFrom", "user"},
                                          {"schema", "iOS 15 to 17"},
                                          {"modelVersion", nullptr},
                                          {"asOf", "2020-01-10T00:00:00Z"},

@@ -60,8 +60,8 @@ TEST(ToolTrashInAnotherZone, GoesOnTheLocalDay)
         return runTool(commandOn(library, "photos", {"--fields", "goes,what"}), {{"TZ", zone}});
     };
     EXPECT_EQ(inZone("EST5"), // which is five hours behind UTC
-              (ToolRun{"goes                  WHAT\n"
-                       "2020-01-29 19:00 EST  deleted, 20 days left, goes 2020-01-29\n",
+              (ToolRun{"goes                     WHAT\n"
+                       "2020-01-29 19:00 -05:00  deleted, 20 days left, goes 2020-01-29\n",
                        "", 0}));
 }
 

@@ -116,7 +116,9 @@ TEST_F(ToolThumbEvidence, OfOutputThatNobodyReadsTellsItsStatus)
 TEST_F(ToolThumbEvidence, IsNeverTheCacheNorAnOutput)
 {
     expectFailure(runTool({"thumb", cache_.string(), "--evidence", cache_.string()}),
-                  quoted(cache_) + " is the source, which is never changed", 2);
+                  quoted(cache_) +
+                      " is there already, and evidence replaces no file; choose another name\n",
+                  2);
     EXPECT_EQ(readFile(cache_), bytes_);
     const std::string same = (folder_ / "x.bmp").string();
     expectFailure(

@@ -80,7 +80,7 @@ void Evidence::addInputs(const std::vector<fs::path> &files)
 void Evidence::finish(int exitStatus)
 {
     stopObserving();
-    if (sources_.contains(file_)) // which is why the command failed
+    if (sources_.contains(file_) || isProtected(file_)) // which is why the command failed
         return;
     readInputsAgain();
     const auto changed =

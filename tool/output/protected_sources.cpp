@@ -37,10 +37,14 @@ void protectFolder(const fs::path &folder)
     protectedFolders.add(folder);
 }
 
+bool isProtected(const fs::path &file)
+{
+    return protectedFiles.contains(file) || isInProtectedFolder(file);
+}
+
 void requireOutsideOfSources(const fs::path &file)
 {
-    requireOther(file, protectedFiles);
-    if (isInProtectedFolder(file))
+    if (isProtected(file))
         refuseAsOutput(file);
 }
 

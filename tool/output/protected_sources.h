@@ -12,7 +12,10 @@ void protectFiles(const std::vector<std::filesystem::path> &files);
 /// The same for all that is in a folder, or would be.
 void protectFolder(const std::filesystem::path &folder);
 
-/// Throws Failure when an output to `file` would change a source.
+/// Whether an output to `file` would change a source.
+bool isProtected(const std::filesystem::path &file);
+
+/// Throws Failure when it would.
 void requireOutsideOfSources(const std::filesystem::path &file);
 
 } // namespace iosphoto::tool

@@ -141,9 +141,9 @@ void Backup::noteMissingMedia()
         return !tree_.find(joined(folder_, path));
     });
     if (absent > 0)
-        missing_ = said("'{0}' is half a backup: of {1} files of the photo library that {2} lists "
-                        "{3} are not there; copy the whole backup again",
-                        tree_.shown(folder_), listed.size(), indexName_, absent);
+        missing_ = said("'{0}' is half a backup: {1} of the {2} files of the photo library that "
+                        "{3} lists are missing; copy the whole backup again",
+                        tree_.shown(folder_), absent, listed.size(), indexName_);
 }
 
 std::optional<std::string> Backup::locate(const std::string &mediaPath) const

@@ -31,6 +31,34 @@ TEST_F(ToolBrokenBackup, Encrypted)
     expectFailure(albums(archive), quoted(archive) + text, 6);
 }
 
+TEST_F(ToolBrokenBackup, EncryptedHasEvidenceOfWhatSaysSo)
+{
+    BackupOptions options;
+    options.isEncrypted = true;
+    writeBackup(backup_, library_, options);
+    const fs::path evidence = folder_ / "evidence.json";
+    const ToolRun run = runTool({"albums", backup_.string(), "--evidence", evidence.string()});
+    EXPECT_EQ(run.status, 6);
+    EXPECT_THAT(readFile(evidence), HasSubstr((backup_ / "Manifest.plist").string()));
+}
+
+TEST_F(ToolBrokenBackup, WithoutSomeOfItsPhotosIsHalfABackup)
+{
+    BackupOptions options;
+    options.notStored = {"DCIM/100APPLE/IMG_0002.JPG"};
+    BackupBuilder builder(backup_, options);
+    builder.add(library_);
+    for (const char *photo : {"DCIM/100APPLE/IMG_0001.JPG", "DCIM/100APPLE/IMG_0002.JPG"})
+        builder.add(photo, "picture");
+    builder.finish();
+    const ToolRun run = runTool({"albums", backup_.string(), "--quiet"});
+    EXPECT_THAT(run.out, HasSubstr("Camera Roll"));
+    EXPECT_EQ(run.error, "iosphoto: " + quoted(backup_) +
+                             " is half a backup: 1 of the 4 files of the photo library that "
+                             "Manifest.db lists are missing; copy the whole backup again\n");
+    EXPECT_EQ(run.status, 1);
+}
+
 TEST_F(ToolBrokenBackup, EncryptedWithoutAWordOfIt)
 {
     BackupOptions options;
