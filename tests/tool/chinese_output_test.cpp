@@ -79,9 +79,9 @@ TEST_F(ChineseOutput, OfPhotosNamesWhatTheyAre)
 {
     library_.asset("IMG_0001.JPG").set("ZFAVORITE", 1).set("ZHASADJUSTMENTS", 1);
     EXPECT_EQ(runOn(library_, "photos", inChinese),
-              (ToolRun{"日期        文件                             像素       大小  说明"
-                       "              相簿\n"
-                       "2020-01-05  DCIM/100APPLE/IMG_0001.JPG  4032x3024  1000 字节  "
+              (ToolRun{"拍摄时间              文件                             像素       大小  "
+                       "说明              相簿\n"
+                       "2020-01-05 10:40 UTC  DCIM/100APPLE/IMG_0001.JPG  4032x3024  1000 字节  "
                        "个人收藏、已编辑  相机胶卷、个人收藏\n",
                        "", 0}));
 }

@@ -60,8 +60,23 @@ TEST(ToolTrashInAnotherZone, GoesOnTheLocalDay)
         return runTool(commandOn(library, "photos", {"--fields", "goes,what"}), {{"TZ", zone}});
     };
     EXPECT_EQ(inZone("EST5"), // which is five hours behind UTC
-              (ToolRun{"goes                     WHAT\n"
+              (ToolRun{"GOES                     WHAT\n"
                        "2020-01-29 19:00 -05:00  deleted, 20 days left, goes 2020-01-29\n",
+                       "", 0}));
+}
+
+TEST(ToolTrashAlone, HasColumnsForHowLongAPhotoStays)
+{
+    LibraryBuilder library(ios15);
+    library.asset("IMG_0001.JPG").trashedAt(readingTime - 10 * days);
+    library.asset("IMG_0002.JPG").trashedAt(readingTime - 29 * days);
+    EXPECT_EQ(runOn(library, "photos", {"--deleted"}),
+              (ToolRun{"TAKEN                 FILE                           PIXELS        SIZE  "
+                       "WHAT     DAYS LEFT  GOES                  ALBUMS\n"
+                       "2020-01-05 10:40 UTC  DCIM/100APPLE/IMG_0001.JPG  4032x3024  1000 bytes  "
+                       "deleted         20  2020-01-30 00:00 UTC  Recently Deleted\n"
+                       "2020-01-04 10:40 UTC  DCIM/100APPLE/IMG_0002.JPG  4032x3024  1000 bytes  "
+                       "deleted          1  2020-01-11 00:00 UTC  Recently Deleted\n",
                        "", 0}));
 }
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 using namespace iosphoto::test;
+using testing::AllOf;
 using testing::HasSubstr;
 
 class ToolPhotos : public testing::Test
@@ -37,12 +38,14 @@ TEST_F(ToolPhotos, ListsEachPhotoOnceWithItsAlbums)
     EXPECT_EQ(
         photos(),
         (ToolRun{
-            "DAY         FILE                           PIXELS        SIZE  WHAT      ALBUMS\n"
-            "2020-01-05  DCIM/100APPLE/IMG_0001.JPG  4032x3024  1000 bytes  favorite  Camera Roll, "
-            "Favorites, Trip\n"
-            "2020-01-04  DCIM/100APPLE/IMG_0002.MOV  4032x3024  1000 bytes  video     Camera Roll, "
-            "Videos, Trip, Trip\n"
-            "2020-01-03  DCIM/100APPLE/IMG_0003.JPG  4032x3024  1000 bytes  hidden    Hidden\n",
+            "TAKEN                 FILE                           PIXELS        SIZE  WHAT      "
+            "ALBUMS\n"
+            "2020-01-05 10:40 UTC  DCIM/100APPLE/IMG_0001.JPG  4032x3024  1000 bytes  favorite  "
+            "Camera Roll, Favorites, Trip\n"
+            "2020-01-04 10:40 UTC  DCIM/100APPLE/IMG_0002.MOV  4032x3024  1000 bytes  video     "
+            "Camera Roll, Videos, Trip, Trip\n"
+            "2020-01-03 10:40 UTC  DCIM/100APPLE/IMG_0003.JPG  4032x3024  1000 bytes  hidden    "
+            "Hidden\n",
             "", 0}));
 }
 
@@ -84,7 +87,7 @@ TEST_F(ToolPhotos, WhereNoneFitsThereAreHeadingsAndANotice)
     const std::string notice =
         "iosphoto: none of the 3 photos fits; leave out an option to see more\n";
     EXPECT_EQ(photos({"--album", "recently-deleted"}),
-              (ToolRun{"DAY  FILE  PIXELS  SIZE  WHAT  ALBUMS\n", notice, 0}));
+              (ToolRun{"TAKEN  FILE  PIXELS  SIZE  WHAT  ALBUMS\n", notice, 0}));
     EXPECT_EQ(photos({"--edited", "--csv", "--fields", "uuid,path"}),
               (ToolRun{"uuid,path\r\n", notice, 0}));
     EXPECT_EQ(photos({"--edited", "--jsonl"}), (ToolRun{"", notice, 0}));
@@ -94,9 +97,44 @@ TEST_F(ToolPhotos, WhereNoneFitsThereAreHeadingsAndANotice)
     EXPECT_EQ(document.status, 0);
 }
 
-TEST(ToolPhotosOfAnEmptyLibrary, AreNotMissed)
+TEST(ToolPhotosOfAnEmptyLibrary, AreHeadingsAndARemark)
 {
-    EXPECT_EQ(runOn(LibraryBuilder(ios15), "photos", {"--fields", "fileName"}), fileNames({}));
+    const LibraryBuilder library(ios15);
+    const std::string remark = "iosphoto: the library holds 0 photos\n";
+    EXPECT_EQ(runOn(library, "photos", {"--fields", "fileName"}),
+              (ToolRun{"fileName\n", remark, 0}));
+    EXPECT_EQ(runOn(library, "photos", {"--kind", "live", "--jsonl"}), (ToolRun{"", remark, 0}));
+    EXPECT_EQ(runOn(library, "photos", {"--fields", "fileName", "--quiet"}), fileNames({}));
+}
+
+TEST_F(ToolPhotos, FieldsMayHaveSpacesAroundTheirCommas)
+{
+    EXPECT_EQ(photos({"--favorite", "--fields", " fileName , localDay"}),
+              (ToolRun{"fileName      DAY\nIMG_0001.JPG  2020-01-05\n", "", 0}));
+}
+
+TEST_F(ToolPhotos, TimesAreLocalInTables)
+{
+    EXPECT_EQ(
+        runTool(commandOn(library_, "photos", {"--favorite", "--fields", "created,localDay"}),
+                {{"TZ", "EST11"}}),
+        (ToolRun{"TAKEN                    DAY\n2020-01-04 23:40 -11:00  2020-01-04\n", "", 0}));
+}
+
+TEST_F(ToolPhotos, DatesBeyondAllCalendarsAreUnknown)
+{
+    // The years -1919, 11508 and 3.9 million.
+    for (const std::int64_t beyond : {-123'700'000'000, 300'000'000'000, 123'456'789'012'345}) {
+        LibraryBuilder library(ios15);
+        library.asset("IMG_0001.JPG").set("ZDATECREATED", beyond);
+        const std::vector<std::string> fields = {"--fields", "created,localDay,fileName"};
+        EXPECT_EQ(runOn(library, "photos", fields),
+                  (ToolRun{"TAKEN  DAY  fileName\n            IMG_0001.JPG\n", "", 0}))
+            << beyond;
+        EXPECT_THAT(runOn(library, "photos", {"--json"}).out,
+                    AllOf(HasSubstr("\"created\": null,"), HasSubstr("\"localDay\": null,")))
+            << beyond;
+    }
 }
 
 TEST_F(ToolPhotos, DocumentHoldsEveryFactAndNullForUnknownOnes)
@@ -156,7 +194,7 @@ TEST_F(ToolPhotos, FieldsAreChosenAndOrderedInEveryFormat)
         return photos(arguments);
     };
     const std::string uuid = "A0000000-0000-0000-0000-000000000001";
-    EXPECT_EQ(photos(only), (ToolRun{"created               uuid                                  "
+    EXPECT_EQ(photos(only), (ToolRun{"TAKEN                 uuid                                  "
                                      "   PIXELS\n"
                                      "2020-01-05 10:40 UTC  " +
                                          uuid + "  4032x3024\n",

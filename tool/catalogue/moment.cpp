@@ -79,7 +79,8 @@ std::optional<std::int64_t> unixTimeOf(double coreDataSeconds)
     constexpr double years = 366.0 * 24 * 60 * 60;
     if (!(coreDataSeconds > -9999 * years && coreDataSeconds < 9999 * years))
         return std::nullopt;
-    return wholeSeconds(coreDataSeconds) + coreDataEpoch;
+    const std::int64_t unixTime = wholeSeconds(coreDataSeconds) + coreDataEpoch;
+    return isOfTheCalendar(unixTime) ? std::optional(unixTime) : std::nullopt;
 }
 
 std::string utcTimeText(std::int64_t unixTime)
@@ -101,8 +102,7 @@ std::string utcTimeOf(double coreDataSeconds)
 
 bool isOfTheCalendar(double coreDataSeconds)
 {
-    const auto unixTime = unixTimeOf(coreDataSeconds);
-    return unixTime && isOfTheCalendar(*unixTime);
+    return unixTimeOf(coreDataSeconds).has_value();
 }
 
 } // namespace iosphoto::tool

@@ -32,7 +32,7 @@ std::string localTimeText(std::int64_t unixTime);
 /// "2024-05-01": the same moment's local day.
 std::string localDayText(std::int64_t unixTime);
 
-/// A time of the database, in seconds since 2001; nothing beyond the year 9999.
+/// A time of the database, in seconds since 2001; nothing beyond the years 1 to 9999.
 std::optional<std::int64_t> unixTimeOf(double coreDataSeconds);
 
 /// "2024-05-01T12:30:00Z", for documents; empty beyond the years 1 to 9999.

@@ -1,4 +1,5 @@
 #include "commands/command.h"
+#include "commands/help_footer.h"
 #include "commands/library_options.h"
 #include "commands/photo_options.h"
 #include "commands/row_format_options.h"
@@ -27,19 +28,29 @@ void printPhotos(RowStream<PhotoRow> stream, const std::vector<Asset> &photos,
     stream.end();
 }
 
+void sayThatThereAreNone(const AssetList &assets)
+{
+    const auto count = static_cast<std::int64_t>(assets.size());
+    if (count == 0)
+        remark(counted(count, "the library holds {0} photo", "the library holds {0} photos"));
+    else
+        notice(counted(count, "the only photo does not fit; leave out an option to see it",
+                       "none of the {0} photos fits; leave out an option to see more"));
+}
+
 ExitStatus showPhotos(const PhotosRequest &request, std::ostream &out)
 {
-    const auto fields = fieldsToShow(photoFields(), request.format);
+    const bool isTrash = request.choice.filter.isDeleted;
+    const auto fields =
+        fieldsToShow(isTrash ? photoFieldsOfTheTrash() : photoFields(), request.format);
     const Library library(request.library);
     const AssetList assets(library.albums());
     const std::vector<Asset> photos = choosePhotos(request.choice, library, assets);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     library.sayHowItWasRead();
-    if (photos.empty() && assets.size() > 0)
-        notice(counted(static_cast<int>(assets.size()),
-                       "the only photo does not fit; leave out an option to see it",
-                       "none of the {0} photos fits; leave out an option to see more"));
+    if (photos.empty())
+        sayThatThereAreNone(assets);
     if (request.format.sqlite) {
         writePhotoDatabase(*request.format.sqlite, library, photos, rows);
         out << said("wrote {0}", printable(*request.format.sqlite)) << '\n';
@@ -60,14 +71,15 @@ Command addPhotos(CLI::App &app)
     addLibraryOptions(*command, request->library);
     addPhotoOptions(*command, request->choice);
     addRowFormatOptions(*command, request->format);
-    command->footer(
-        said("Examples:") +
-        "\n  iosphoto photos Photos.sqlite --album favorites\n"
-        "  iosphoto photos Photos.sqlite --album \"Summer 2019\" --json\n"
-        "  iosphoto photos Photos.sqlite --since 2024-05-01 --kind live,portrait\n"
-        "  iosphoto photos Photos.sqlite --deleted --within 7 --sort deleted\n"
-        "  iosphoto photos Photos.sqlite --sort size --limit 20 --fields path,fileSize\n"
-        "  iosphoto photos Photos.sqlite --frames --sqlite photos.db");
+    command->footer(helpFooter(
+        {listOfFields(keysOf(photoFields())),
+         examples({"iosphoto photos Photos.sqlite --album favorites",
+                   "iosphoto photos Photos.sqlite --album \"Summer 2019\" --json",
+                   "iosphoto photos Photos.sqlite --since 2024-05-01 --kind live,portrait",
+                   "iosphoto photos Photos.sqlite --deleted --within 7 --sort deleted",
+                   "iosphoto photos Photos.sqlite --sort size --limit 20 --fields path,fileSize",
+                   "iosphoto photos Photos.sqlite --frames --sqlite photos.db"}),
+         exitCodesOfALibrary()}));
     return {command, [request](std::ostream &out) { return showPhotos(*request, out); }};
 }
 

@@ -66,7 +66,7 @@ std::vector<Field<Row>> fieldsOfTheFile()
 std::vector<Field<Row>> fieldsOfTimes()
 {
     return {
-        {{"created", Type::Time},
+        {{"created", Type::Time, said("TAKEN")},
          [](const Row &row) { return utcTimeValue(row.facts.createdTime); }},
         {{"modified", Type::Time},
          [](const Row &row) { return utcTimeValue(row.facts.modifiedTime); }},
@@ -77,9 +77,9 @@ std::vector<Field<Row>> fieldsOfTimes()
          [](const Row &row) { return localDayValue(row.facts); }},
         {{"trashed", Type::Time},
          [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->trashed}) : Value(); }},
-        {{"goes", Type::Time},
+        {{"goes", Type::Time, said("GOES")},
          [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->goes}) : Value(); }},
-        {{"daysLeft", Type::Number},
+        {{"daysLeft", Type::Number, said("DAYS LEFT")},
          [](const Row &row) { return row.trash ? number(row.trash->daysLeft) : Value(); }},
     };
 }
@@ -120,6 +120,9 @@ std::vector<Field<Row>> viewsForPeople()
         {{"what", Type::Text, said("WHAT")},
          [](const Row &row) { return Value(wordsFor(row)); },
          isFact},
+        {{"kinds", Type::Text, said("WHAT")},
+         [](const Row &row) { return Value(kindsOf(row)); },
+         isFact},
     };
 }
 
@@ -134,7 +137,15 @@ FieldTable<PhotoRow> photoFields()
          {fieldsOfTheFile(), fieldsOfTimes(), fieldsOfBursts(),
           fieldsOfTraits(std::make_index_sequence<std::size(traits)>()), albums, viewsForPeople()})
         table.fields.insert(table.fields.end(), part.begin(), part.end());
-    table.inTables = {"localDay", "path", "pixels", "fileSize", "what", "albums"};
+    table.inTables = {"created", "path", "pixels", "fileSize", "what", "albums"};
+    return table;
+}
+
+FieldTable<PhotoRow> photoFieldsOfTheTrash()
+{
+    FieldTable<PhotoRow> table = photoFields();
+    table.inTables = {"created", "path",     "pixels", "fileSize",
+                      "kinds",   "daysLeft", "goes",   "albums"};
     return table;
 }
 

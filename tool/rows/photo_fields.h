@@ -43,6 +43,9 @@ private:
 /// What is known about a photo.
 FieldTable<PhotoRow> photoFields();
 
+/// The same; tables show how long each photo stays in the trash in columns of their own.
+FieldTable<PhotoRow> photoFieldsOfTheTrash();
+
 } // namespace iosphoto::tool
 
 #endif // IOSPHOTO_TOOL_PHOTO_FIELDS_H

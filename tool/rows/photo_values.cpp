@@ -13,7 +13,8 @@ Value utcTimeValue(double coreDataSeconds)
 Value localDayValue(const CPhotoData &photo)
 {
     const QString &day = photo.dateText;
-    return !day.isEmpty() && day.at(0).isDigit() ? Value(day.toStdString()) : Value();
+    const bool isDay = !day.isEmpty() && day.at(0).isDigit();
+    return isDay && isOfTheCalendar(photo.createdTime) ? Value(day.toStdString()) : Value();
 }
 
 } // namespace iosphoto::tool

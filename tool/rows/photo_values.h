@@ -6,11 +6,11 @@
 
 namespace iosphoto::tool {
 
-/// A time of the database; nothing beyond the year 9999.
+/// A time of the database; nothing beyond all calendars.
 Value utcTimeValue(double coreDataSeconds);
 
 /// The local day on which a photo was created, as the library found it; nothing where it cannot
-/// tell, for which it has a word.
+/// tell, for which it has a word, or where its time is beyond all calendars.
 Value localDayValue(const CPhotoData &photo);
 
 } // namespace iosphoto::tool

@@ -20,9 +20,24 @@ std::string wordsForTrait(const Trait &trait, const PhotoRow &row)
         return "";
     if (trait.flag == &CPhotoData::isBurst && row.burstFrames > 0)
         return said("burst of {0}", row.burstFrames);
+    return translated(trait.word);
+}
+
+std::string wordOrStay(const Trait &trait, const PhotoRow &row)
+{
     if (trait.flag == &CPhotoData::isDeleted && row.trash)
         return wordsForTrash(*row.trash);
-    return translated(trait.word);
+    return wordsForTrait(trait, row);
+}
+
+template <typename WordFor>
+std::string joinedWords(const PhotoRow &row, WordFor wordFor)
+{
+    std::string words;
+    for (const Trait &trait : traits)
+        if (const std::string word = wordFor(trait, row); !word.empty())
+            words += (words.empty() ? "" : said(", ")) + word;
+    return words;
 }
 
 } // namespace
@@ -34,11 +49,12 @@ std::string pixelsOf(const CPhotoData &photo)
 
 std::string wordsFor(const PhotoRow &row)
 {
-    std::string words;
-    for (const Trait &trait : traits)
-        if (const std::string word = wordsForTrait(trait, row); !word.empty())
-            words += (words.empty() ? "" : said(", ")) + word;
-    return words;
+    return joinedWords(row, wordOrStay);
+}
+
+std::string kindsOf(const PhotoRow &row)
+{
+    return joinedWords(row, wordsForTrait);
 }
 
 } // namespace iosphoto::tool

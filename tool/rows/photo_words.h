@@ -12,6 +12,9 @@ std::string pixelsOf(const CPhotoData &photo);
 /// 2024-05-03", in the user's language.
 std::string wordsFor(const PhotoRow &row);
 
+/// The same without its stay in the trash: "favorite, deleted".
+std::string kindsOf(const PhotoRow &row);
+
 } // namespace iosphoto::tool
 
 #endif // IOSPHOTO_TOOL_PHOTO_WORDS_H
