@@ -3,6 +3,7 @@
 #include "catalogue/album_kinds.h"
 #include "language/said.h"
 #include "output/counted.h"
+#include "output/paragraph.h"
 #include "output/text_table.h"
 
 namespace iosphoto::tool {
@@ -111,7 +112,8 @@ std::string summary(const LibraryDifference &difference)
 void printDifferenceTable(const LibraryDifference &difference, std::ostream &out)
 {
     if (!difference.isNone()) {
-        TextTable table({{said("CHANGE")}, {said("FILE")}, {said("WHAT")}});
+        TextTable table(
+            {{said("CHANGE")}, {said("FILE"), TextTable::Align::Left, Kept::End}, {said("WHAT")}});
         for (const AlbumDifference &album : difference.albums)
             addRow(table, album);
         for (const PhotoDifference &photo : difference.photos.differences)
@@ -119,7 +121,7 @@ void printDifferenceTable(const LibraryDifference &difference, std::ostream &out
         table.print(out);
         out << '\n';
     }
-    out << summary(difference) << '\n';
+    printParagraph(out, summary(difference));
 }
 
 } // namespace iosphoto::tool

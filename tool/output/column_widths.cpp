@@ -29,10 +29,11 @@ bool narrow(std::vector<std::size_t> &widths, const std::vector<std::size_t> &le
 
 } // namespace
 
-std::size_t leastWidth(std::size_t headingWidth)
+std::size_t leastWidth(std::size_t headingWidth, Kept kept)
 {
-    constexpr std::size_t useful = 8;
-    return std::max(headingWidth, useful);
+    constexpr std::size_t ofText = 16;
+    constexpr std::size_t ofPath = 24;
+    return std::max(headingWidth, kept == Kept::End ? ofPath : ofText);
 }
 
 std::optional<std::vector<std::size_t>> narrowedWidths(std::vector<std::size_t> widths,

@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_COLUMN_WIDTHS_H
 #define IOSPHOTO_TOOL_COLUMN_WIDTHS_H
 
+#include "output/display_width.h"
+
 #include <optional>
 #include <vector>
 
@@ -8,8 +10,9 @@ namespace iosphoto::tool {
 
 inline constexpr const char *columnGap = "  ";
 
-/// The width below which a column that may be cut is of no use.
-std::size_t leastWidth(std::size_t headingWidth);
+/// The width below which a column that may be cut is of no use: of a path, as much as shows the
+/// name of its file.
+std::size_t leastWidth(std::size_t headingWidth, Kept kept);
 
 /// The widths of columns that fit, gaps between them, into `columns`: the widest were made
 /// narrower, down to `least`. Nothing where even that does not fit.

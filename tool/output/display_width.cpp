@@ -96,16 +96,20 @@ std::size_t lineLength(const std::vector<Cluster> &clusters, std::size_t first, 
     std::size_t last = first;
     std::size_t width = 0;
     std::size_t lastBreak = 0;
+    std::size_t lastSlash = 0;
     for (; last < clusters.size(); ++last) {
         if (last > first && mayBreak(clusters[last - 1], clusters[last]))
             lastBreak = last - first;
+        if (last > first && clusters[last - 1].bytes == "/")
+            lastSlash = last - first;
         width += clusters[last].width;
         if (width > columns)
             break;
     }
     if (last == clusters.size())
         return last - first;
-    return lastBreak > 0 ? lastBreak : std::max<std::size_t>(last - first, 1);
+    const std::size_t usual = lastBreak > 0 ? lastBreak : lastSlash;
+    return usual > 0 ? usual : std::max<std::size_t>(last - first, 1);
 }
 
 } // namespace

@@ -17,7 +17,8 @@ enum class Kept { Beginning, End };
 std::string shortened(const std::string &text, std::size_t columns, Kept kept = Kept::Beginning);
 
 /// `text` in lines of at most `columns`, broken at spaces and beside wide characters where there
-/// are some; a character that is wider has a line of its own. At least one line.
+/// are some, else behind the slashes of paths; a character that is wider has a line of its own. At
+/// least one line.
 std::vector<std::string> wrapped(const std::string &text, std::size_t columns);
 
 /// `text` with spaces behind it (or before it) up to a width.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace iosphoto::tool {
 
@@ -34,7 +35,8 @@ Layout layoutOf(const std::vector<std::string> &headings, std::size_t columns)
 void printBlocks(std::ostream &out, const std::vector<std::string> &headings,
                  const std::vector<std::vector<std::string>> &rows, const Screen &screen)
 {
-    const Layout layout = layoutOf(headings, screen.columns.value_or(0));
+    const Layout layout =
+        layoutOf(headings, screen.columns.value_or(std::numeric_limits<std::size_t>::max()));
     const char *between = "";
     for (const std::vector<std::string> &row : rows) {
         out << between;

@@ -9,8 +9,8 @@
 
 namespace iosphoto::tool {
 
-/// Prints the rows of a table on a terminal that is too narrow for it: each as a block of lines
-/// "HEADING  value", without those that have no value. Long values go on in further lines.
+/// Prints the rows of a table, such as one that is too wide for a terminal: each as a block of
+/// lines "HEADING  value", without those that have no value. Long values go on in further lines.
 void printBlocks(std::ostream &out, const std::vector<std::string> &headings,
                  const std::vector<std::vector<std::string>> &rows, const Screen &screen);
 

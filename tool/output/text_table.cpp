@@ -35,8 +35,9 @@ void TextTable::print(std::ostream &out, const Screen &screen) const
     }
     std::vector<std::size_t> least = widths_;
     for (std::size_t i = 0; i < columns_.size(); ++i)
-        if (columns_[i].align == Align::Left)
-            least[i] = std::min(least[i], leastWidth(displayWidth(columns_[i].heading)));
+        if (columns_[i].isCut)
+            least[i] =
+                std::min(least[i], leastWidth(displayWidth(columns_[i].heading), columns_[i].kept));
     if (const auto narrowed = narrowedWidths(widths_, least, *screen.columns))
         printRows(out, screen, *narrowed);
     else

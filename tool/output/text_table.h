@@ -19,7 +19,8 @@ public:
     {
         std::string heading;
         Align align = Align::Left;
-        Kept kept = Kept::Beginning; ///< of cells that are cut; the end of paths tells more
+        Kept kept = Kept::Beginning;       ///< of cells that are cut; the end of paths tells more
+        bool isCut = align == Align::Left; ///< where there is little room; numbers never are
     };
 
     explicit TextTable(std::vector<Column> columns);

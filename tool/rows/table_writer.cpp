@@ -39,7 +39,8 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
     std::vector<TextTable::Column> shown;
     for (const Column &column : columns)
         shown.push_back({column.heading, column.align,
-                         column.type == Type::Path ? Kept::End : Kept::Beginning});
+                         column.type == Type::Path ? Kept::End : Kept::Beginning,
+                         column.align == Align::Left && column.type != Type::Time});
     table_.emplace(std::move(shown));
 }
 

@@ -94,6 +94,13 @@ TEST(Wrapped, BreaksAtSpacesWhereThereAreSome)
     EXPECT_THAT(wrapped("", 3), ElementsAre(""));
 }
 
+TEST(Wrapped, BreaksPathsBehindSlashesWhereThereAreNoSpaces)
+{
+    EXPECT_THAT(wrapped("/home/photos/IMG_0001.JPG", 15),
+                ElementsAre("/home/photos/", "IMG_0001.JPG"));
+    EXPECT_THAT(wrapped("a zip/tar of it", 8), ElementsAre("a", "zip/tar", "of it"));
+}
+
 TEST(Wrapped, BreaksBesideWideCharactersButNotBeforeTheirPunctuation)
 {
     EXPECT_THAT(wrapped("例如 iPhone14,2（默认）", 18), ElementsAre("例如 iPhone14,2", "（默认）"));

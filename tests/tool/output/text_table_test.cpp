@@ -47,10 +47,27 @@ TEST(TextTable, IsWholeWhereItIsNotShownOnATerminal)
 
 TEST(TextTable, CutsTheWidestCellsToFitATerminal)
 {
-    EXPECT_EQ(printed(sample(), terminal(44)), "DAY         FILE NAME         SIZE  UUID\n"
-                                               "2020-01-06  DCIM/100APPLE…  1.5 MB\n"
+    EXPECT_EQ(printed(sample(), terminal(46)), "DAY         FILE NAME           SIZE  UUID\n"
+                                               "2020-01-06  DCIM/100APPLE/a…  1.5 MB\n"
                                                "2020-01-07  相机胶卷/" +
-                                                   family + family + "…   10 KB  B0000000\n");
+                                                   family + family + family +
+                                                   "…   10 KB  B0000000\n");
+}
+
+TEST(TextTable, CutsNothingToLessThanIsUseful)
+{
+    using Align = TextTable::Align;
+    TextTable table({{"TIME", Align::Left, Kept::Beginning, false},
+                     {"PATH", Align::Left, Kept::End},
+                     {"WORDS"}});
+    table.add(
+        {"2020-01-06 10:40:00 UTC", "DCIM/100APPLE/IMG_0001 (1).JPG", "many words of a text"});
+    EXPECT_EQ(printed(table, terminal(23 + 24 + 16 + 4)),
+              "TIME                     PATH                      WORDS\n"
+              "2020-01-06 10:40:00 UTC  …0APPLE/IMG_0001 (1).JPG  many words of a…\n");
+    EXPECT_EQ(printed(table, terminal(23 + 24 + 16 + 3)), "TIME   2020-01-06 10:40:00 UTC\n"
+                                                          "PATH   DCIM/100APPLE/IMG_0001 (1).JPG\n"
+                                                          "WORDS  many words of a text\n");
 }
 
 TEST(TextTable, PrintsBlocksWhereCuttingIsNotEnough)

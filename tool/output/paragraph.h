@@ -1,0 +1,14 @@
+#ifndef IOSPHOTO_TOOL_PARAGRAPH_H
+#define IOSPHOTO_TOOL_PARAGRAPH_H
+
+#include <ostream>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// Prints printable text with the end of its line; on a terminal, in as many lines as it takes.
+void printParagraph(std::ostream &out, const std::string &text);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_PARAGRAPH_H
