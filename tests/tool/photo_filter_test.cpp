@@ -43,6 +43,9 @@ const ListingCase filters[] = {
     {{"--kind", "photo"}, {"1.JPG", "3.JPG", "5.JPG", "6.JPG", "7.JPG"}},
     {{"--kind", "live,slo-mo"}, {"3.JPG", "4.MOV"}},
     {{"--kind", "live", "--kind", "edited"}, {"3.JPG", "6.JPG"}},
+    {{"--kind", "LIVE"}, {"3.JPG"}},
+    {{"--kind", "Videos"}, {"2.MOV", "4.MOV"}},
+    {{"--kind", " live , Slo-Mos "}, {"3.JPG", "4.MOV"}},
     {{"--kind", "photo", "--favorite"}, {"1.JPG"}},
     {{"--album", "trip", "--kind", "live,video"}, {"3.JPG"}},
     {{"--since", "2020-01-04"}, {"1.JPG", "2.MOV"}},
@@ -99,6 +102,12 @@ TEST(ToolPhotoFilters, MistakesAreWrongUsage)
         "screen-recording, panorama, burst, screenshot, live, selfie, portrait, animated, "
         "raw, prores, favorite, edited, hidden, deleted\n",
         2);
+    expectFailure(photos({"--kind", "screnshots"}),
+                  "--kind: there is no kind 'screnshots'; there are photo, video, time-lapse, "
+                  "slo-mo, screen-recording, panorama, burst, screenshot, live, selfie, portrait, "
+                  "animated, raw, prores, favorite, edited, hidden, deleted; did you mean "
+                  "'screenshot'?\n",
+                  2);
     expectFailure(
         photos({"--sort", "colour"}),
         "--sort: there is no order 'colour'; there are date, name, size, duration, added, "

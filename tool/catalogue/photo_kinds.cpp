@@ -2,7 +2,10 @@
 
 #include "catalogue/traits.h"
 #include "failure.h"
+#include "language/did_you_mean.h"
 #include "language/said.h"
+
+#include <fmt/ranges.h>
 
 namespace iosphoto::tool {
 
@@ -20,14 +23,6 @@ std::vector<PhotoKind> allKinds()
     return kinds;
 }
 
-std::string knownKinds()
-{
-    std::string known;
-    for (const PhotoKind &kind : photoKinds())
-        known += (known.empty() ? "" : ", ") + std::string(kind.name);
-    return known;
-}
-
 } // namespace
 
 bool isVideo(const Asset &asset)
@@ -42,13 +37,23 @@ const std::vector<PhotoKind> &photoKinds()
     return kinds;
 }
 
+std::vector<std::string> kindNames()
+{
+    std::vector<std::string> names;
+    for (const PhotoKind &kind : photoKinds())
+        names.emplace_back(kind.name);
+    return names;
+}
+
 KindTest kindNamed(const std::string &name)
 {
+    const std::string small = QString::fromStdString(name).toLower().toStdString();
     for (const PhotoKind &kind : photoKinds())
-        if (name == kind.name)
+        if (small == kind.name || small == kind.name + std::string("s"))
             return kind.test;
-    throw Failure(WrongUsage,
-                  said("--kind: there is no kind '{0}'; there are {1}", name, knownKinds()));
+    throw Failure(WrongUsage, said("--kind: there is no kind '{0}'; there are {1}", name,
+                                   fmt::join(kindNames(), ", ")) +
+                                  didYouMean(small, kindNames()));
 }
 
 } // namespace iosphoto::tool

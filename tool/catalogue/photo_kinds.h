@@ -27,8 +27,10 @@ struct PhotoKind
 /// several.
 const std::vector<PhotoKind> &photoKinds();
 
-/// The test of the kind that somebody names. Throws Failure for an unknown one, naming those that
-/// are known.
+std::vector<std::string> kindNames();
+
+/// The test of the kind that somebody names, in any case of letters, one or many: "screenshot" or
+/// "Screenshots". Throws Failure for an unknown one, naming those that are known.
 KindTest kindNamed(const std::string &name);
 
 } // namespace iosphoto::tool

@@ -1,4 +1,5 @@
 #include "commands/command.h"
+#include "commands/help_footer.h"
 #include "commands/library_options.h"
 #include "commands/row_format_options.h"
 #include "language/said.h"
@@ -46,10 +47,11 @@ Command addAlbums(CLI::App &app)
     CLI::App *command = app.add_subcommand("albums", said("List the albums of a library"));
     addLibraryOptions(*command, request->library);
     addRowFormatOptions(*command, request->format);
-    command->footer(said("Examples:") +
-                    "\n  iosphoto albums Photos.sqlite\n"
-                    "  iosphoto albums Photos.sqlite --csv\n"
-                    "  iosphoto albums Photos.sqlite --fields name,count,bytes");
+    command->footer(helpFooter(
+        {listOfFields(keysOf(albumFields())),
+         examples({"iosphoto albums Photos.sqlite", "iosphoto albums Photos.sqlite --csv",
+                   "iosphoto albums Photos.sqlite --fields name,count,bytes"}),
+         exitCodesOfALibrary()}));
     return {command, [request](std::ostream &out) { return showAlbums(*request, out); }};
 }
 

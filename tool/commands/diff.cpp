@@ -2,6 +2,7 @@
 #include "commands/difference_csv.h"
 #include "commands/difference_document.h"
 #include "commands/difference_table.h"
+#include "commands/help_footer.h"
 #include "commands/library_options.h"
 #include "commands/looks_like.h"
 #include "language/said.h"
@@ -123,13 +124,12 @@ Command addDiff(CLI::App &app)
         command->add_flag("--csv", request->asCsv, said("print CSV, for the photos only"));
     json->excludes(jsonLines, csv);
     jsonLines->excludes(csv);
-    command->footer(said("Both libraries are read as of the time of the earlier one. The exit "
-                         "status is 0 when there is no "
-                         "difference, 1 when there is one, and 3 when a library could not be read "
-                         "completely.") +
-                    "\n\n" + said("Examples:") +
-                    "\n  iosphoto diff May/Photos.sqlite June/Photos.sqlite\n"
-                    "  iosphoto diff May/Photos.sqlite June/Photos.sqlite --json");
+    command->footer(
+        helpFooter({said("Both libraries are read as of the time of the earlier one."),
+                    examples({"iosphoto diff May/Photos.sqlite June/Photos.sqlite",
+                              "iosphoto diff May/Photos.sqlite June/Photos.sqlite --json"}),
+                    said("Exit: 0 same, 1 different, 2 wrong usage, 3 to 6 unusable files; see "
+                         "the README")}));
     return {command, [request](std::ostream &out) { return showDifference(*request, out); }};
 }
 

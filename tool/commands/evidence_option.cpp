@@ -11,6 +11,7 @@ void addEvidenceOption(CLI::App &command, std::optional<std::string> &file)
         .add_option("--evidence", file,
                     said("write a JSON file that lists the files read and written, with their "
                          "SHA-256 hashes"))
+        ->type_name(said("FILE"))
         ->check(notEmpty());
 }
 

@@ -69,10 +69,10 @@ void addGeneralOptionsTo(CLI::App &command, const std::string &version)
     const std::string group = said("General");
     const auto obeyed = [](const std::string &) {}; // obeyLookOptions() has done it
     command.add_option_function<std::string>("--lang", obeyed, said("language of texts"))
-        ->option_text(joined(languages, "|"))
+        ->type_name(joined(languages, "|"))
         ->group(group);
     command.add_option_function<std::string>("--color", obeyed, said("when to use colors"))
-        ->option_text(joined(colors, "|"))
+        ->type_name(joined(colors, "|"))
         ->group(group);
     command
         .add_flag_callback(

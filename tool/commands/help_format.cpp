@@ -4,33 +4,58 @@
 #include "output/display_width.h"
 #include "output/terminal.h"
 
-#include <algorithm>
 #include <iostream>
 #include <limits>
+#include <sstream>
 #include <utility>
 
 namespace iosphoto::tool {
 
 namespace {
 
-constexpr std::size_t descriptionAt = 30;
+/// The columns of a help that is not shown on a terminal; descriptions have a line each there.
+constexpr std::size_t columnsOfParagraphs = 80;
+constexpr std::size_t columnsOfEntries = std::numeric_limits<std::size_t>::max();
+
+/// The column in which descriptions begin: where there is little room, below the name.
+std::size_t descriptionAt(std::size_t columns)
+{
+    constexpr std::size_t beside = 30;
+    constexpr std::size_t below = 6;
+    return columns >= 2 * beside ? beside : below;
+}
 
 /// "  name    description": the description on further lines where it is long.
 std::string entry(const std::string &name, const std::string &description)
 {
-    constexpr std::size_t narrowest = 20;
-    const std::size_t columns =
-        screenOf(std::cout).columns.value_or(std::numeric_limits<std::size_t>::max());
-    const std::size_t room = std::max(columns, descriptionAt + narrowest) - descriptionAt;
-    std::string text = padded("  " + name, descriptionAt - 1);
-    text += displayWidth(text) < descriptionAt ? " " : "\n" + std::string(descriptionAt, ' ');
+    const std::size_t columns = screenOf(std::cout).columns.value_or(columnsOfEntries);
+    const std::size_t at = descriptionAt(columns);
+    const std::string further = "\n" + std::string(at, ' ');
+    std::string text = padded("  " + name, at - 1);
+    text += displayWidth(text) < at ? " " : further;
     const char *between = "";
-    for (const std::string &line : wrapped(description, room)) {
+    for (const std::string &line : wrapped(description, columns > at ? columns - at : 1)) {
         text += between + line;
-        static const std::string further = "\n" + std::string(descriptionAt, ' ');
         between = further.c_str();
     }
     return text + "\n";
+}
+
+/// Text of several lines with the long ones wrapped. Those that are indented are command lines,
+/// which stay whole.
+std::string paragraphs(const std::string &text)
+{
+    const std::size_t columns = screenOf(std::cout).columns.value_or(columnsOfParagraphs);
+    std::istringstream lines(text);
+    std::string all;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.compare(0, 1, " ") == 0)
+            all += line + "\n";
+        else
+            for (const std::string &part : wrapped(line, columns))
+                all += part + "\n";
+    }
+    return all;
 }
 
 } // namespace
@@ -41,18 +66,35 @@ HelpFormat::HelpFormat()
     label("OPTIONS", said("OPTIONS"));
     label("SUBCOMMAND", said("COMMAND"));
     label("Positionals", said("Arguments"));
-    label("REQUIRED", said("REQUIRED"));
-    label("TEXT", said("TEXT"));
-    label("INT", said("NUMBER"));
-    label("UINT", said("NUMBER"));
-    label("Needs", said("Needs"));
-    label("Excludes", said("Excludes"));
 }
 
 std::string HelpFormat::make_option(const CLI::Option *option, bool isPositional) const
 {
-    return entry(make_option_name(option, isPositional) + make_option_opts(option),
-                 make_option_desc(option));
+    const std::string name = isPositional
+                                 ? make_option_usage(option)
+                                 : make_option_name(option, false) + make_option_opts(option);
+    return entry(name, make_option_desc(option));
+}
+
+std::string HelpFormat::make_option_opts(const CLI::Option *option) const
+{
+    const std::string value = option->get_type_name(); // none of flags
+    return value.empty() ? "" : " " + value;
+}
+
+std::string HelpFormat::make_description(const CLI::App *app) const
+{
+    return paragraphs(Formatter::make_description(app));
+}
+
+std::string HelpFormat::make_usage(const CLI::App *app, std::string name) const
+{
+    return paragraphs(Formatter::make_usage(app, std::move(name)));
+}
+
+std::string HelpFormat::make_footer(const CLI::App *app) const
+{
+    return paragraphs(Formatter::make_footer(app));
 }
 
 std::string HelpFormat::make_help(const CLI::App *app, std::string name,

@@ -2,12 +2,16 @@
 #include "catalogue/photo_kinds.h"
 #include "catalogue/summary.h"
 #include "commands/command.h"
+#include "commands/help_footer.h"
 #include "commands/info_document.h"
 #include "commands/library_options.h"
 #include "language/said.h"
 #include "model/core_data_time.h"
 #include "output/json_document.h"
+#include "output/paragraph.h"
+#include "output/printable.h"
 #include "output/readable_size.h"
+#include "output/row_blocks.h"
 #include "output/text_table.h"
 
 namespace iosphoto::tool {
@@ -39,11 +43,13 @@ std::string schemaText(const Library &library)
 
 void printFacts(const Library &library, const Summary &summary, std::ostream &out)
 {
-    TextTable table({{said("LIBRARY")}, {library.name()}});
+    std::vector<std::string> labels;
+    std::vector<std::string> facts;
     const auto add = [&](const std::string &label, const std::string &fact) {
-        if (!fact.empty())
-            table.add({label, fact});
+        labels.push_back(label);
+        facts.push_back(printable(fact));
     };
+    add(said("LIBRARY"), library.name());
     const ProbedSchema &schema = library.schema();
     add(said("Device"),
         schema.productOrigin == DeviceOrigin::Assumption
@@ -58,7 +64,7 @@ void printFacts(const Library &library, const Summary &summary, std::ostream &ou
     add(said("First taken"), localTimeOf(summary.firstCreated));
     add(said("Last taken"), localTimeOf(summary.lastCreated));
     add(said("Left out of the trash"), std::to_string(library.leftOut()));
-    table.print(out);
+    printBlocks(out, labels, {facts}, screenOf(out));
 }
 
 void printCounts(const Summary &summary, std::ostream &out)
@@ -78,14 +84,16 @@ void printCounts(const Summary &summary, std::ostream &out)
 void printLog(const Library &library, std::ostream &out)
 {
     if (!library.hasLog()) {
-        out << said("There is no write-ahead log (-wal).") << '\n';
+        printParagraph(out, said("There is no write-ahead log (-wal)."));
         return;
     }
     if (library.logChanges().empty()) {
-        out << said("The write-ahead log (-wal) adds, removes and trashes no photo.") << '\n';
+        printParagraph(out, said("The write-ahead log (-wal) adds, removes and trashes no photo."));
         return;
     }
-    TextTable table({{said("IN THE LOG ONLY")}, {said("FILE")}, {said("UUID")}});
+    TextTable table({{said("IN THE LOG ONLY")},
+                     {said("FILE"), TextTable::Align::Left, Kept::End},
+                     {said("UUID")}});
     for (const LogChange &change : library.logChanges())
         table.add({translated(machineName(change.kind)), change.path, change.uuid});
     table.print(out);
@@ -127,8 +135,9 @@ Command addInfo(CLI::App &app)
         ->add_flag("--jsonl", request->asJsonLine,
                    said("print the document as one line, to put those of many libraries together"))
         ->excludes(json);
-    command->footer(said("Examples:") +
-                    "\n  iosphoto info Photos.sqlite\n  iosphoto info backup.zip --json");
+    command->footer(
+        helpFooter({examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),
+                    exitCodesOfALibrary()}));
     return {command, [request](std::ostream &out) { return showInfo(*request, out); }};
 }
 

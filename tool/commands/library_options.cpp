@@ -12,13 +12,15 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
                     said("Photos.sqlite, media folder, backup folder, or a zip or tar of one"))
         ->required();
     addDeviceOptions(command, request.device);
-    command.add_option_function<std::string>(
-        "--as-of",
-        [&request](const std::string &text) {
-            request.asOf = Moment{parseTime(text, "--as-of").first, ""};
-        },
-        said("the moment that counts as now, such as 2024-05-01 or now: what had been in the "
-             "trash for 30 days then is left out (default: when the source was made)"));
+    command
+        .add_option_function<std::string>(
+            "--as-of",
+            [&request](const std::string &text) {
+                request.asOf = Moment{parseTime(text, "--as-of").first, ""};
+            },
+            said("the moment that counts as now, such as 2024-05-01 or now: what had been in the "
+                 "trash for 30 days then is left out (default: when the source was made)"))
+        ->type_name(said("TIME"));
 }
 
 void addDeviceOptions(CLI::App &command, Device &device)
@@ -26,11 +28,13 @@ void addDeviceOptions(CLI::App &command, Device &device)
     command
         .add_option("--ios", device.iosVersion,
                     said("iOS version, such as 17.4 (default: that of the source)"))
+        ->type_name(said("VERSION"))
         ->check(looksLike("[0-9]+(\\.[0-9]+)*[a-z]?", "17.4"));
     command
         .add_option("--product", device.productType,
                     said("product type, such as iPhone14,2 (default: that of the source, or one "
                          "that hides no album)"))
+        ->type_name(said("MODEL"))
         ->check(looksLike("[A-Za-z]+[0-9]+,[0-9]+", "iPhone14,2"));
 }
 

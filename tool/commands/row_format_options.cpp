@@ -1,5 +1,6 @@
 #include "commands/row_format_options.h"
 
+#include "commands/comma_list.h"
 #include "commands/looks_like.h"
 #include "language/said.h"
 
@@ -19,14 +20,13 @@ void addRowFormatOptions(CLI::App &command, RowFormat &format)
         command
             .add_option("--sqlite", format.sqlite,
                         said("write a SQLite database; one that iosphoto wrote before is replaced"))
+            ->type_name(said("FILE"))
             ->check(notEmpty());
     CLI::Option *const fields =
-        command
-            .add_option("--fields", format.fields,
-                        said("show these fields in this order, such as uuid,path; not with "
-                             "--sqlite, which has all"))
-            ->delimiter(',')
-            ->allow_extra_args(false);
+        command.add_option("--fields", format.fields,
+                           said("show these fields in this order, such as uuid,path (see FIELDS "
+                                "below); not with --sqlite, which has all"));
+    takeCommaList(*fields).type_name(said("FIELDS"));
     json->excludes(jsonLines, csv, sqlite);
     jsonLines->excludes(csv, sqlite);
     csv->excludes(sqlite);

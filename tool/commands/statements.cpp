@@ -1,4 +1,5 @@
 #include "commands/command.h"
+#include "commands/help_footer.h"
 #include "commands/library_options.h"
 #include "commands/looks_like.h"
 #include "language/said.h"
@@ -173,10 +174,11 @@ Command addStatements(CLI::App &app)
         ->check(notEmpty());
     addDeviceOptions(*command, request->device);
     command->add_flag("--json", request->asJson, said("print a JSON document"));
-    command->footer(said("Examples:") +
-                    "\n  iosphoto statements Photos.sqlite > passes.sql\n"
-                    "  sqlite3 -readonly Photos.sqlite < passes.sql\n"
-                    "  iosphoto statements --ios 17.4 --product iPhone14,2 --json");
+    command->footer(
+        helpFooter({examples({"iosphoto statements Photos.sqlite > passes.sql",
+                              "sqlite3 -readonly Photos.sqlite < passes.sql",
+                              "iosphoto statements --ios 17.4 --product iPhone14,2 --json"}),
+                    said("Exit: 0 good, 2 wrong usage, 3 to 6 unusable files; see the README")}));
     return {command, [request](std::ostream &out) { return showStatements(*request, out); }};
 }
 

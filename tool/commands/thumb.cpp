@@ -1,10 +1,12 @@
 #include "commands/command.h"
+#include "commands/help_footer.h"
 #include "commands/looks_like.h"
 #include "language/said.h"
 #include "output/counted.h"
 #include "output/file_use_observer.h"
 #include "output/json_document.h"
 #include "output/notice.h"
+#include "output/paragraph.h"
 #include "output/printable.h"
 #include "output/protected_sources.h"
 #include "output/text_table.h"
@@ -32,11 +34,12 @@ struct ThumbRequest
 void printList(const ThumbCache &cache, std::ostream &out)
 {
     using Align = TextTable::Align;
-    out << counted(cache.recordCount(), "format {1}, {0} record of {2} bytes, {3} with a thumbnail",
-                   "format {1}, {0} records of {2} bytes, {3} with a thumbnail",
-                   cache.format().code, grouped(cache.format().recordSize),
-                   grouped(static_cast<int>(cache.thumbnails().size())))
-        << "\n\n";
+    printParagraph(out, counted(cache.recordCount(),
+                                "format {1}, {0} record of {2} bytes, {3} with a thumbnail",
+                                "format {1}, {0} records of {2} bytes, {3} with a thumbnail",
+                                cache.format().code, grouped(cache.format().recordSize),
+                                grouped(static_cast<int>(cache.thumbnails().size()))));
+    out << '\n';
     TextTable table({{said("INDEX"), Align::Right},
                      {said("PIXELS"), Align::Right},
                      {said("BMP BYTES"), Align::Right}});
@@ -137,25 +140,31 @@ Command addThumb(CLI::App &app)
     };
     CLI::Option *index =
         thumb
-            .add_option_function<std::string>("--index", takeIndex,
-                                              said("write this thumbnail, as .bmp or .png"))
+            .add_option_function<std::string>(
+                "--index", takeIndex, said("write this thumbnail to --output, as .bmp or .png"))
+            ->type_name(said("NUMBER"))
             ->check(looksLike("[0-9]+", "7"))
             ->needs(output);
-    CLI::Option *all = thumb.add_flag("--all", request->all, said("write all thumbnails"))
-                           ->needs(output)
-                           ->excludes(index);
-    thumb.add_flag("--png", request->asPng, said("write PNG files instead of BMP"))->needs(all);
+    CLI::Option *all =
+        thumb.add_flag("--all", request->all, said("write all thumbnails into --output"))
+            ->needs(output)
+            ->excludes(index);
+    thumb.add_flag("--png", request->asPng, said("with --all: write PNG files instead of BMP"))
+        ->needs(all);
     CLI::Option *sheet = thumb.add_option("--sheet", request->sheet,
                                           said("draw all on a contact sheet, a .png file; from "
                                                "501 on also on FILE-2.png and so on"));
     sheet->excludes(index, all, output);
-    output->check(notEmpty());
-    sheet->check(notEmpty());
+    output->type_name(said("FILE") + "|" + said("FOLDER"))->check(notEmpty());
+    sheet->type_name(said("FILE"))->check(notEmpty());
     thumb.add_flag("--json", request->asJson, said("print a JSON document"));
-    thumb.footer(said("Examples:") + "\n  iosphoto thumb 120x120.ithmb\n"
-                                     "  iosphoto thumb 120x120.ithmb --index 7 -o photo.png\n"
-                                     "  iosphoto thumb 120x120.ithmb --all -o thumbnails\n"
-                                     "  iosphoto thumb 120x120.ithmb --sheet sheet.png");
+    thumb.footer(helpFooter(
+        {examples({"iosphoto thumb 120x120.ithmb",
+                   "iosphoto thumb 120x120.ithmb --index 7 -o photo.png",
+                   "iosphoto thumb 120x120.ithmb --all -o thumbnails",
+                   "iosphoto thumb 120x120.ithmb --sheet sheet.png"}),
+         said(
+             "Exit: 0 good, 1 incomplete, 2 wrong usage, 3 or 4 unusable files; see the README")}));
     return {&thumb, [request](std::ostream &out) { return showThumbnails(*request, out); }};
 }
 

@@ -1,6 +1,7 @@
 #include "rows/field_choice.h"
 
 #include "failure.h"
+#include "language/did_you_mean.h"
 #include "language/said.h"
 
 #include <algorithm>
@@ -17,7 +18,8 @@ std::vector<std::size_t> placesOfKeys(const std::vector<std::string> &all,
         const auto found = std::find(all.begin(), all.end(), key);
         if (found == all.end())
             throw Failure(WrongUsage, said("--fields: there is no field '{0}'; there are {1}", key,
-                                           fmt::join(all, ", ")));
+                                           fmt::join(all, ", ")) +
+                                          didYouMean(key, all));
         const auto place = static_cast<std::size_t>(found - all.begin());
         if (std::find(places.begin(), places.end(), place) == places.end())
             places.push_back(place);

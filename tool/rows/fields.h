@@ -34,16 +34,23 @@ std::vector<Field<Row>> factsOf(const FieldTable<Row> &table)
     return facts;
 }
 
+/// The keys of all fields, as somebody may choose them.
+template <typename Row>
+std::vector<std::string> keysOf(const FieldTable<Row> &table)
+{
+    std::vector<std::string> keys;
+    for (const Field<Row> &field : table.fields)
+        keys.push_back(field.column.key);
+    return keys;
+}
+
 /// The fields of these keys in their order. Throws Failure when one is unknown.
 template <typename Row>
 std::vector<Field<Row>> fieldsOfKeys(const FieldTable<Row> &table,
                                      const std::vector<std::string> &keys)
 {
-    std::vector<std::string> all;
-    for (const Field<Row> &field : table.fields)
-        all.push_back(field.column.key);
     std::vector<Field<Row>> chosen;
-    for (const std::size_t place : placesOfKeys(all, keys))
+    for (const std::size_t place : placesOfKeys(keysOf(table), keys))
         chosen.push_back(table.fields.at(place));
     return chosen;
 }
