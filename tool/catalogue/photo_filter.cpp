@@ -43,7 +43,7 @@ bool fitsTrash(const PhotoFilter &filter, const Library &library, const Asset &a
 {
     if (!filter.trashedWithinDays)
         return true;
-    constexpr std::int64_t day = 24 * 60 * 60;
+    constexpr std::int64_t day = std::int64_t(24) * 60 * 60;
     const auto stay = trashStay(library, asset);
     return stay && stay->trashed >= library.asOf().unixTime - *filter.trashedWithinDays * day;
 }

@@ -8,7 +8,7 @@ namespace iosphoto::tool {
 
 namespace {
 
-constexpr std::int64_t day = 24 * 60 * 60;
+constexpr std::int64_t day = std::int64_t(24) * 60 * 60;
 
 } // namespace
 

@@ -19,6 +19,7 @@ std::string joined(const std::vector<std::string> &items)
 std::string names(const std::vector<const CAlbumGroup *> &albums)
 {
     std::vector<std::string> names;
+    names.reserve(albums.size());
     for (const CAlbumGroup *album : albums)
         names.push_back(englishName(*album));
     return joined(names);
@@ -44,7 +45,8 @@ void forEachCell(const PhotoDifference &photo, Take take)
     for (const auto &[key, member] : members.items()) {
         if (key == "before" || key == "after")
             for (const auto &[fact, unknown] : noFacts.items())
-                take(key + "." + fact, member.is_null() ? Value() : asValue(member.at(fact)));
+                take(fmt::format("{}.{}", key, fact),
+                     member.is_null() ? Value() : asValue(member.at(fact)));
         else if (key == "addedTo" || key == "removedFrom")
             take(key, names(key == "addedTo" ? photo.addedTo : photo.removedFrom));
         else

@@ -49,12 +49,9 @@ void appendQuoted(std::string &line, std::string_view text)
 
 } // namespace
 
-void appendCsvCell(std::string &line, const std::string &text)
+void appendCsvCell(std::string &line, const std::string &bytes)
 {
-    if (!isUtf8(text)) {
-        appendCsvCell(line, asUtf8(text));
-        return;
-    }
+    const std::string &text = isUtf8(bytes) ? bytes : asUtf8(bytes);
     const bool needsGuard = runsAsFormula(text);
     const bool needsQuotes = text.find_first_of("\",\r\n") != std::string::npos;
     line += needsQuotes ? "\"" : "";

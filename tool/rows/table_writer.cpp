@@ -37,6 +37,7 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
 {
     columns_ = columns;
     std::vector<TextTable::Column> shown;
+    shown.reserve(columns.size());
     for (const Column &column : columns)
         shown.push_back({column.heading, column.align,
                          column.type == Type::Path ? Kept::End : Kept::Beginning,
