@@ -4,6 +4,8 @@
 #include "commands/difference_document.h"
 #include "rows/csv_writer.h"
 
+#include <fmt/format.h>
+
 namespace iosphoto::tool {
 
 namespace {

@@ -51,7 +51,10 @@ void appendQuoted(std::string &line, std::string_view text)
 
 void appendCsvCell(std::string &line, const std::string &bytes)
 {
-    const std::string &text = isUtf8(bytes) ? bytes : asUtf8(bytes);
+    std::string repaired; // hardly ever, so that most cells are not copied
+    if (!isUtf8(bytes))
+        repaired = asUtf8(bytes);
+    const std::string &text = repaired.empty() ? bytes : repaired;
     const bool needsGuard = runsAsFormula(text);
     const bool needsQuotes = text.find_first_of("\",\r\n") != std::string::npos;
     line += needsQuotes ? "\"" : "";
