@@ -6,6 +6,7 @@
 #include "source/manifest_db.h"
 #include "source/manifest_mbdb.h"
 #include "source/property_list.h"
+#include "source/rollback_journal.h"
 #include "source/stored_names.h"
 
 #include <algorithm>
@@ -71,6 +72,7 @@ void Backup::copyRecords() const
     }
     FileUseObserver::announceReading(onDisk);
     tree_.copyOut(files);
+    forgetSuperJournal(copies_ / database);
 }
 
 void Backup::readProperties()

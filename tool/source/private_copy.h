@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_PRIVATE_COPY_H
 
 #include "source/private_folder.h"
+#include "source/rollback_journal.h"
 #include "source/source.h"
 
 #include <fstream>
@@ -16,7 +17,11 @@ class PrivateCopy
 {
 public:
     /// Throws Failure when something cannot be read or copied.
-    explicit PrivateCopy(const Source &source) { source.copyDatabaseTo(folder_.path()); }
+    explicit PrivateCopy(const Source &source)
+    {
+        source.copyDatabaseTo(folder_.path());
+        forgetSuperJournal(database());
+    }
 
     std::string database() const { return (folder_ / Source::databaseFile).string(); }
 
