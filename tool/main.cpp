@@ -56,10 +56,10 @@ int run(int argumentCount, char **arguments)
 
 int main(int argumentCount, char **arguments)
 {
-    sqlite_error_log::install();
     for (const int signal : {SIGXFSZ, SIGPIPE}) // a write that fails is an error like others
         std::signal(signal, SIG_IGN);
     try {
+        sqlite_error_log::install();
         const InterruptionWatch watch;
         const StandardOutput output;
         const int status = run(argumentCount, arguments);

@@ -118,6 +118,7 @@ TEST_F(ChineseOutput, OfAFailureHasNoEnglishWordsOfSqlite)
     library_.close();
     std::filesystem::resize_file(library_.path(), std::filesystem::file_size(library_.path()) / 2);
     expectFailure(runOn(library_, "albums", inChinese),
-                  "无法读取“" + library_.path() + "”：数据库内容已损坏；请从设备或备份重新拷贝\n",
+                  "无法读取“" + library_.path() +
+                      "”：数据库内容已损坏；请从设备或备份重新拷贝，连同其 -wal 文件\n",
                   3);
 }

@@ -79,6 +79,24 @@ TEST_F(ToolInfo, ComparesTheDatabaseWithAndWithoutItsLog)
     EXPECT_THAT(info().out, HasSubstr("added            DCIM/100APPLE/ADDED\\n.JPG"));
 }
 
+TEST_F(ToolInfo, KnowsAssetsWithoutUuidByTheirKeys)
+{
+    constexpr const char *manyAssets =
+        "with recursive numbers (n) as (select 100 union all select n + 1 from numbers limit "
+        "20000) insert into ZASSET (Z_PK, ZFILENAME) select n, 'N.JPG' from numbers";
+    library_.execute(manyAssets);
+    AssetRow trashed = library_.asset("TRASHED.JPG").set("ZUUID", nullptr);
+    library_.execute("pragma journal_mode = wal; pragma wal_autocheckpoint = 0");
+    library_.execute("delete from ZASSET where Z_PK = 100");
+    library_.asset("ADDED.JPG").set("ZUUID", nullptr);
+    trashed.set("ZTRASHEDSTATE", 1);
+
+    EXPECT_EQ(document()["log"]["changes"], json::parse(R"([
+        {"change": "added", "uuid": null, "path": "DCIM/100APPLE/ADDED.JPG"},
+        {"change": "gone", "uuid": null, "path": "N.JPG"},
+        {"change": "trashed", "uuid": null, "path": "DCIM/100APPLE/TRASHED.JPG"}])"));
+}
+
 TEST_F(ToolInfo, KnowsALogThatHoldsTheWholeSchema)
 {
     LibraryBuilder library(ios15);

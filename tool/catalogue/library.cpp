@@ -2,12 +2,14 @@
 
 #include "failure.h"
 #include "language/said.h"
+#include "language/sqlite_error.h"
 #include "model/clock.h"
 #include "output/busy_line.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
 #include "source/private_copy.h"
 #include "source/sqlite_error_log.h"
+#include "source/table_damage.h"
 
 #include <algorithm>
 #include <limits>
@@ -29,11 +31,6 @@ std::uint32_t clockTime(std::int64_t unixTime)
         std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
 }
 
-std::string adviceToCopyAgain()
-{
-    return said("copy it from the device or the backup again, its -wal with it");
-}
-
 } // namespace
 
 Moment ownTimeOf(const Source &source)
@@ -52,8 +49,7 @@ Library::Library(const LibraryRequest &request, const Source &source) : request_
     database_ = source.databaseName();
     kind_ = source.kind();
     isArchive_ = source.isArchive();
-    if (!source.missing().empty())
-        missing_.push_back(source.missing());
+    missing_ = source.missing();
     inspect(copy, source.device().value_or(RecordedDevice()));
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     const StoppedClock asOf(clockTime(asOf_.unixTime));
@@ -63,7 +59,7 @@ Library::Library(const LibraryRequest &request, const Source &source) : request_
 
 void Library::inspect(const PrivateCopy &copy, const RecordedDevice &says)
 {
-    const CopyDatabase database(copy.database(), database_);
+    const CopyDatabase database(copy.database(), database_, adviceToCopyAgain());
     schema_ = probe(database, request_.device, says);
     trash_ = Trash(database);
     hasLog_ = copy.hasLog();
@@ -90,7 +86,7 @@ void Library::read(const std::string &copy)
     if (result != 0)
         throw Failure(CannotAccess, said("cannot read '{0}': SQLite error {1}; {2}", database_,
                                          -result, adviceToCopyAgain()));
-    const std::string error = sqlite_error_log::firstError();
+    const std::string error = damageMetBy(copy);
     if (error.empty())
         return;
     if (isWithoutPhotos(albums_))
@@ -98,6 +94,15 @@ void Library::read(const std::string &copy)
                                          name(), error, adviceToCopyAgain()));
     missing_.push_back(said("'{0}' is damaged ({1}) and photos are missing here; {2}", database_,
                             error, adviceToCopyAgain()));
+}
+
+std::string Library::damageMetBy(const std::string &copy) const
+{
+    const std::string error = sqlite_error_log::firstError();
+    if (!error.empty() || !isWithoutPhotos(albums_))
+        return error;
+    const CopyDatabase database(copy, database_, adviceToCopyAgain());
+    return areAssetTablesDamaged(database) ? sqliteError(SQLITE_CORRUPT) : "";
 }
 
 std::string Library::assumptions() const

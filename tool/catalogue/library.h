@@ -68,6 +68,8 @@ public:
 private:
     void inspect(const PrivateCopy &copy, const RecordedDevice &says);
     void read(const std::string &copy);
+    /// What went wrong when the copy was read; empty if nothing did.
+    std::string damageMetBy(const std::string &copy) const;
     std::string assumptions() const;
 
     LibraryRequest request_;

@@ -10,18 +10,34 @@ namespace {
 
 using Kind = LogChangeKind;
 
-/// Rows of `shown` that have no partner in `other`.
-constexpr char withoutPartner[] =
-    "select shown.ZUUID, shown.ZDIRECTORY, shown.ZFILENAME, typeof(shown.ZUUID) "
-    "from {shown}.{table} shown left join {other}.{table} other on shown.ZUUID is other.ZUUID "
-    "where other.Z_PK is null order by shown.Z_PK";
+/// Rows of `shown` that have a partner in `other`, or none. An asset without a uuid is known by its
+/// key. The lists are made once, whatever indices there are.
+constexpr char comparedRows[] =
+    "select ZUUID, ZDIRECTORY, ZFILENAME, typeof(ZUUID) from {shown}.{table} "
+    "where {state} and {partner} case when ZUUID is null "
+    "then Z_PK in (select Z_PK from {other}.{table} where ZUUID is null and {otherState}) "
+    "else ZUUID in (select ZUUID from {other}.{table} where ZUUID is not null and {otherState}) "
+    "end order by Z_PK";
+
+constexpr char anyState[] = "true";
+constexpr char isTrashed[] = "ifnull(ZTRASHEDSTATE, 0) = 1";
+constexpr char isNotTrashed[] = "ifnull(ZTRASHEDSTATE, 0) <> 1";
+
+std::string withoutPartner(const std::string &table, const char *shown, const char *other)
+{
+    using fmt::arg;
+    return fmt::format(comparedRows, arg("table", table), arg("shown", shown), arg("other", other),
+                       arg("state", anyState), arg("partner", "not"), arg("otherState", anyState));
+}
 
 /// Rows whose place in or out of the trash differs.
-constexpr char movedByTrash[] =
-    "select now.ZUUID, now.ZDIRECTORY, now.ZFILENAME, typeof(now.ZUUID) "
-    "from main.{table} now join alone.{table} before on now.ZUUID is before.ZUUID "
-    "where ifnull(now.ZTRASHEDSTATE, 0) {now} 1 and ifnull(before.ZTRASHEDSTATE, 0) {before} 1 "
-    "order by now.Z_PK";
+std::string moved(const std::string &table, const char *now, const char *before)
+{
+    using fmt::arg;
+    return fmt::format(comparedRows, arg("table", table), arg("shown", "main"),
+                       arg("other", "alone"), arg("state", now), arg("partner", ""),
+                       arg("otherState", before));
+}
 
 std::string hexadecimal(const std::string &bytes)
 {
@@ -64,22 +80,18 @@ std::vector<LogChange> readLogChanges(const CopyDatabase &database)
         database.forEachRow(query,
                             [&](const QueryRow &row) { changes.push_back(changeOf(kind, row)); });
     };
-    if (!database.attachWithoutLog("alone") || !database.prepares("select * from alone." + table)) {
+    if (!database.attachWithoutLog("alone") || !database.areRealTables({table}, "", "alone") ||
+        !database.prepares("select * from alone." + table)) {
         // All of the schema is in the log still.
         collect(Kind::Added, fmt::format("select ZUUID, ZDIRECTORY, ZFILENAME, typeof(ZUUID) from "
                                          "main.{} order by Z_PK",
                                          table));
         return changes;
     }
-    using fmt::arg;
-    collect(Kind::Added, fmt::format(withoutPartner, arg("table", table), arg("shown", "main"),
-                                     arg("other", "alone")));
-    collect(Kind::Gone, fmt::format(withoutPartner, arg("table", table), arg("shown", "alone"),
-                                    arg("other", "main")));
-    collect(Kind::Trashed,
-            fmt::format(movedByTrash, arg("table", table), arg("now", "="), arg("before", "<>")));
-    collect(Kind::Restored,
-            fmt::format(movedByTrash, arg("table", table), arg("now", "<>"), arg("before", "=")));
+    collect(Kind::Added, withoutPartner(table, "main", "alone"));
+    collect(Kind::Gone, withoutPartner(table, "alone", "main"));
+    collect(Kind::Trashed, moved(table, isTrashed, isNotTrashed));
+    collect(Kind::Restored, moved(table, isNotTrashed, isTrashed));
     return changes;
 }
 

@@ -7,6 +7,7 @@
 #include "output/notice.h"
 #include "output/printable.h"
 #include "source/build_statements.h"
+#include "source/device_words.h"
 #include "source/private_copy.h"
 #include "source/schema_probe.h"
 #include "source/usual_entity_numbers.h"
@@ -37,7 +38,7 @@ Target readTarget(const StatementsRequest &request)
     const Source source(request.source);
     source.announceReading();
     const PrivateCopy copy(source);
-    const CopyDatabase database(copy.database(), source.databaseName());
+    const CopyDatabase database(copy.database(), source.databaseName(), adviceToCopyAgain());
     const ProbedSchema schema =
         probe(database, request.device, source.device().value_or(RecordedDevice()));
     return {schema.device, {schema.numbers, true}, schema.warning};
@@ -49,7 +50,7 @@ Target usualTarget(const Device &wanted)
         throw Failure(WrongUsage, said("name a SOURCE, or a version with --ios; see iosphoto "
                                        "statements --help"));
     constexpr int oldestIos = 6;
-    if (std::atoi(wanted.iosVersion.c_str()) < oldestIos)
+    if (firstNumber(wanted.iosVersion) < oldestIos)
         throw Failure(SchemaDoesNotFit, said("the databases of iOS {0} are not known; name a "
                                              "version from 6 on",
                                              wanted.iosVersion));

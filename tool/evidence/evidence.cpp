@@ -8,7 +8,6 @@
 #include "output/protected_sources.h"
 
 #include <algorithm>
-#include <fstream>
 #include <functional>
 #include <sstream>
 #include <utility>
@@ -123,17 +122,19 @@ void Evidence::willWrite(const fs::path &file)
 void Evidence::wrote(const fs::path &file, const QByteArray &content)
 {
     outputs_.erase(file.string());
+    wholeOutputs_.erase(file.string());
     outputs_[file.string()].add(content.constData(), static_cast<std::size_t>(content.size()));
 }
 
 void Evidence::wroteWhole(const fs::path &file)
 {
+    HashingProgress progress({file});
+    FileState state = stateOf(file, progress);
+    if (!state.size)
+        throw Failure(CannotAccess, said("cannot read '{0}': {1}", file.string(),
+                                         said("it is not there any more; check the path")));
     outputs_.erase(file.string());
-    Written &written = outputs_[file.string()];
-    std::ifstream in(file, std::ios::binary);
-    std::vector<char> block(std::size_t(1) << 20);
-    while (in.read(block.data(), static_cast<std::streamsize>(block.size())), in.gcount() > 0)
-        written.add(block.data(), static_cast<std::size_t>(in.gcount()));
+    wholeOutputs_[file.string()] = std::move(state);
 }
 
 void Evidence::printed(const char *bytes, std::size_t size)
@@ -153,10 +154,14 @@ Json Evidence::document(int exitStatus) const
     Json &inputs = document["inputs"] = Json::array();
     for (const InputFile &input : inputs_)
         inputs.push_back(asJson(input));
-    Json &outputs = document["outputs"] = Json::array();
+    std::map<std::string, Json> outputs;
     for (const auto &[path, output] : outputs_)
-        outputs.push_back(
-            {{"path", path}, {"size", output.size}, {"sha256", output.hash.digits()}});
+        outputs[path] = {{"path", path}, {"size", output.size}, {"sha256", output.hash.digits()}};
+    for (const auto &[path, output] : wholeOutputs_)
+        outputs[path] = {{"path", path}, {"size", *output.size}, {"sha256", *output.sha256}};
+    document["outputs"] = Json::array();
+    for (const auto &[path, output] : outputs)
+        document["outputs"].push_back(output);
     document["exitStatus"] = exitStatus;
     return document;
 }

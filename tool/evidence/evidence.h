@@ -63,7 +63,8 @@ private:
     std::string started_;
     FileSet sources_; ///< the inputs, and those that could not be read
     std::vector<InputFile> inputs_;
-    std::map<std::string, Written> outputs_; ///< by path; the last content of each
+    std::map<std::string, Written> outputs_;        ///< by path; the last content of each
+    std::map<std::string, FileState> wholeOutputs_; ///< likewise, of those read after writing
 };
 
 } // namespace iosphoto::tool

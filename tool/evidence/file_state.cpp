@@ -93,10 +93,16 @@ FileState stateOf(const fs::path &file, HashingProgress &progress)
         return {};
     Sha256 hash;
     std::vector<char> piece(pieceSize);
+    std::uint64_t hashed = 0;
     while (const std::size_t size = opened.read(piece)) {
         hash.add(piece.data(), size);
         progress.add(size);
+        hashed += size;
     }
+    if (hashed != static_cast<std::uint64_t>(status->st_size))
+        throw Failure(
+            CannotAccess,
+            said("cannot read '{0}': it changed while it was read; copy it first", file.string()));
     return {static_cast<std::uint64_t>(status->st_size), utcText(modificationTime(*status)),
             hash.digits()};
 }

@@ -23,7 +23,8 @@ struct FileState
     }
 };
 
-/// Reads a file to its end, a piece at a time. Throws Failure when it is there and cannot be read.
+/// Reads a file to its end, a piece at a time. Throws Failure when it is there and cannot be read,
+/// or becomes longer or shorter meanwhile.
 FileState stateOf(const std::filesystem::path &file, HashingProgress &progress);
 
 } // namespace iosphoto::tool

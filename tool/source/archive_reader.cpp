@@ -1,6 +1,7 @@
 #include "source/archive_reader.h"
 
 #include "language/said.h"
+#include "source/file_tree.h"
 #include "source/new_file.h"
 #include "source/source_file.h"
 
@@ -137,15 +138,18 @@ std::int64_t ArchiveReader::modified() const
     return archive_entry_mtime(entry_);
 }
 
-void ArchiveReader::copyTo(const fs::path &target)
+void ArchiveReader::copyTo(const fs::path &target, std::uint64_t most)
 {
     constexpr std::size_t bufferSize = 1 << 16;
     std::array<char, bufferSize> buffer = {};
     NewFile file(target, size());
     la_ssize_t count = 0;
-    while ((count = archive_read_data(archive_.get(), buffer.data(), buffer.size())) > 0)
+    while ((count = archive_read_data(archive_.get(), buffer.data(), buffer.size())) > 0) {
+        requireNotLarger(joined(file_.string(), path()),
+                         file.written() + static_cast<std::uint64_t>(count), most);
         if (!file.append({buffer.data(), static_cast<std::size_t>(count)}))
             throw damaged();
+    }
     if (count < 0 || !file.isComplete())
         throw damaged();
     file.close(modified());

@@ -40,8 +40,9 @@ public:
     std::int64_t modified() const;
 
     /// Writes the content of the entry, which must be a file, to a new file for the owner only.
-    /// Throws Failure when it is damaged, larger than the archive says, or finds no room.
-    void copyTo(const std::filesystem::path &target);
+    /// Throws Failure when it is damaged, larger than the archive says or than `most` bytes, or
+    /// finds no room.
+    void copyTo(const std::filesystem::path &target, std::uint64_t most);
 
 private:
     Failure damaged() const;

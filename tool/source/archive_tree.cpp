@@ -3,19 +3,35 @@
 #include "failure.h"
 #include "language/said.h"
 #include "source/archive_reader.h"
+#include "source/new_file.h"
+#include "source/source_file.h"
 
+#include <algorithm>
 #include <set>
 
 namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// No phone has paths beyond these, and the folders of one that is far beyond fill the memory.
+bool isOfAPhone(const std::string &path)
+{
+    constexpr std::size_t longest = 4096;
+    constexpr std::ptrdiff_t deepest = 64;
+    return !path.empty() && path.size() <= longest &&
+           std::count(path.begin(), path.end(), '/') < deepest;
+}
+
+} // namespace
+
 ArchiveTree::ArchiveTree(fs::path archive) : archive_(std::move(archive)), state_(archive_)
 {
     ArchiveReader reader(archive_);
     while (reader.next()) {
         const std::string path = reader.path();
-        if (path.empty() || !reader.isFile())
+        if (!isOfAPhone(path) || !reader.isFile())
             continue;
         const Entry entry = {{reader.size().value_or(0), reader.modified()},
                              reader.isHardLink(),
@@ -80,29 +96,34 @@ void ArchiveTree::requirePlain(const std::string &path, const Entry &entry) cons
 
 void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
 {
-    std::map<std::string, fs::path> targets;
+    std::map<std::string, Target> targets;
+    std::uint64_t bytes = 0;
     for (const FileToCopy &file : files) {
         const auto found = entries_.find(file.path);
         if (found == entries_.end())
             continue;
         requirePlain(file.path, found->second);
-        targets[file.path] = file.target;
+        requireNotLarger(shown(file.path), found->second.facts.size, file.most);
+        targets[file.path] = {file.target, file.most};
+        bytes += found->second.facts.size;
     }
-    if (!targets.empty())
+    if (!targets.empty()) {
+        requireRoom(targets.begin()->second.path, bytes);
         extract(std::move(targets));
+    }
     if (!(FileStamp(archive_) == state_))
         throw Failure(CannotAccess,
                       said("'{0}' changes while it is read; copy it first", archive_.string()));
 }
 
-void ArchiveTree::extract(std::map<std::string, fs::path> targets) const
+void ArchiveTree::extract(std::map<std::string, Target> targets) const
 {
     ArchiveReader reader(archive_);
     while (!targets.empty() && reader.next()) {
         const auto wanted = targets.find(reader.path());
         if (wanted == targets.end() || !reader.isFile())
             continue;
-        reader.copyTo(wanted->second);
+        reader.copyTo(wanted->second.path, wanted->second.most);
         targets.erase(wanted);
     }
 }

@@ -32,9 +32,15 @@ private:
         bool isTwice;
     };
 
+    struct Target
+    {
+        std::filesystem::path path;
+        std::uint64_t most; ///< bytes
+    };
+
     /// Throws Failure when an entry is not simply a file.
     void requirePlain(const std::string &path, const Entry &entry) const;
-    void extract(std::map<std::string, std::filesystem::path> targets) const;
+    void extract(std::map<std::string, Target> targets) const;
 
     std::filesystem::path archive_;
     FileStamp state_;

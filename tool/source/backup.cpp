@@ -3,9 +3,11 @@
 #include "failure.h"
 #include "language/said.h"
 #include "output/file_use_observer.h"
+#include "source/device_words.h"
 #include "source/manifest_db.h"
 #include "source/manifest_mbdb.h"
 #include "source/property_list.h"
+#include "source/rollback_journal.h"
 #include "source/stored_names.h"
 
 #include <algorithm>
@@ -18,23 +20,25 @@ namespace {
 
 constexpr const char *info = "Info.plist";
 constexpr const char *manifest = "Manifest.plist";
+constexpr const char *status = "Status.plist";
 constexpr const char *database = backupIndexNames[0];
 constexpr const char *mbdb = backupIndexNames[1];
 
 constexpr const char *recordNames[] = {
-    info, manifest, database, "Manifest.db-wal", "Manifest.db-journal", mbdb};
+    info, manifest, status, database, "Manifest.db-wal", "Manifest.db-journal", mbdb};
 
 std::optional<RecordedDevice> recordedDevice(const PropertyList &infoList,
                                              const PropertyList &manifestList)
 {
-    const RecordedDevice fromInfo = {infoList.text({"Product Version"}),
-                                     infoList.text({"Product Type"}),
+    const RecordedDevice fromInfo = {versionOrNothing(infoList.text({"Product Version"})),
+                                     productOrNothing(infoList.text({"Product Type"})),
                                      infoList.text({"Build Version"}), info};
     if (!fromInfo.iosVersion.empty() || !fromInfo.productType.empty())
         return fromInfo;
-    const RecordedDevice fromManifest = {manifestList.text({"Lockdown", "ProductVersion"}),
-                                         manifestList.text({"Lockdown", "ProductType"}),
-                                         manifestList.text({"Lockdown", "BuildVersion"}), manifest};
+    const RecordedDevice fromManifest = {
+        versionOrNothing(manifestList.text({"Lockdown", "ProductVersion"})),
+        productOrNothing(manifestList.text({"Lockdown", "ProductType"})),
+        manifestList.text({"Lockdown", "BuildVersion"}), manifest};
     if (!fromManifest.iosVersion.empty() || !fromManifest.productType.empty())
         return fromManifest;
     return std::nullopt;
@@ -66,17 +70,27 @@ void Backup::copyRecords() const
     std::vector<fs::path> onDisk;
     for (const char *const name : recordNames) {
         files.push_back({joined(folder_, name), copies_ / name});
+        if (files.back().target.extension() == ".plist")
+            files.back().most = PropertyList::largest;
         if (has(name))
             onDisk.push_back(tree_.onDisk(files.back().path));
     }
     FileUseObserver::announceReading(onDisk);
     tree_.copyOut(files);
+    forgetSuperJournal(copies_ / database);
 }
 
 void Backup::readProperties()
 {
     const PropertyList infoList(copies_ / info);
     const PropertyList manifestList(copies_ / manifest);
+    isManifestDamaged_ = manifestList.isDamaged();
+    for (const auto &[list, name] :
+         {std::pair(&infoList, info), std::pair(&manifestList, manifest)})
+        if (list->isDamaged())
+            missing_.push_back(said("'{0}' cannot be read, so what it says of the device and the "
+                                    "backup is missing; copy the whole backup again",
+                                    shown(name)));
     if (manifestList.isTrue({"IsEncrypted"}))
         throw Failure(EncryptedBackup,
                       said("'{0}' is an encrypted backup; make one without encryption, or decrypt "
@@ -86,6 +100,19 @@ void Backup::readProperties()
     date_ = infoList.time({"Last Backup Date"});
     if (!date_)
         date_ = manifestList.time({"Date"});
+    if (!date_)
+        date_ = PropertyList(copies_ / status).time({"Date"});
+}
+
+void Backup::requireKnownEncryption() const
+{
+    const std::string advice = said("copy the whole backup again");
+    if (isManifestDamaged_ &&
+        !CopyDatabase((copies_ / database).string(), shown(database), advice).isDatabase())
+        throw Failure(CannotAccess,
+                      said("cannot tell whether '{0}' is encrypted, as its {1} and {2} cannot be "
+                           "read; {3}",
+                           tree_.shown(folder_), manifest, database, advice));
 }
 
 std::unique_ptr<BackupIndex> Backup::openIndex()
@@ -95,8 +122,10 @@ std::unique_ptr<BackupIndex> Backup::openIndex()
             indexName_ = name;
     if (indexName_.empty())
         return std::make_unique<StoredNames>(tree_, folder_);
-    if (indexName_ == database)
+    if (indexName_ == database) {
+        requireKnownEncryption();
         return std::make_unique<ManifestDb>(copies_ / database, shown(database));
+    }
     return std::make_unique<ManifestMbdb>(copies_ / mbdb, shown(mbdb));
 }
 
@@ -118,19 +147,22 @@ void Backup::requireDatabase() const
 void Backup::noteWhatIsMissing()
 {
     if (indexName_.empty()) {
-        missing_ = said("'{0}' has no Manifest.db, so files that belong to its library may be "
-                        "missing; copy the whole backup again",
-                        tree_.shown(folder_));
+        missing_.push_back(said("'{0}' has no Manifest.db, so files that belong to its library may "
+                                "be missing; copy the whole backup again",
+                                tree_.shown(folder_)));
         return;
     }
+    bool isLogMissing = false;
     for (const char *const suffix : {"-wal", "-journal"}) {
         const auto path = locate(std::string(databaseBelowMedia) + suffix);
-        if (path && !tree_.find(*path))
-            missing_ = said("the latest changes are missing: the stored file '{0}' of {1}{2} is "
-                            "not there; copy the whole backup again",
-                            tree_.shown(*path), databaseBelowMedia, suffix);
+        if (!path || tree_.find(*path))
+            continue;
+        isLogMissing = true;
+        missing_.push_back(said("the latest changes are missing: the stored file '{0}' of {1}{2} "
+                                "is not there; copy the whole backup again",
+                                tree_.shown(*path), databaseBelowMedia, suffix));
     }
-    if (missing_.empty())
+    if (!isLogMissing)
         noteMissingMedia();
 }
 
@@ -141,9 +173,9 @@ void Backup::noteMissingMedia()
         return !tree_.find(joined(folder_, path));
     });
     if (absent > 0)
-        missing_ = said("'{0}' is half a backup: {1} of the {2} files of the photo library that "
-                        "{3} lists are missing; copy the whole backup again",
-                        tree_.shown(folder_), absent, listed.size(), indexName_);
+        missing_.push_back(said("'{0}' is half a backup: {1} of the {2} files of the photo library "
+                                "that {3} lists are missing; copy the whole backup again",
+                                tree_.shown(folder_), absent, listed.size(), indexName_));
 }
 
 std::optional<std::string> Backup::locate(const std::string &mediaPath) const

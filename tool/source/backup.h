@@ -26,12 +26,13 @@ public:
     std::optional<std::string> locate(const std::string &mediaPath) const override;
     std::optional<RecordedDevice> device() const override { return device_; }
     std::optional<std::int64_t> backupDate() const override { return date_; }
-    std::string missing() const override { return missing_; }
+    std::vector<std::string> missing() const override { return missing_; }
     std::vector<std::string> records() const override;
 
 private:
     void copyRecords() const;
     void readProperties();
+    void requireKnownEncryption() const;
     std::unique_ptr<BackupIndex> openIndex();
     void requireDatabase() const;
     void noteWhatIsMissing();
@@ -46,7 +47,8 @@ private:
     std::string indexName_; ///< empty when there is none
     std::optional<RecordedDevice> device_;
     std::optional<std::int64_t> date_;
-    std::string missing_;
+    std::vector<std::string> missing_;
+    bool isManifestDamaged_ = false;
 };
 
 } // namespace iosphoto::tool

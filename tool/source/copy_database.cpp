@@ -3,7 +3,7 @@
 #include "language/said.h"
 #include "language/sqlite_error.h"
 
-#include <filesystem>
+#include <fmt/format.h>
 
 namespace iosphoto::tool {
 
@@ -20,6 +20,27 @@ std::string uriOf(const std::string &file)
     return uri;
 }
 
+/// SQLite makes sure that name and type are those of the statement, but takes a virtual table for a
+/// table. Hidden columns are computed ones.
+constexpr char suspectTables[] =
+    "select 1 from {schema}.sqlite_master where {condition} and type in ('table', 'view') "
+    "and (type <> 'table' or ifnull(sql, '') not like 'create table%' or exists "
+    "(select 1 from pragma_table_xinfo(sqlite_master.name, '{schema}') where hidden <> 0))";
+
+void harden(sqlite3 *connection)
+{
+    constexpr int longestValue = 64 * 1024 * 1024;
+    sqlite3_limit(connection, SQLITE_LIMIT_LENGTH, longestValue);
+    const auto set = [&](int option, int value) {
+        sqlite3_db_config(connection, option, value, nullptr);
+    };
+    set(SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1);
+    set(SQLITE_DBCONFIG_DEFENSIVE, 1);
+    set(SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0);
+    set(SQLITE_DBCONFIG_ENABLE_TRIGGER, 0);
+    set(SQLITE_DBCONFIG_ENABLE_VIEW, 0);
+}
+
 } // namespace
 
 bool QueryRow::isNull(int column) const
@@ -34,8 +55,8 @@ std::string QueryRow::text(int column) const
     return bytes != nullptr ? std::string(bytes, size) : std::string();
 }
 
-CopyDatabase::CopyDatabase(const std::string &file, std::string shownName)
-    : file_(file), shownName_(std::move(shownName))
+CopyDatabase::CopyDatabase(const std::string &file, std::string shownName, std::string advice)
+    : file_(file), shownName_(std::move(shownName)), advice_(std::move(advice))
 {
     sqlite3 *connection = nullptr;
     const int opened =
@@ -44,27 +65,32 @@ CopyDatabase::CopyDatabase(const std::string &file, std::string shownName)
     connection_.reset(connection);
     if (opened != SQLITE_OK)
         throw unreadable();
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    harden(connection);
 }
 
-void CopyDatabase::check() const
+bool CopyDatabase::isDatabase() const
 {
     // Reads the first page, and so meets a wrong header, an encrypted file and a bad journal.
     const int result = sqlite3_exec(connection_.get(), "select name from sqlite_master", nullptr,
                                     nullptr, nullptr);
-    std::error_code ignored;
-    if (std::filesystem::file_size(file_, ignored) == 0 && !ignored &&
-        !std::filesystem::exists(file_ + "-wal", ignored))
-        throw Failure(
-            WrongKindOfFile,
-            said("'{0}' is empty; copy it from the device or the backup again", shownName_));
-    if (result == SQLITE_NOTADB)
-        throw Failure(WrongKindOfFile,
-                      said("'{0}' is not a SQLite database, or it is encrypted; name the "
-                           "Photos.sqlite of a phone or of an unencrypted backup",
-                           shownName_));
-    if (result != SQLITE_OK)
+    if (result != SQLITE_OK && result != SQLITE_NOTADB)
         throw unreadable();
+    return result == SQLITE_OK;
+}
+
+bool CopyDatabase::areRealTables(const std::vector<std::string> &tables, const std::string &like,
+                                 const std::string &schema) const
+{
+    bool areReal = true;
+    const auto check = [&](const std::string &condition, const std::string &name) {
+        forEachRow(fmt::format(suspectTables, fmt::arg("schema", schema),
+                               fmt::arg("condition", condition)),
+                   [&](const QueryRow & /*suspect*/) { areReal = false; }, {name});
+    };
+    for (const std::string &table : tables)
+        check("name = ?1 collate nocase", table);
+    check("name like ?1 escape '^'", like);
+    return areReal;
 }
 
 bool CopyDatabase::hasTable(const std::string &table) const
@@ -85,11 +111,15 @@ bool CopyDatabase::prepares(const std::string &statement) const
 }
 
 void CopyDatabase::forEachRow(const std::string &query,
-                              const std::function<void(const QueryRow &)> &take) const
+                              const std::function<void(const QueryRow &)> &take,
+                              const std::vector<std::string> &values) const
 {
     const auto statement = prepare(query);
     if (statement == nullptr)
         return;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        sqlite3_bind_text64(statement.get(), static_cast<int>(i + 1), values[i].data(),
+                            values[i].size(), SQLITE_TRANSIENT, SQLITE_UTF8);
     int result = SQLITE_ROW;
     while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
         take(QueryRow(statement.get()));
@@ -118,15 +148,18 @@ std::unique_ptr<sqlite3_stmt, CopyDatabase::Close>
 CopyDatabase::prepare(const std::string &text) const
 {
     sqlite3_stmt *statement = nullptr;
-    sqlite3_prepare_v2(connection_.get(), text.c_str(), -1, &statement, nullptr);
-    return std::unique_ptr<sqlite3_stmt, Close>(statement);
+    const int result = sqlite3_prepare_v2(connection_.get(), text.c_str(), -1, &statement, nullptr);
+    std::unique_ptr<sqlite3_stmt, Close> owned(statement);
+    constexpr int primaryCode = 0xff;
+    if (result != SQLITE_OK && (result & primaryCode) != SQLITE_ERROR)
+        throw unreadable();
+    return owned;
 }
 
 Failure CopyDatabase::unreadable() const
 {
-    return {CannotAccess,
-            said("cannot read '{0}': {1}; copy it from the device or the backup again", shownName_,
-                 sqliteError(connection_.get()))};
+    return {CannotAccess, said("cannot read '{0}': {1}; {2}", shownName_,
+                               sqliteError(connection_.get()), advice_)};
 }
 
 } // namespace iosphoto::tool

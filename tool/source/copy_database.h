@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -28,26 +29,36 @@ private:
     sqlite3_stmt *statement_;
 };
 
-/// The tool's own connection to a private copy, for what the library does not tell.
+/// The tool's own connection to a private copy of a database, which may hold anything: views and
+/// triggers do nothing, and no value may fill the memory.
 class CopyDatabase
 {
 public:
     /// Throws Failure when the file cannot be opened. The first reading may roll back a journal;
     /// the log is never moved into the database.
     /// @param shownName  the database as the user knows it, for messages
-    CopyDatabase(const std::string &file, std::string shownName);
+    /// @param advice     what to do when it cannot be read
+    CopyDatabase(const std::string &file, std::string shownName, std::string advice);
 
-    /// Throws Failure when the file is no database that can be read.
-    void check() const;
+    /// Whether the file is a database, and not encrypted. Throws Failure when it cannot be read.
+    bool isDatabase() const;
+
+    /// Whether nothing runs where its tables are read: each that is among `tables`, or fits the
+    /// pattern of `like`, is no view, no virtual table, and has no column that is computed.
+    /// @param schema  "main", or what was attached
+    bool areRealTables(const std::vector<std::string> &tables, const std::string &like,
+                       const std::string &schema = "main") const;
 
     bool hasTable(const std::string &table) const;
     bool hasColumn(const std::string &table, const std::string &column) const;
+    /// Whether a statement fits the schema. Throws Failure when that cannot be told.
     bool prepares(const std::string &statement) const;
 
     /// Hands each row of a query to `take`. A query that does not fit the schema has no rows.
     /// Throws Failure when the reading fails.
-    void forEachRow(const std::string &query,
-                    const std::function<void(const QueryRow &)> &take) const;
+    /// @param values  for the places of the query
+    void forEachRow(const std::string &query, const std::function<void(const QueryRow &)> &take,
+                    const std::vector<std::string> &values = {}) const;
 
     /// Lets queries see the database as it is without its log, as the schema `name`. Returns
     /// whether that could be done.
@@ -56,7 +67,11 @@ public:
     /// "ZASSET", or before iOS 14 "ZGENERICASSET"; empty in a database without photos.
     std::string assetTable() const;
 
+    const std::string &file() const { return file_; }
     const std::string &shownName() const { return shownName_; }
+
+    /// Says that it cannot be read, for the reason of the last call.
+    Failure unreadable() const;
 
 private:
     struct Close
@@ -66,11 +81,11 @@ private:
     };
 
     std::unique_ptr<sqlite3_stmt, Close> prepare(const std::string &text) const;
-    Failure unreadable() const;
 
     std::unique_ptr<sqlite3, Close> connection_;
     std::string file_;
     std::string shownName_;
+    std::string advice_;
 };
 
 } // namespace iosphoto::tool

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ struct FileToCopy
 {
     std::string path;
     std::filesystem::path target;
+    std::uint64_t most = std::numeric_limits<std::uint64_t>::max(); ///< bytes that it can have
 };
 
 /// Files in folders, on disk or in an archive. Paths begin at the top of the tree, without a slash;
@@ -44,7 +46,7 @@ public:
     virtual std::vector<std::string> loneFiles() const = 0;
 
     /// Copies files that belong together, as they are at one moment and for the owner's eyes only.
-    /// Those that are not there are passed over.
+    /// Those that are not there are passed over. Throws Failure when one is larger than it can be.
     virtual void copyOut(const std::vector<FileToCopy> &files) const = 0;
 
     /// The file on disk that is read for that path.

@@ -52,8 +52,11 @@ void FolderTree::copyOut(const std::vector<FileToCopy> &files) const
 {
     std::vector<Copy> copies;
     copies.reserve(files.size());
-    for (const FileToCopy &file : files)
+    for (const FileToCopy &file : files) {
+        if (const auto facts = find(file.path))
+            requireNotLarger(shown(file.path), facts->size, file.most);
         copies.push_back({onDisk(file.path), file.target});
+    }
     copyConsistently(copies);
 }
 

@@ -1,6 +1,7 @@
 #include "source/known_schemas.h"
 
 #include "language/said.h"
+#include "source/device_words.h"
 
 #include <algorithm>
 
@@ -61,7 +62,7 @@ const KnownSchema &newestSchema()
 std::string warningOfNewer(const std::string &iosVersion)
 {
     const int newest = newestSchema().lastIos;
-    if (std::atoi(iosVersion.c_str()) <= newest)
+    if (firstNumber(iosVersion) <= newest)
         return {};
     return said("iOS {0} is newer than all that are known, so it is read like iOS {1}; check a few "
                 "photos against the device",

@@ -46,8 +46,8 @@ public:
     virtual std::optional<RecordedDevice> device() const { return std::nullopt; }
     virtual std::optional<std::int64_t> backupDate() const { return std::nullopt; }
 
-    /// What should be there and is not, in a person's words; mostly empty.
-    virtual std::string missing() const { return {}; }
+    /// What should be there and is not, in sentences for a person; mostly none.
+    virtual std::vector<std::string> missing() const { return {}; }
 
     /// The files, beside those of the library, that say all this.
     virtual std::vector<std::string> records() const { return {}; }

@@ -25,10 +25,13 @@ struct Find
 constexpr const char *mediaPlaces[] = {"", "private/var/mobile/Media", "var/mobile/Media",
                                        "mobile/Media", "Media"};
 
+/// After that many, it does not matter how many more there are.
+constexpr std::size_t mostFinds = 20;
+
 /// Databases of the system with the same name, such as that of photos which others sent.
-bool isOfSystem(const FileTree &tree, const std::string &path)
+bool isOfSystem(const std::string &path)
 {
-    return tree.shown(path).find("/Library/Photos/Libraries/") != std::string::npos;
+    return ("/" + path).find("/Library/Photos/Libraries/") != std::string::npos;
 }
 
 bool isInside(const std::string &path, const std::string &folder)
@@ -41,7 +44,7 @@ std::optional<Find> libraryAt(const FileTree &tree, const std::string &folder)
     for (const char *const place : mediaPlaces) {
         const std::string media = joined(folder, place);
         const std::string database = joined(media, databaseBelowMedia);
-        if (tree.find(database) && !isOfSystem(tree, database))
+        if (tree.find(database) && !isOfSystem(database))
             return Find{SourceKind::MediaFolder, media};
     }
     if (isBackup(tree, folder))
@@ -57,6 +60,8 @@ std::vector<Find> librariesIn(const FileTree &tree)
                            [&](const Find &find) { return isInside(folder, find.path); });
     };
     for (const std::string &folder : tree.searchedFolders()) {
+        if (finds.size() > mostFinds)
+            break;
         if (isInsideFind(folder))
             continue;
         const auto find = libraryAt(tree, folder);
@@ -77,23 +82,31 @@ std::vector<Find> loneDatabasesIn(const FileTree &tree)
         paths = tree.loneFiles();
     std::vector<Find> finds;
     for (const std::string &path : paths)
-        if (!isOfSystem(tree, path))
+        if (finds.size() <= mostFinds && !isOfSystem(path))
             finds.push_back({SourceKind::Database, path});
     return finds;
 }
 
+std::string namesOf(const FileTree &tree, const std::vector<Find> &finds)
+{
+    constexpr std::size_t mostNames = 5;
+    std::string names;
+    for (std::size_t i = 0; i < std::min(finds.size(), mostNames); ++i)
+        names += (names.empty() ? "" : said(", ")) + said("'{0}'", tree.shown(finds[i].path));
+    return finds.size() > mostNames ? said("{0} and more", names) : names;
+}
+
 Failure tooMany(const FileTree &tree, const std::string &shownName, const std::vector<Find> &finds)
 {
-    std::string names;
-    for (const Find &find : finds)
-        names += (names.empty() ? "" : said(", ")) + said("'{0}'", tree.shown(find.path));
     const bool areBackups = std::all_of(finds.begin(), finds.end(), [](const Find &find) {
         return find.kind == SourceKind::Backup;
     });
-    const std::string what =
+    std::string what =
         areBackups ? said("{0} backups", finds.size()) : said("{0} photo libraries", finds.size());
-    return {WrongUsage,
-            said("'{0}' holds {1}; {2}: {3}", shownName, what, tree.howToNameOne(), names)};
+    if (finds.size() > mostFinds)
+        what = said("more than {0} libraries", mostFinds);
+    return {WrongUsage, said("'{0}' holds {1}; {2}: {3}", shownName, what, tree.howToNameOne(),
+                             namesOf(tree, finds))};
 }
 
 std::unique_ptr<LibraryLayout> layoutOf(const FileTree &tree, const Find &find)

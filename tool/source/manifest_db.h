@@ -2,12 +2,9 @@
 #define IOSPHOTO_TOOL_MANIFEST_DB_H
 
 #include "source/backup_index.h"
+#include "source/copy_database.h"
 
 #include <filesystem>
-#include <memory>
-
-struct sqlite3;
-struct sqlite3_stmt;
 
 namespace iosphoto::tool {
 
@@ -15,7 +12,7 @@ namespace iosphoto::tool {
 class ManifestDb : public BackupIndex
 {
 public:
-    /// Throws Failure when it cannot be read.
+    /// Throws Failure when it cannot be read, or is no index.
     /// @param copy       a private copy, as SQLite may change it
     /// @param shownName  the file in the backup, for messages
     ManifestDb(const std::filesystem::path &copy, std::string shownName);
@@ -24,17 +21,7 @@ public:
     std::vector<std::string> storedFiles() const override;
 
 private:
-    struct Close
-    {
-        void operator()(sqlite3 *connection) const;
-        void operator()(sqlite3_stmt *statement) const;
-    };
-
-    [[noreturn]] void fail() const;
-
-    std::string shownName_;
-    std::unique_ptr<sqlite3, Close> connection_;
-    std::unique_ptr<sqlite3_stmt, Close> lookup_;
+    CopyDatabase database_;
 };
 
 } // namespace iosphoto::tool

@@ -25,7 +25,7 @@ Failure cannotWrite(const fs::path &file, const std::string &reason)
 NewFile::NewFile(fs::path path, std::optional<std::uint64_t> size)
     : path_(std::move(path)), size_(size)
 {
-    requireRoom(size.value_or(0));
+    requireRoom(path_, size.value_or(0));
     out_.open(path_, std::ios::binary | std::ios::trunc);
     std::error_code error;
     fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write, error);
@@ -33,12 +33,12 @@ NewFile::NewFile(fs::path path, std::optional<std::uint64_t> size)
         throw cannotWrite(path_, systemError(errno));
 }
 
-void NewFile::requireRoom(std::uint64_t bytes) const
+void requireRoom(const fs::path &file, std::uint64_t bytes)
 {
     std::error_code error;
-    const fs::space_info room = fs::space(path_.parent_path(), error);
+    const fs::space_info room = fs::space(file.parent_path(), error);
     if (!error && bytes > room.available)
-        throw cannotWrite(path_, said("{0} bytes are more than there is room for", bytes));
+        throw cannotWrite(file, said("{0} bytes are more than there is room for", bytes));
 }
 
 bool NewFile::append(std::string_view bytes)

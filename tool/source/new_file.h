@@ -21,6 +21,8 @@ public:
     /// False when the file becomes larger than was said. Throws Failure when there is no room.
     bool append(std::string_view bytes);
 
+    std::uint64_t written() const { return written_; }
+
     /// Whether it has the size that was said.
     bool isComplete() const { return !size_ || written_ == *size_; }
 
@@ -29,13 +31,14 @@ public:
     void close(std::int64_t modified);
 
 private:
-    void requireRoom(std::uint64_t bytes) const;
-
     std::filesystem::path path_;
     std::optional<std::uint64_t> size_;
     std::uint64_t written_ = 0;
     std::ofstream out_;
 };
+
+/// Throws Failure when the disk of the file has no room for so many bytes.
+void requireRoom(const std::filesystem::path &file, std::uint64_t bytes);
 
 } // namespace iosphoto::tool
 

@@ -15,14 +15,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// One with all icons of a phone has some ten million bytes.
-constexpr std::uintmax_t largest = 256'000'000;
-
 std::string contentOf(const fs::path &file)
 {
     std::error_code error;
     const std::uintmax_t size = fs::file_size(file, error);
-    if (error || size > largest)
+    if (error || size > PropertyList::largest)
         return {};
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
@@ -39,9 +36,16 @@ plist_t parse(const std::string &content)
 
 } // namespace
 
-PropertyList::PropertyList(const fs::path &file) : PropertyList(contentOf(file)) {}
+PropertyList::PropertyList(const fs::path &file) : PropertyList(contentOf(file))
+{
+    std::error_code ignored;
+    isThere_ = fs::exists(file, ignored);
+}
 
-PropertyList::PropertyList(const std::string &content) : root_(parse(content), plist_free) {}
+PropertyList::PropertyList(const std::string &content)
+    : isThere_(true), root_(parse(content), plist_free)
+{
+}
 
 void *PropertyList::find(Keys keys) const
 {
@@ -68,7 +72,7 @@ bool PropertyList::isTrue(Keys keys) const
     std::uint8_t value = 0;
     if (plist_get_node_type(node) == PLIST_BOOLEAN)
         plist_get_bool_val(node, &value);
-    return value != 0;
+    return value != 0 || integer(keys).value_or(0) != 0;
 }
 
 std::optional<std::int64_t> PropertyList::integer(Keys keys) const

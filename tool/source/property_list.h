@@ -16,11 +16,18 @@ class PropertyList
 public:
     using Keys = std::initializer_list<const char *>; ///< from the outermost dictionary inwards
 
+    /// Bytes of a file; one with all icons of a phone has some ten million.
+    static constexpr std::uint64_t largest = 256'000'000;
+
     explicit PropertyList(const std::filesystem::path &file);
     explicit PropertyList(const std::string &content);
 
+    /// Whether there is something that cannot be read as a property list.
+    bool isDamaged() const { return isThere_ && root_ == nullptr; }
+
     /// Empty when there is no such text.
     std::string text(Keys keys) const;
+    /// Whether there is a true value, or a number that stands for one.
     bool isTrue(Keys keys) const;
     std::optional<std::int64_t> integer(Keys keys) const;
     /// In seconds since 1970.
@@ -29,6 +36,7 @@ public:
 private:
     void *find(Keys keys) const;
 
+    bool isThere_;
     std::unique_ptr<void, void (*)(void *)> root_;
 };
 

@@ -46,9 +46,16 @@ public:
         table_ = number(trailer + 24, 8);
     }
 
+    /// Whether its numbers have sizes that numbers can have.
+    bool hasSizes() const
+    {
+        constexpr std::uint64_t most = sizeof(std::uint64_t);
+        return offsetSize_ >= 1 && offsetSize_ <= most && referenceSize_ >= 1 &&
+               referenceSize_ <= most;
+    }
     std::uint64_t top() const { return top_; }
 
-    /// The values in a value; none unless it is a container.
+    /// The values in a value, or the first of too many; none unless it is a container.
     std::vector<std::uint64_t> valuesIn(std::uint64_t value) const
     {
         if (value >= count_)
@@ -61,7 +68,8 @@ public:
             return {};
         const std::uint64_t size = sizeAt(at, marker & 0xfU) * (isDictionary ? 2 : 1);
         std::vector<std::uint64_t> values;
-        for (std::uint64_t i = 0; i < size && at < content_.size(); ++i, at += referenceSize_)
+        for (std::uint64_t i = 0; i < size && i <= mostValues && at < content_.size();
+             ++i, at += referenceSize_)
             values.push_back(number(at, referenceSize_));
         return values;
     }
@@ -104,6 +112,8 @@ bool isBinaryWithinBounds(const std::string &content)
         int depth;
     };
     const BinaryList list(content);
+    if (!list.hasSizes())
+        return false;
     std::vector<Visit> visits = {{list.top(), 1}};
     for (int values = 0; !visits.empty(); ++values) {
         const Visit visit = visits.back();

@@ -1,6 +1,9 @@
 #include "source/schema_probe.h"
 
 #include "language/said.h"
+#include "source/device_words.h"
+
+#include <filesystem>
 
 namespace iosphoto::tool {
 
@@ -18,6 +21,35 @@ void requirePhotoDatabase(const CopyDatabase &database)
         throw Failure(WrongKindOfFile, said("'{0}' is a SQLite database without a photo library; "
                                             "name the Photos.sqlite of a phone or backup",
                                             database.shownName()));
+}
+
+/// The library's own connection runs whatever a view or a computed column says.
+void requireRealTables(const CopyDatabase &database)
+{
+    const std::vector<std::string> tables = {
+        "ZASSET", "ZGENERICASSET", "ZADDITIONALASSETATTRIBUTES", "ZGENERICALBUM", "Z_PRIMARYKEY"};
+    const std::string albumContents = "Z^_%ASSETS";
+    if (!database.areRealTables(tables, albumContents))
+        throw Failure(WrongKindOfFile,
+                      said("'{0}' is a SQLite database whose tables are not those of a photo "
+                           "library; name the Photos.sqlite of a phone or backup",
+                           database.shownName()));
+}
+
+void requireDatabase(const CopyDatabase &database)
+{
+    const bool isDatabase = database.isDatabase();
+    std::error_code ignored;
+    if (std::filesystem::file_size(database.file(), ignored) == 0 && !ignored &&
+        !std::filesystem::exists(database.file() + "-wal", ignored))
+        throw Failure(WrongKindOfFile,
+                      said("'{0}' is empty; copy it from the device or the backup again",
+                           database.shownName()));
+    if (!isDatabase)
+        throw Failure(WrongKindOfFile,
+                      said("'{0}' is not a SQLite database, or it is encrypted; name the "
+                           "Photos.sqlite of a phone or of an unencrypted backup",
+                           database.shownName()));
 }
 
 /// Whether the model number and the tables tell of the same iOS.
@@ -78,7 +110,7 @@ void decideProduct(ProbedSchema &probed, const Device &wanted, const RecordedDev
 
 std::string disagreement(const ProbedSchema &probed, const KnownSchema *schema)
 {
-    const int major = std::atoi(probed.device.iosVersion.c_str());
+    const int major = firstNumber(probed.device.iosVersion);
     const KnownSchema &newest = newestSchema();
     if (major > newest.lastIos && (schema == nullptr || schema == &newest))
         return warningOfNewer(probed.device.iosVersion);
@@ -145,8 +177,9 @@ std::string ProbedSchema::productText() const
 
 ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const RecordedDevice &says)
 {
-    database.check();
+    requireDatabase(database);
     requirePhotoDatabase(database);
+    requireRealTables(database);
     ProbedSchema probed;
     probed.metadata = readStoreMetadata(database);
     probed.numbers = readEntityNumbers(database);

@@ -1,6 +1,7 @@
 #include "source/source.h"
 
 #include "language/said.h"
+#include "output/busy_line.h"
 #include "output/file_use_observer.h"
 #include "output/protected_sources.h"
 #include "source/archive_reader.h"
@@ -62,6 +63,7 @@ Source::Source(const std::string &name) : name_(name), databaseName_(name)
     const fs::path file = sourceFile(name, "");
     isArchive_ = tool::isArchive(file);
     if (isArchive_) {
+        const BusyLine busy(said("reading the archive"));
         search(std::make_unique<ArchiveTree>(file));
         return;
     }

@@ -37,8 +37,8 @@ public:
     const std::string &databaseName() const { return databaseName_; }
     /// When the database or its log was last written, in seconds since 1970.
     std::int64_t lastChange() const;
-    /// What should be there and is not, as a sentence; mostly empty.
-    std::string missing() const { return layout_->missing(); }
+    /// What should be there and is not, as sentences; mostly none.
+    std::vector<std::string> missing() const { return layout_->missing(); }
     /// The files on disk that are read to read the library, or would be if they were there, as a
     /// write-ahead log; for an archive the archive.
     std::vector<std::filesystem::path> inputs() const;

@@ -1,5 +1,7 @@
 #include "source/sqlite_error_log.h"
 
+#include "failure.h"
+#include "language/said.h"
 #include "language/sqlite_error.h"
 
 #include <sqlite3.h>
@@ -23,7 +25,11 @@ void note(void * /*unused*/, int code, const char * /*details*/)
 
 void install()
 {
-    sqlite3_config(SQLITE_CONFIG_LOG, note, nullptr);
+    const int result = sqlite3_config(SQLITE_CONFIG_LOG, note, nullptr);
+    if (result != SQLITE_OK)
+        throw Failure(CannotAccess, said("damage of databases would go unnoticed: {0}; install "
+                                         "iosphoto and SQLite again",
+                                         sqliteError(result)));
 }
 
 void clear()

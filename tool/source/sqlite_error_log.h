@@ -7,7 +7,7 @@
 /// damaged database from a short one; SQLite's own log does.
 namespace iosphoto::tool::sqlite_error_log {
 
-/// To be called before anything uses SQLite.
+/// To be called before anything uses SQLite. Throws Failure when that was not so.
 void install();
 
 /// Forgets the errors so far: a probe meets some on its way.

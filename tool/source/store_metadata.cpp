@@ -1,8 +1,7 @@
 #include "source/store_metadata.h"
 
+#include "source/device_words.h"
 #include "source/property_list.h"
-
-#include <cstdlib>
 
 namespace iosphoto::tool {
 
@@ -23,16 +22,19 @@ std::optional<int> StoreMetadata::iosMajor() const
 {
     if (!modelVersion || *modelVersion < firstNumberedModel)
         return std::nullopt;
-    const auto number = static_cast<int>(major(*modelVersion));
+    const std::int64_t number = major(*modelVersion);
+    constexpr std::int64_t mostPlausible = 99;
+    if (number > mostPlausible)
+        return std::nullopt;
     constexpr int modelsOfIos26 = 19;
-    return number == modelsOfIos26 ? 26 : number;
+    return number == modelsOfIos26 ? 26 : static_cast<int>(number);
 }
 
 bool StoreMetadata::isOfMac() const
 {
     constexpr int macBuildsAhead = 6; // those of phones are 4 ahead
     return modelVersion && *modelVersion >= firstNumberedModel && !build.empty() &&
-           std::atoi(build.c_str()) - major(*modelVersion) == macBuildsAhead;
+           firstNumber(build) - major(*modelVersion) == macBuildsAhead;
 }
 
 StoreMetadata readStoreMetadata(const CopyDatabase &database)

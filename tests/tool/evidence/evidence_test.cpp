@@ -41,6 +41,21 @@ protected:
     fs::path input_ = folder_ / "input";
 };
 
+TEST_F(EvidenceTest, RefusesAnInputOfWhichItReadsMoreThanItsSize)
+{
+    const fs::path growing = "/proc/self/status"; // has a size of 0
+    if (!fs::exists(growing))
+        GTEST_SKIP() << "no such file on this system";
+    Evidence evidence(file_, {"iosphoto", "photos"});
+    EXPECT_THROW(evidence.addInputs({growing}), Failure);
+}
+
+TEST_F(EvidenceTest, RefusesAnOutputThatIsNotThere)
+{
+    const Evidence evidence(file_, {"iosphoto", "photos"});
+    EXPECT_THROW(FileUseObserver::current()->wroteWhole(folder_ / "absent"), Failure);
+}
+
 TEST_F(EvidenceTest, TellsOfInputsWhatTheyAreBeforeAndAfter)
 {
     const timespec moment = {1578307200, 123456789};

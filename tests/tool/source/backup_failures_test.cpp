@@ -216,7 +216,13 @@ TEST_F(ToolBrokenBackup, LibraryOfTheSystemIsNotTaken)
 {
     const fs::path system = folder_ / "Library/Photos/Libraries/Syndication.photoslibrary/database";
     putMedia(system, "Photos.sqlite");
-    expectFailure(albums(system), quoted(system) + " holds no photo library", 4);
+    const fs::path archive = packed(folder_.path(), folder_ / "phone", tar);
+    expectFailure(albums(archive), quoted(archive) + " holds no photo library", 4);
+}
+
+TEST_F(ToolBrokenBackup, LibraryBelowAFolderThatIsOnlyNamedLikeThatOfTheSystem)
+{
+    expectWhole(albums(putMedia(folder_ / "Library/Photos/Libraries/mine")));
 }
 
 /// A part of a backup that this user may not read, and what is said to be unreadable.

@@ -98,6 +98,49 @@ TEST_F(ToolHostileArchive, SeveralLibraries)
                   2);
 }
 
+TEST_F(ToolHostileArchive, MoreLibrariesThanCanBeNamed)
+{
+    const auto holds = [&](int count) {
+        {
+            ArchiveBuilder builder(archive_, zip);
+            for (int i = 100; i < 100 + count; ++i)
+                builder.add(std::to_string(i) + "/PhotoData/Photos.sqlite", "x");
+        }
+        std::string names;
+        for (int i = 100; i < 105; ++i)
+            names += (i > 100 ? ", " : "") + quoted(archive_ / std::to_string(i));
+        return std::pair(albumsOfArchive(),
+                         "; unpack it and name one of them: " + names + " and more\n");
+    };
+    const auto [twenty, rest] = holds(20);
+    expectFailure(twenty, quoted(archive_) + " holds 20 photo libraries" + rest, 2);
+    const auto [many, restOfMany] = holds(300);
+    expectFailure(many, quoted(archive_) + " holds more than 20 libraries" + restOfMany, 2);
+}
+
+TEST_F(ToolHostileArchive, PathsThatNoPhoneHasArePassedOver)
+{
+    std::string deep;
+    for (int i = 0; i < 64; ++i)
+        deep += "a/";
+    ArchiveBuilder(archive_, tar)
+        .add(deep + mediaDatabase, database_)
+        .add(std::string(4096, 'a') + "/" + mediaDatabase, database_);
+    expectFailure(albumsOfArchive(), quoted(archive_) + " holds no photo library", 4);
+    ArchiveBuilder(archive_, tar).add(deep.substr(0, 2 * 61) + mediaDatabase, database_);
+    EXPECT_EQ(albumsOfArchive().status, 0);
+}
+
+TEST_F(ToolHostileArchive, PropertyListOfAnImpossibleSize)
+{
+    constexpr std::size_t tooLarge = 256'000'001;
+    const fs::path backup = writeBackup(folder_ / "backup", library_);
+    fs::resize_file(backup / "Info.plist", tooLarge);
+    const std::string text = ": it is larger than 256000000 bytes, which no such file is; copy the "
+                             "whole backup again\n";
+    expectFailure(albums(backup), "cannot read " + quoted(backup / "Info.plist") + text, 3);
+}
+
 TEST_F(ToolHostileArchive, WithoutEntries)
 {
     ArchiveBuilder(archive_, zip); // NOLINT(bugprone-unused-raii): it writes the file

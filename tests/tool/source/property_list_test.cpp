@@ -118,5 +118,31 @@ TEST(ToolPropertyListBounds, AreNotFooledByNumbersThatPointAnywhere)
         isWithinBounds(whole.substr(0, size));
 }
 
+TEST(ToolPropertyListBounds, RefuseNumbersOfImpossibleSizes)
+{
+    const std::string whole = nestedArrays(3, 2);
+    constexpr std::size_t trailerSize = 32;
+    for (const std::size_t field : {6U, 7U})
+        for (const char size : {'\0', '\x09', '\xff'}) {
+            std::string changed = whole;
+            changed[changed.size() - trailerSize + field] = size;
+            EXPECT_FALSE(isWithinBounds(changed)) << field << " " << int(size);
+        }
+}
+
+TEST(ToolPropertyListBounds, StopAnArrayThatClaimsToBeHuge)
+{
+    std::string list = "bplist00";
+    list += '\xaf';                 // an array, its size in a number behind it
+    list += "\x12\x7f\xff\xff\xff"; // of four bytes
+    list += std::string(16, '\0');  // its first values
+    const auto tableAt = static_cast<char>(list.size());
+    const std::string zeros(7, '\0');
+    const auto number = [&](char value) { return zeros + value; };
+    list += '\x08'; // where the array is
+    list += std::string(6, '\0') + "\x01" + '\0' + number(1) + number(0) + number(tableAt);
+    EXPECT_FALSE(isWithinBounds(list));
+}
+
 INSTANTIATE_TEST_SUITE_P(Forms, ToolPropertyList, testing::Bool(),
                          [](const auto &form) { return form.param ? "Binary" : "Xml"; });

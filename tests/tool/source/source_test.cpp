@@ -90,7 +90,7 @@ TEST_F(ToolSource, Database)
     EXPECT_EQ(source.lastChange(), newer);
     EXPECT_EQ(source.device(), std::nullopt);
     EXPECT_EQ(source.backupDate(), std::nullopt);
-    EXPECT_EQ(source.missing(), "");
+    EXPECT_THAT(source.missing(), testing::IsEmpty());
     EXPECT_THAT(source.inputs(),
                 ElementsAre(database, database.string() + "-wal", database.string() + "-journal"));
     EXPECT_EQ(source.find(photo), std::nullopt);
@@ -128,12 +128,13 @@ TEST_F(ToolSource, Backup)
     EXPECT_FALSE(source.isArchive());
     EXPECT_EQ(source.lastChange(), newer);
     EXPECT_EQ(source.backupDate(), 1'700'000'000);
-    EXPECT_EQ(source.missing(), "");
+    EXPECT_THAT(source.missing(), testing::IsEmpty());
     const BackupBuilder builder(folder);
     EXPECT_EQ(source.databaseName(), builder.stored(mediaDatabase));
-    EXPECT_THAT(source.inputs(), ElementsAre(folder / "Info.plist", folder / "Manifest.plist",
-                                             folder / "Manifest.db", builder.stored(mediaDatabase),
-                                             builder.stored(mediaLog)));
+    EXPECT_THAT(source.inputs(),
+                ElementsAre(folder / "Info.plist", folder / "Manifest.plist",
+                            folder / "Status.plist", folder / "Manifest.db",
+                            builder.stored(mediaDatabase), builder.stored(mediaLog)));
     expectPhoto(source);
     expectDatabaseOf(source);
 }
