@@ -178,8 +178,8 @@ std::string ProbedSchema::productText() const
 ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const RecordedDevice &says)
 {
     requireDatabase(database);
-    requirePhotoDatabase(database);
     requireRealTables(database);
+    requirePhotoDatabase(database);
     ProbedSchema probed;
     probed.metadata = readStoreMetadata(database);
     probed.numbers = readEntityNumbers(database);
