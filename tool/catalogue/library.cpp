@@ -91,7 +91,7 @@ void Library::read(const std::string &copy)
         return;
     if (isWithoutPhotos(albums_))
         throw Failure(CannotAccess, said("'{0}' is damaged ({1}) and no photo could be read; {2}",
-                                         name(), error, adviceToCopyAgain()));
+                                         database_, error, adviceToCopyAgain()));
     missing_.push_back(said("'{0}' is damaged ({1}) and photos are missing here; {2}", database_,
                             error, adviceToCopyAgain()));
 }

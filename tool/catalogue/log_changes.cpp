@@ -1,6 +1,9 @@
 #include "catalogue/log_changes.h"
 
 #include "language/said.h"
+#include "source/file_tree.h"
+
+#include <QByteArray>
 
 #include <fmt/format.h>
 
@@ -39,20 +42,12 @@ std::string moved(const std::string &table, const char *now, const char *before)
                        arg("otherState", before));
 }
 
-std::string hexadecimal(const std::string &bytes)
-{
-    std::string digits;
-    for (const char byte : bytes)
-        digits += fmt::format("{:02x}", static_cast<unsigned char>(byte));
-    return digits;
-}
-
 LogChange changeOf(Kind kind, const QueryRow &row)
 {
-    const std::string directory = row.text(1);
     const std::string uuid = row.text(0);
-    return {kind, row.text(3) == "blob" ? hexadecimal(uuid) : uuid,
-            directory + (directory.empty() ? "" : "/") + row.text(2)};
+    const bool isBlob = row.text(3) == "blob";
+    return {kind, isBlob ? QByteArray::fromStdString(uuid).toHex().toStdString() : uuid,
+            joined(row.text(1), row.text(2))};
 }
 
 } // namespace

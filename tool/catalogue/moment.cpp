@@ -4,6 +4,7 @@
 #include "language/said.h"
 #include "model/clock.h"
 #include "model/core_data_time.h"
+#include "output/utc_offset.h"
 
 #include <QDateTime>
 
@@ -16,15 +17,6 @@ namespace iosphoto::tool {
 namespace {
 
 constexpr char timeFormat[] = "yyyy-MM-dd HH:mm ";
-
-/// "+08:00", or "UTC" where there is no offset.
-std::string offsetText(int seconds)
-{
-    const int minutes = std::abs(seconds) / 60;
-    return seconds == 0
-               ? "UTC"
-               : fmt::format("{}{:02}:{:02}", seconds < 0 ? '-' : '+', minutes / 60, minutes % 60);
-}
 
 bool isOfTheCalendar(std::int64_t unixTime)
 {
@@ -65,8 +57,8 @@ TimeSpan parseTime(const std::string &text, const std::string &option)
 std::string localTimeText(std::int64_t unixTime)
 {
     const QDateTime time = QDateTime::fromSecsSinceEpoch(unixTime);
-    // Names of zones stand for several: CST is one in China and another in Chicago.
-    return time.toString(timeFormat).toStdString() + offsetText(time.offsetFromUtc());
+    const int offset = time.offsetFromUtc();
+    return time.toString(timeFormat).toStdString() + (offset == 0 ? "UTC" : utcOffset(offset));
 }
 
 std::string localDayText(std::int64_t unixTime)

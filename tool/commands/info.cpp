@@ -30,7 +30,7 @@ std::string localTimeOf(const std::optional<double> &coreDataSeconds)
     return coreDataSeconds ? localTimeText(wholeSeconds(*coreDataSeconds) + coreDataEpoch) : "";
 }
 
-std::string joined(const std::string &what, const std::string &more)
+std::string withMore(const std::string &what, const std::string &more)
 {
     return more.empty() ? what : what + said(", ") + more;
 }
@@ -38,7 +38,7 @@ std::string joined(const std::string &what, const std::string &more)
 std::string schemaText(const Library &library)
 {
     const std::optional<std::int64_t> &model = library.schema().metadata.modelVersion;
-    return joined(library.schema().shownName, model ? said("model {0}", *model) : "");
+    return withMore(library.schema().shownName, model ? said("model {0}", *model) : "");
 }
 
 void printFacts(const Library &library, const Summary &summary, std::ostream &out)

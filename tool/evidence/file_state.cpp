@@ -5,6 +5,8 @@
 #include "failure.h"
 #include "language/said.h"
 #include "language/system_error.h"
+#include "source/source_file.h"
+#include "source/stat_times.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -20,13 +22,6 @@ namespace {
 
 constexpr std::size_t pieceSize = std::size_t{1024} * 1024;
 
-Failure cannotRead(const fs::path &file)
-{
-    return {CannotAccess, said("cannot read '{0}': {1}; run as a user who may read it, or copy it "
-                               "first",
-                               file.string(), systemError(errno))};
-}
-
 /// A file open for reading; none where nothing is there.
 class OpenFile
 {
@@ -36,7 +31,7 @@ public:
         : file_(file), descriptor_(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC))
     {
         if (descriptor_ < 0 && errno != ENOENT && errno != ENOTDIR)
-            throw cannotRead(file_);
+            throw mayNotRead(file_, systemError(errno));
     }
     ~OpenFile()
     {
@@ -53,7 +48,7 @@ public:
         if (descriptor_ < 0)
             return std::nullopt;
         if (fstat(descriptor_, &status) != 0)
-            throw cannotRead(file_);
+            throw mayNotRead(file_, systemError(errno));
         return S_ISREG(status.st_mode) ? std::make_optional(status) : std::nullopt;
     }
 
@@ -65,7 +60,7 @@ public:
             size = ::read(descriptor_, piece.data(), piece.size());
         while (size < 0 && errno == EINTR);
         if (size < 0)
-            throw cannotRead(file_);
+            throw mayNotRead(file_, systemError(errno));
         return static_cast<std::size_t>(size);
     }
 
@@ -73,15 +68,6 @@ private:
     fs::path file_;
     int descriptor_;
 };
-
-timespec modificationTime(const struct stat &status)
-{
-#ifdef __APPLE__
-    return status.st_mtimespec;
-#else
-    return status.st_mtim;
-#endif
-}
 
 } // namespace
 
@@ -103,7 +89,7 @@ FileState stateOf(const fs::path &file, HashingProgress &progress)
         throw Failure(
             CannotAccess,
             said("cannot read '{0}': it changed while it was read; copy it first", file.string()));
-    return {static_cast<std::uint64_t>(status->st_size), utcText(modificationTime(*status)),
+    return {static_cast<std::uint64_t>(status->st_size), utcText(modifiedAt(*status)),
             hash.digits()};
 }
 

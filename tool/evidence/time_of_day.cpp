@@ -1,11 +1,11 @@
 #include "evidence/time_of_day.h"
 
+#include "output/utc_offset.h"
+
 #include <QDateTime>
 #include <QTimeZone>
 
 #include <fmt/format.h>
-
-#include <cstdlib>
 
 namespace iosphoto::tool {
 
@@ -29,11 +29,7 @@ std::string timeZoneName()
 
 std::string utcOffsetNow()
 {
-    constexpr int minute = 60;
-    constexpr int hour = 60 * minute;
-    const int offset = QDateTime::currentDateTime().offsetFromUtc();
-    const int size = std::abs(offset);
-    return fmt::format("{}{:02}:{:02}", offset < 0 ? '-' : '+', size / hour, size % hour / minute);
+    return utcOffset(QDateTime::currentDateTime().offsetFromUtc());
 }
 
 } // namespace iosphoto::tool

@@ -11,7 +11,7 @@ void JsonLinesWriter::begin(const RowsHead &head, const std::vector<Column> &col
 {
     columns_ = columns;
     for (const std::string &key : head.ofEachLine)
-        ofEachLine_.emplace_back(key, head.document.at(key));
+        ofEachLine_.emplace_back(key, oneLine(head.document.at(key)));
 }
 
 void JsonLinesWriter::row(const std::vector<Value> &values)
@@ -21,7 +21,7 @@ void JsonLinesWriter::row(const std::vector<Value> &values)
     writer.StartObject();
     for (const auto &[key, member] : ofEachLine_) {
         json.key(key);
-        json.write(member);
+        json.raw(member);
     }
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         json.key(columns_[i].key);

@@ -24,7 +24,7 @@ private:
     std::ostream &out_;
     rapidjson::StringBuffer buffer_;
     std::vector<Column> columns_;
-    std::vector<std::pair<std::string, Json>> ofEachLine_;
+    std::vector<std::pair<std::string, std::string>> ofEachLine_; ///< keys and values, as JSON
 };
 
 } // namespace iosphoto::tool

@@ -22,6 +22,11 @@ public:
     void key(const std::string &key) { writer_.Key(key.data(), length(key)); }
     void write(const Value &value) { std::visit(*this, value); }
     void write(const Json &document) { raw(oneLine(document)); }
+    /// What is JSON already.
+    void raw(const std::string &text)
+    {
+        writer_.RawValue(text.data(), text.size(), rapidjson::kObjectType);
+    }
 
     void operator()(std::monostate) { writer_.Null(); }
     void operator()(bool flag) { writer_.Bool(flag); }
@@ -56,10 +61,6 @@ private:
         return static_cast<rapidjson::SizeType>(text.size());
     }
     void string(const std::string &text) { writer_.String(text.data(), length(text)); }
-    void raw(const std::string &text)
-    {
-        writer_.RawValue(text.data(), text.size(), rapidjson::kObjectType);
-    }
 
     Writer &writer_;
 };

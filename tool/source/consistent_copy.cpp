@@ -4,10 +4,10 @@
 #include "language/said.h"
 #include "language/system_error.h"
 #include "source/source_file.h"
+#include "source/stat_times.h"
 
 #include <algorithm>
 #include <chrono>
-#include <sys/stat.h>
 #include <thread>
 #include <tuple>
 
@@ -37,8 +37,10 @@ void copyFile(const Copy &file)
     fs::copy_file(file.from, file.to, error);
     if (!error)
         fs::permissions(file.to, fs::perms::owner_read | fs::perms::owner_write, error);
+    const fs::file_time_type time =
+        error ? fs::file_time_type() : fs::last_write_time(file.from, error);
     if (!error)
-        fs::last_write_time(file.to, fs::last_write_time(file.from, error), error);
+        fs::last_write_time(file.to, time, error);
     if (error)
         throw Failure(CannotAccess,
                       said("cannot copy '{0}' to '{1}': {2}; set TMPDIR to a folder with room for "
@@ -103,13 +105,8 @@ FileStamp::FileStamp(const fs::path &file)
     device = facts.st_dev;
     inode = facts.st_ino;
     size = facts.st_size;
-#ifdef __APPLE__
-    modified = nanoseconds(facts.st_mtimespec);
-    changed = nanoseconds(facts.st_ctimespec);
-#else
-    modified = nanoseconds(facts.st_mtim);
-    changed = nanoseconds(facts.st_ctim);
-#endif
+    modified = nanoseconds(modifiedAt(facts));
+    changed = nanoseconds(changedAt(facts));
 }
 
 bool FileStamp::operator==(const FileStamp &other) const
