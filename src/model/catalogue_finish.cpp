@@ -1,12 +1,12 @@
 #include "model/catalogue_finish.h"
 
 #include "model/album_names.h"
+#include "model/burst_sizes.h"
 #include "model/bursts.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "records/record_ownership.h"
 
 #include <algorithm>
-#include <map>
 #include <numeric>
 
 namespace iosphoto {
@@ -104,24 +104,34 @@ void dropEmpty(Albums &albums)
         album.albumIndex = index++;
 }
 
-/// Destroys a frame that does not stand for its burst.
-bool isThinnedOut(const CPhotoData *photo)
+bool isThinnedOut(const CPhotoData &photo)
 {
-    if (!photo->isBurst || photo->isBurstPick != 0)
-        return false;
-    delete photo;
-    return true;
+    return photo.isBurst && photo.isBurstPick == 0;
 }
 
-/// Only the Bursts album keeps every frame.
-void thinBursts(Albums &albums)
+/// Only the Bursts album keeps every frame. All in one walk, since fetching the records of a large
+/// album from memory takes longer than what is done to them.
+void thinBurstsAndSetSizes(CAlbumGroup &album, BurstSizes &sizes)
 {
-    for (CAlbumGroup &album : albums) {
-        if (album.albumKind == Kind::Bursts)
-            continue;
-        auto &photos = album.photos;
-        photos.erase(std::remove_if(photos.begin(), photos.end(), isThinnedOut), photos.end());
-    }
+    const bool keepsFrames = album.albumKind == Kind::Bursts;
+    const auto dropped =
+        std::remove_if(album.photos.begin(), album.photos.end(), [&](CPhotoData *photo) {
+            if (!keepsFrames && isThinnedOut(*photo)) {
+                delete photo;
+                return true;
+            }
+            if (photo->isBurst)
+                photo->burstCount = photo->isBurstPick != 0 ? sizes.of(photo->burstUuid) : 0;
+            return false;
+        });
+    album.photos.erase(dropped, album.photos.end());
+}
+
+void thinBurstsAndSetSizes(Albums &albums)
+{
+    BurstSizes sizes(burstsAlbum(albums));
+    for (CAlbumGroup &album : albums)
+        thinBurstsAndSetSizes(album, sizes);
 }
 
 std::int32_t photoCount(const CAlbumGroup &album)
@@ -146,35 +156,6 @@ void countAndLabel(Albums &albums)
     }
 }
 
-/// Ordered, because the uuids come from the file: no choice of them makes it slow.
-using BurstSizes = std::map<QString, std::int32_t>;
-
-BurstSizes sizesInBurstsAlbum(const Albums &albums)
-{
-    BurstSizes sizes;
-    if (const CAlbumGroup *bursts = burstsAlbum(albums))
-        for (const CPhotoData *frame : bursts->photos)
-            ++sizes[frame->burstUuid];
-    return sizes;
-}
-
-std::int32_t sizeOfBurst(const BurstSizes &sizes, const CPhotoData &photo)
-{
-    if (photo.isBurstPick == 0)
-        return 0;
-    const auto found = sizes.find(photo.burstUuid);
-    return found != sizes.end() ? found->second : 0;
-}
-
-void setBurstSizes(Albums &albums)
-{
-    const BurstSizes sizes = sizesInBurstsAlbum(albums);
-    for (CAlbumGroup &album : albums)
-        for (CPhotoData *photo : album.photos)
-            if (photo->isBurst)
-                photo->burstCount = sizeOfBurst(sizes, *photo);
-}
-
 } // namespace
 
 void finishCatalogue(Albums &albums)
@@ -183,9 +164,8 @@ void finishCatalogue(Albums &albums)
     moveImportedToFront(albums);
     moveRecentlyDeletedToEnd(albums);
     dropEmpty(albums);
-    thinBursts(albums);
+    thinBurstsAndSetSizes(albums);
     countAndLabel(albums);
-    setBurstSizes(albums);
 }
 
 } // namespace iosphoto

@@ -2,21 +2,46 @@
 
 #include "model/core_data_time.h"
 
+#include <QDate>
+
+#include <ctime>
 #include <limits>
 
 namespace iosphoto {
 
 namespace {
 
-/// Whether the clock ran through a day of 24 hours without being set.
-bool isPlainDay(const QDateTime &somewhere, const QDateTime &first, const QDateTime &last)
+constexpr std::uint32_t secondsOfADay = 24 * 60 * 60;
+
+/// The C library and Qt agree on the local time up to here; later ones Qt works out on its own.
+constexpr std::uint32_t lastOfBoth = std::numeric_limits<std::int32_t>::max();
+
+/// Unlike Qt's conversions this one does not look at the time zone's file each time, which costs
+/// more than reading the row.
+std::tm localClock(std::uint32_t unixTime)
 {
-    return first.date() == somewhere.date() && first.time() == QTime(0, 0) &&
-           last.date() == somewhere.date() && last.time() == QTime(23, 59, 59) &&
-           first.offsetFromUtc() == last.offsetFromUtc();
+    const std::time_t time = unixTime;
+    std::tm clock = {};
+    localtime_r(&time, &clock);
+    return clock;
+}
+
+std::uint32_t secondOfDay(const std::tm &clock)
+{
+    return static_cast<std::uint32_t>((clock.tm_hour * 60 + clock.tm_min) * 60 + clock.tm_sec);
+}
+
+bool areOfOneDay(const std::tm &one, const std::tm &other)
+{
+    return one.tm_yday == other.tm_yday && one.tm_year == other.tm_year;
 }
 
 } // namespace
+
+DayText::DayText()
+{
+    tzset();
+}
 
 QString DayText::of(std::int64_t unixTime)
 {
@@ -28,17 +53,31 @@ QString DayText::of(std::int64_t unixTime)
 
 void DayText::remember(std::uint32_t unixTime)
 {
-    const QDateTime time = localTime(unixTime);
-    text_ = time.toString(QStringLiteral("yyyy-MM-dd"));
     first_ = last_ = unixTime;
-
-    constexpr std::int64_t untilEnd = 24 * 60 * 60 - 1;
-    const std::int64_t begin = std::int64_t(unixTime) - time.time().msecsSinceStartOfDay() / 1000;
-    const bool wraps = begin < 0 || begin + untilEnd > std::numeric_limits<std::uint32_t>::max();
-    if (wraps || !isPlainDay(time, localTime(begin), localTime(begin + untilEnd)))
+    if (unixTime > lastOfBoth) {
+        text_ = localTime(unixTime).date().toString(Qt::ISODate);
         return;
-    first_ = static_cast<std::uint32_t>(begin);
-    last_ = static_cast<std::uint32_t>(begin + untilEnd);
+    }
+    const std::tm clock = localClock(unixTime);
+    text_ = QDate(clock.tm_year + 1900, clock.tm_mon + 1, clock.tm_mday).toString(Qt::ISODate);
+    rememberDay(unixTime, clock);
+}
+
+void DayText::rememberDay(std::uint32_t unixTime, const std::tm &clock)
+{
+    constexpr std::uint32_t untilEnd = secondsOfADay - 1;
+    const std::uint32_t sinceBegin = secondOfDay(clock);
+    if (unixTime < sinceBegin || unixTime - sinceBegin > lastOfBoth - untilEnd)
+        return;
+    const std::uint32_t begin = unixTime - sinceBegin;
+    const std::tm first = localClock(begin);
+    const std::tm last = localClock(begin + untilEnd);
+    // Where the clocks were set that day, these two are not its first and last second.
+    if (areOfOneDay(first, clock) && secondOfDay(first) == 0 && areOfOneDay(last, clock) &&
+        secondOfDay(last) == untilEnd) {
+        first_ = begin;
+        last_ = begin + untilEnd;
+    }
 }
 
 } // namespace iosphoto

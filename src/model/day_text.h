@@ -4,19 +4,23 @@
 #include <QString>
 
 #include <cstdint>
+#include <ctime>
 
 namespace iosphoto {
 
 /// Writes local days as "yyyy-MM-dd". Remembers the last one, since neighbouring rows mostly share
-/// it: so they share the text as well.
+/// it: so they share the text as well. One of these keeps to the time zone in which it was made.
 class DayText
 {
 public:
+    DayText();
+
     /// The day of the lowest 32 bits of `unixTime`, read unsigned.
     QString of(std::int64_t unixTime);
 
 private:
     void remember(std::uint32_t unixTime);
+    void rememberDay(std::uint32_t unixTime, const std::tm &clock);
 
     QString text_;
     // Every second from the first to the last is of the day; none to begin with.

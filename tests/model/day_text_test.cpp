@@ -27,6 +27,8 @@ const Stretch stretches[] = {
     {"UTC", 1577836800, 599, "NewYear"},
     {"UTC", 0, 599, "FirstDay"},
     {"UTC", 4294967295 - 40 * hour, 599, "LastDayOf32Bits"},
+    {"UTC", 2147483647 - 40 * hour, 599, "LastDayOf31Bits"},
+    {"America/New_York", 2147483647 - 40 * hour, 599, "LastDayOf31Bits"},
     {"Asia/Shanghai", 1577836800, 599, "NewYear"},
     {"America/New_York", 1583640000, 599, "ClocksForward"},
     {"America/New_York", 1604203200, 599, "ClocksBack"},
