@@ -4,9 +4,11 @@
 #include "cases.h"
 #include "measure.h"
 #include "memory.h"
+#include "tool_cost.h"
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace iosphoto::bench {
 
@@ -20,6 +22,7 @@ struct CaseResult
     std::optional<double> pythonRatio; ///< to the floor, as the library's
     std::optional<double> shellRatio;
     std::optional<MemoryUse> memory;
+    std::vector<ToolCost> tool; ///< none where it was not measured
 };
 
 } // namespace iosphoto::bench

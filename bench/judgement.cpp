@@ -28,10 +28,19 @@ std::size_t sizeOf(Group group)
 
 } // namespace
 
+bool toolMeetsGoals(const ToolCost &cost, const Goals &goals)
+{
+    return goals.toolRatio == 0 ||
+           (cost.time.ratio <= goals.toolRatio && cost.outputBytes <= outputBytesGoal);
+}
+
 bool meetsGoals(const CaseResult &result)
 {
     const Goals &goals = result.of->goals;
     if (result.time.ratio > goals.ratio)
+        return false;
+    const auto isMet = [&](const ToolCost &cost) { return toolMeetsGoals(cost, goals); };
+    if (!std::all_of(result.tool.begin(), result.tool.end(), isMet))
         return false;
     return !result.memory || (isWithin(result.memory->held, goals.heldBytes) &&
                               isWithin(result.memory->peak, goals.peakBytes));

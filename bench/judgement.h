@@ -10,6 +10,9 @@ namespace iosphoto::bench {
 /// Whether a result is within all goals of its case. What could not be measured counts as reached.
 bool meetsGoals(const CaseResult &result);
 
+/// The same of the tool alone.
+bool toolMeetsGoals(const ToolCost &cost, const Goals &goals);
+
 /// By how much the ratios of a group differ.
 struct Flatness
 {

@@ -26,24 +26,24 @@ double processorSeconds()
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-Comparison compare(const Run &floor, const Run &library, int rounds)
+Comparison compare(const Run &floor, const Run &compared, int rounds)
 {
     const int times = repetitions(floor);
     std::vector<double> floors;
-    std::vector<double> libraries;
+    std::vector<double> others;
     std::vector<double> ratios;
     for (int round = 0; round < rounds; ++round) {
         double ofFloor = 0;
-        double ofLibrary = 0;
+        double ofCompared = 0;
         for (int i = 0; i < times; ++i) {
             ofFloor += floor();
-            ofLibrary += library();
+            ofCompared += compared();
         }
         floors.push_back(ofFloor / times);
-        libraries.push_back(ofLibrary / times);
-        ratios.push_back(ofLibrary / ofFloor);
+        others.push_back(ofCompared / times);
+        ratios.push_back(ofCompared / ofFloor);
     }
-    return {median(floors), median(libraries), median(ratios)};
+    return {median(floors), median(others), median(ratios)};
 }
 
 double median(std::vector<double> values)

@@ -26,13 +26,13 @@ using Run = std::function<double()>;
 struct Comparison
 {
     double floorSeconds;
-    double librarySeconds;
-    double ratio; ///< library to floor within one round
+    double seconds; ///< of what is compared with the floor
+    double ratio;   ///< of the two within one round
 };
 
 /// Runs both in turns, so that what slows the machine down meets both. The short ones run as often
 /// in a round as it takes to be long enough for the clock.
-Comparison compare(const Run &floor, const Run &library, int rounds);
+Comparison compare(const Run &floor, const Run &compared, int rounds);
 
 /// The middle one, or the mean of the two in the middle; 0 of none.
 double median(std::vector<double> values);

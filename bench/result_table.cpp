@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 namespace iosphoto::bench {
 
 namespace {
@@ -35,6 +37,12 @@ std::string bytes(const std::optional<MemoryUse> &memory, double MemoryUse::*par
     return goal != 0 ? fmt::format("{} ({})", value, goal) : value;
 }
 
+std::string megabytes(double value, bool isJudged)
+{
+    const std::string text = fmt::format("{:.1f}", value / 1e6);
+    return isJudged ? fmt::format("{} ({:.0f})", text, outputBytesGoal / 1e6) : text;
+}
+
 std::vector<std::string> cells(const CaseResult &result)
 {
     const Goals &goals = result.of->goals;
@@ -42,7 +50,7 @@ std::vector<std::string> cells(const CaseResult &result)
             std::to_string(result.assets),
             std::to_string(result.records),
             milliseconds(result.time.floorSeconds),
-            milliseconds(result.time.librarySeconds),
+            milliseconds(result.time.seconds),
             ratio(result.time.ratio),
             ratio(goals.ratio),
             verdict(meetsGoals(result)),
@@ -50,6 +58,40 @@ std::vector<std::string> cells(const CaseResult &result)
             ratio(result.shellRatio),
             bytes(result.memory, &MemoryUse::held, goals.heldBytes),
             bytes(result.memory, &MemoryUse::peak, goals.peakBytes)};
+}
+
+std::vector<std::string> cells(const CaseResult &result, const ToolCost &cost)
+{
+    const Goals &goals = result.of->goals;
+    const bool isJudged = goals.toolRatio != 0;
+    return {result.of->name,
+            cost.format,
+            milliseconds(cost.time.floorSeconds),
+            milliseconds(cost.time.seconds),
+            ratio(cost.time.ratio),
+            isJudged ? ratio(goals.toolRatio) : "",
+            isJudged ? verdict(toolMeetsGoals(cost, goals)) : "",
+            megabytes(cost.outputBytes, isJudged)};
+}
+
+void printToolCosts(const std::vector<CaseResult> &results, std::ostream &out)
+{
+    if (std::all_of(results.begin(), results.end(),
+                    [](const CaseResult &result) { return result.tool.empty(); }))
+        return;
+    tool::TextTable table({{"case"},
+                           {"photos"},
+                           {"library ms", right},
+                           {"tool ms", right},
+                           {"ratio", right},
+                           {"goal", right},
+                           {""},
+                           {"output MB", right}});
+    for (const CaseResult &result : results)
+        for (const ToolCost &cost : result.tool)
+            table.add(cells(result, cost));
+    out << '\n';
+    table.print(out);
 }
 
 } // namespace
@@ -74,6 +116,7 @@ void printResults(const std::vector<CaseResult> &results, std::ostream &out)
     for (const Flatness &group : flatness(results))
         out << fmt::format("{}: ratios differ by {:.2f}, goal {:.2f}, {}\n", group.group,
                            group.spread, flat, verdict(group.isFlat()));
+    printToolCosts(results, out);
 }
 
 } // namespace iosphoto::bench

@@ -49,6 +49,21 @@ TEST(Judgement, MissesTheGoalAboveEitherMeasureOfMemory)
     EXPECT_FALSE(meetsGoals(result));
 }
 
+TEST(Judgement, MissesTheGoalAboveTheToolsRatioOrMemory)
+{
+    constexpr Case withTool = {
+        "case", Group::None, Subject::GeneratedLibrary, {1000, 0, 0}, {1.2, 0, 0, 2.0}};
+    CaseResult result = resultOf(withTool, 1);
+    result.tool = {{"--csv", {1, 2, 2.0}, outputBytesGoal}};
+    EXPECT_TRUE(meetsGoals(result));
+    result.tool.push_back({"--jsonl", {1, 2, 2.01}, 0});
+    EXPECT_FALSE(meetsGoals(result));
+    result.tool.back() = {"--jsonl", {1, 2, 2.0}, outputBytesGoal + 1};
+    EXPECT_FALSE(meetsGoals(result));
+    result.of = &measured; // asks nothing of the tool
+    EXPECT_TRUE(meetsGoals(result));
+}
+
 TEST(Judgement, AGroupIsFlatWithinATenth)
 {
     for (const auto &[group, name] : groups) {
@@ -83,7 +98,23 @@ TEST(ResultTable, HasARowForEachCaseAndALineForEachGroup)
               "    -           300          350\n");
     out.str("");
     printResults(results, out);
+    EXPECT_EQ(out.str().find("photos"), std::string::npos) << out.str();
     EXPECT_NE(out.str().find("\nsizes: ratios differ by 0.50, goal 0.10, MISSED\n"),
               std::string::npos)
+        << out.str();
+}
+
+TEST(ResultTable, HasARowForEachFormatOfTheTool)
+{
+    std::vector<CaseResult> results = resultsOf(Group::Sizes, 1, 1);
+    results.back().tool = {{"--jsonl", {6, 9, 1.5}, 1.2e6}, {"--csv", {6, 13.2, 2.2}, 1e6}};
+    std::ostringstream out;
+    printResults(results, out);
+    EXPECT_NE(
+        out.str().find("\n\n"
+                       "case  photos   library ms   tool ms  ratio  goal          output MB\n"
+                       "1m    --jsonl     6000.00   9000.00   1.50  2.00  ok       1.2 (16)\n"
+                       "1m    --csv       6000.00  13200.00   2.20  2.00  MISSED   1.0 (16)\n"),
+        std::string::npos)
         << out.str();
 }

@@ -28,5 +28,5 @@ TEST(Comparison, HasTheRatioWithinTheRounds)
     const bench::Run library = [&] { return speed * 1.5; };
     const Comparison result = compare(floor, library, 3);
     EXPECT_EQ(result.ratio, 1.5);
-    EXPECT_EQ(result.librarySeconds, result.floorSeconds * 1.5);
+    EXPECT_EQ(result.seconds, result.floorSeconds * 1.5);
 }
