@@ -4,9 +4,14 @@
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 #include <sqlite3.h>
 
+#include <fstream>
+#include <map>
+
 using namespace iosphoto::test;
+using nlohmann::json;
 
 class ToolOnRealLibrary : public testing::TestWithParam<RealLibrary>
 {
@@ -37,12 +42,70 @@ protected:
         return result == SQLITE_OK ? rows : -1;
     }
 
+    /// The document that a command prints of the library, as the expected catalogue was read.
+    json documentOf(const std::vector<std::string> &command) const
+    {
+        std::vector<std::string> all = command;
+        all.insert(all.end(), {database(), "--json", "--ios", GetParam().iosVersion, "--product",
+                               "iPhone14,2", "--quiet"});
+        return json::parse(runTool(all).out);
+    }
+
+    static json expectedAlbums()
+    {
+        std::filesystem::path file = folderOf(GetParam());
+        file = file.parent_path() / "expected" / file.filename().concat(".json");
+        return json::parse(std::ifstream(file))["albums"];
+    }
+
     TemporaryFolder folder_;
 };
 
+TEST_P(ToolOnRealLibrary, AlbumsAreThoseOfTheCatalogue)
+{
+    json expected = json::array();
+    for (const json &album : expectedAlbums())
+        expected.push_back({album["albumIndex"], album["albumKind"], album["albumName"],
+                            album["albumCount"], album["photos"].size()});
+    const json document = documentOf({"albums"});
+    json shown = json::array();
+    for (const json &album : document["albums"])
+        shown.push_back({album["index"], album["kindCode"], album["name"], album["count"],
+                         album["photoCount"]});
+    EXPECT_EQ(shown, expected);
+}
+
+TEST_P(ToolOnRealLibrary, PhotosAreTheRecordsOfTheCatalogueEachOnce)
+{
+    std::map<std::string, json> expected; // by uuid
+    for (const json &album : expectedAlbums())
+        for (const json &photo : album["photos"]) {
+            json &merged = expected[photo["uuid"]];
+            for (const char *field : {"fileName", "directory", "width", "height", "fileSize"})
+                merged[field] = photo[field];
+            for (const char *flag : {"isVideo", "isSelfie", "isFavorite", "isHidden", "isDeleted"})
+                merged[flag] = photo[flag].get<bool>() || merged.value(flag, false);
+            merged["albums"].push_back(album["albumIndex"]);
+        }
+
+    const json document = documentOf({"photos", "--frames"});
+
+    EXPECT_EQ(document["photos"].size(), expected.size());
+    for (const json &photo : document["photos"]) {
+        const json &merged = expected[photo["uuid"]];
+        json shown = json::object();
+        for (const auto &[field, value] : merged.items())
+            shown[field] = photo[field];
+        json &albums = shown["albums"] = json::array();
+        for (const json &album : photo["albums"])
+            albums.push_back(album["index"]);
+        EXPECT_EQ(shown, merged) << photo["uuid"];
+    }
+}
+
 TEST_P(ToolOnRealLibrary, StatementsRun)
 {
-    const ToolRun run = runTool({"statements", database()});
+    const ToolRun run = runTool({"statements", database(), "--quiet"});
     EXPECT_EQ(run.error, "");
     EXPECT_EQ(run.status, 0);
     EXPECT_GT(rowsOf(run.out), 3) << run.out; // the lookups find a row each

@@ -105,3 +105,13 @@ TEST_F(InfoDocument, OfADamagedLibraryIsNotComplete)
     EXPECT_EQ(document["isComplete"], false);
     EXPECT_EQ(run.status, 1);
 }
+
+TEST(ToolInfoLines, AreTheDocumentInOneLine)
+{
+    LibraryBuilder library(ios15);
+    library.asset("IMG_0001.JPG");
+    const ToolRun line = runOn(library, "info", {"--jsonl"});
+    EXPECT_EQ(line.out.find('\n'), line.out.size() - 1);
+    EXPECT_EQ(nlohmann::json::parse(line.out),
+              nlohmann::json::parse(runOn(library, "info", {"--json"}).out));
+}

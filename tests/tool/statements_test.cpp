@@ -1,3 +1,4 @@
+#include "support/backup_builder.h"
 #include "support/expect_failure.h"
 #include "support/json_schema.h"
 #include "support/library_builder.h"
@@ -180,6 +181,17 @@ TEST(ToolStatements, AreThoseOfTheModel)
                 testing::Contains("camera_roll_15"));
 }
 
+TEST(ToolStatements, SayWhatWasFilledInThatNobodyNamed)
+{
+    const TemporaryFolder folder;
+    writeBackup(folder.path(), LibraryBuilder(ios15));
+    const ToolRun run = runTool({"statements", folder.path().string(), "--product", "iPhone13,2"});
+    EXPECT_EQ(run.error, "iosphoto: filled in for iOS 17.4.1 (Info.plist) and iPhone13,2\n");
+    EXPECT_THAT(run.out, StartsWith("-- iOS 17.4.1, iPhone13,2: "));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(runTool({"statements", folder.path().string(), "--quiet"}).error, "");
+}
+
 TEST(ToolStatements, NeedASourceOrAVersion)
 {
     expectFailure(runTool({"statements"}), "name a SOURCE, or a version with --ios; see ", 2);
@@ -202,4 +214,17 @@ TEST(ToolStatements, OfAVersionThatIsNotKnownYetComeWithAWarning)
     EXPECT_THAT(run.error, HasSubstr("iOS 27 is newer than all that are known"));
     EXPECT_THAT(run.out, StartsWith("-- iOS 27, iPhone14,2: "));
     EXPECT_EQ(run.status, 0);
+}
+
+TEST(ToolStatements, OfVersionsThatAreNotKnown)
+{
+    const ToolRun old = runTool({"statements", "--ios", "5.1"});
+    EXPECT_EQ(old, (ToolRun{"",
+                            "iosphoto: the databases of iOS 5.1 are not known; name a version from "
+                            "6 on\n",
+                            5}));
+    const ToolRun newer = runTool({"statements", "--ios", "99", "--quiet"});
+    EXPECT_EQ(newer.error, "iosphoto: iOS 99 is newer than all that are known, so it is read like "
+                           "iOS 18; check a few photos against the device\n");
+    EXPECT_EQ(newer.status, 0);
 }

@@ -7,7 +7,6 @@
 #include "output/busy_line.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
-#include "source/private_copy.h"
 #include "source/sqlite_error_log.h"
 #include "source/table_damage.h"
 
@@ -44,29 +43,24 @@ Library::Library(const LibraryRequest &request) : Library(request, Source(reques
 
 Library::Library(const LibraryRequest &request, const Source &source) : request_(request)
 {
-    source.announceReading();
-    const PrivateCopy copy(source);
+    const OpenedCopy copy(source, request.device);
     database_ = source.databaseName();
     kind_ = source.kind();
     isArchive_ = source.isArchive();
-    missing_ = source.missing();
-    inspect(copy, source.device().value_or(RecordedDevice()));
     asOf_ = request.asOf.value_or(ownTimeOf(source));
+    inspect(copy);
     const StoppedClock asOf(clockTime(asOf_.unixTime));
-    read(copy.database());
+    read(copy);
     leftOut_ = trash_.leftOutOf(albums_, asOf_.unixTime);
 }
 
-void Library::inspect(const PrivateCopy &copy, const RecordedDevice &says)
+void Library::inspect(const OpenedCopy &copy)
 {
-    const CopyDatabase database(copy.database(), database_, adviceToCopyAgain());
-    schema_ = probe(database, request_.device, says);
-    trash_ = Trash(database);
+    schema_ = copy.schema();
+    missing_ = copy.missing();
     hasLog_ = copy.hasLog();
-    if (hasLog_ && !copy.hasReadableLog())
-        missing_.push_back(said("the -wal of '{0}' is no write-ahead log, so changes that it was "
-                                "to hold are missing; {1}",
-                                database_, adviceToCopyAgain()));
+    const CopyDatabase database = copy.connect();
+    trash_ = Trash(database);
     if (hasLog_ && request_.comparesLog)
         logChanges_ = readLogChanges(database);
 }
@@ -76,12 +70,12 @@ Library::~Library()
     destroyRecords(albums_);
 }
 
-void Library::read(const std::string &copy)
+void Library::read(const OpenedCopy &copy)
 {
     sqlite_error_log::clear();
     const int result = [&] {
         const BusyLine busy(said("reading photos"));
-        return ios_photo_get_list(copy, device().iosVersion, device().productType, &albums_);
+        return ios_photo_get_list(copy.file(), device().iosVersion, device().productType, &albums_);
     }();
     if (result != 0)
         throw Failure(CannotAccess, said("cannot read '{0}': SQLite error {1}; {2}", database_,
@@ -96,13 +90,12 @@ void Library::read(const std::string &copy)
                             error, adviceToCopyAgain()));
 }
 
-std::string Library::damageMetBy(const std::string &copy) const
+std::string Library::damageMetBy(const OpenedCopy &copy) const
 {
     const std::string error = sqlite_error_log::firstError();
     if (!error.empty() || !isWithoutPhotos(albums_))
         return error;
-    const CopyDatabase database(copy, database_, adviceToCopyAgain());
-    return areAssetTablesDamaged(database) ? sqliteError(SQLITE_CORRUPT) : "";
+    return areAssetTablesDamaged(copy.connect()) ? sqliteError(SQLITE_CORRUPT) : "";
 }
 
 std::string Library::assumptions() const
@@ -115,7 +108,7 @@ std::string Library::assumptions() const
 void Library::sayHowItWasRead(const std::string &label) const
 {
     std::string line;
-    if (!(schema_.iosWhy.empty() && schema_.deviceWhy.empty() && asOf_.why.empty()))
+    if (schema_.isAssumed() || !asOf_.why.empty())
         line = assumptions();
     if (leftOut_ > 0)
         line +=

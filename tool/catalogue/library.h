@@ -6,8 +6,7 @@
 #include "catalogue/trash.h"
 #include "exit_status.h"
 #include "ios_photo.h"
-#include "source/private_copy.h"
-#include "source/schema_probe.h"
+#include "source/opened_copy.h"
 
 #include <optional>
 #include <string>
@@ -66,10 +65,10 @@ public:
     void sayHowItWasRead(const std::string &label = {}) const;
 
 private:
-    void inspect(const PrivateCopy &copy, const RecordedDevice &says);
-    void read(const std::string &copy);
+    void inspect(const OpenedCopy &copy);
+    void read(const OpenedCopy &copy);
     /// What went wrong when the copy was read; empty if nothing did.
-    std::string damageMetBy(const std::string &copy) const;
+    std::string damageMetBy(const OpenedCopy &copy) const;
     std::string assumptions() const;
 
     LibraryRequest request_;

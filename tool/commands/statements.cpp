@@ -8,8 +8,7 @@
 #include "output/printable.h"
 #include "source/build_statements.h"
 #include "source/device_words.h"
-#include "source/private_copy.h"
-#include "source/schema_probe.h"
+#include "source/opened_copy.h"
 #include "source/usual_entity_numbers.h"
 
 #include <algorithm>
@@ -30,18 +29,24 @@ struct Target
 {
     Device device;
     NumberSource numbers;
-    std::string warning; ///< that version and schema disagree; empty if they do not
+    std::string assumption; ///< what was filled in that nobody named; empty if nothing was
+    /// That version and schema disagree, and what of the source is missing.
+    std::vector<std::string> warnings;
+    bool isComplete = true;
 };
 
 Target readTarget(const StatementsRequest &request)
 {
-    const Source source(request.source);
-    source.announceReading();
-    const PrivateCopy copy(source);
-    const CopyDatabase database(copy.database(), source.databaseName(), adviceToCopyAgain());
-    const ProbedSchema schema =
-        probe(database, request.device, source.device().value_or(RecordedDevice()));
-    return {schema.device, {schema.numbers, true}, schema.warning};
+    const OpenedCopy copy(Source(request.source), request.device);
+    const ProbedSchema &schema = copy.schema();
+    Target target = {schema.device, {schema.numbers, true}, {}, copy.missing()};
+    target.isComplete = copy.missing().empty();
+    if (schema.isAssumed())
+        target.assumption =
+            said("filled in for {0} and {1}", schema.iosText(), schema.productText());
+    if (!schema.warning.empty())
+        target.warnings.insert(target.warnings.begin(), schema.warning);
+    return target;
 }
 
 Target usualTarget(const Device &wanted)
@@ -57,8 +62,10 @@ Target usualTarget(const Device &wanted)
     Device device = wanted;
     if (device.productType.empty())
         device.productType = productThatHidesNoAlbum;
-    return {
-        device, {usualEntityNumbers(device.iosVersion), false}, warningOfNewer(device.iosVersion)};
+    Target target = {device, {usualEntityNumbers(device.iosVersion), false}, {}, {}};
+    if (const std::string warning = warningOfNewer(device.iosVersion); !warning.empty())
+        target.warnings.push_back(warning);
+    return target;
 }
 
 bool uses(const BuildStatement &statement, const EntityNumberName &name)
@@ -155,10 +162,12 @@ ExitStatus showStatements(const StatementsRequest &request, std::ostream &out)
     const std::vector<BuildStatement> statements = statementsOfBuild(target.device, target.numbers);
     if (!target.numbers.areRead)
         remark(origin(target, statements));
-    if (!target.warning.empty())
-        notice(target.warning);
+    if (!target.assumption.empty())
+        remark(target.assumption);
+    for (const std::string &warning : target.warnings)
+        notice(warning);
     (request.asJson ? printAsJson : printScript)(target, statements, out);
-    return Good;
+    return target.isComplete ? Good : Incomplete;
 }
 
 } // namespace
@@ -179,7 +188,7 @@ Command addStatements(CLI::App &app)
         helpFooter({examples({"iosphoto statements Photos.sqlite > passes.sql",
                               "sqlite3 -readonly Photos.sqlite < passes.sql",
                               "iosphoto statements --ios 17.4 --product iPhone14,2 --json"}),
-                    said("Exit: 0 good, 2 wrong usage, 3 to 6 unusable files; see the README")}));
+                    exitCodesOfALibrary()}));
     return {command, [request](std::ostream &out) { return showStatements(*request, out); }};
 }
 

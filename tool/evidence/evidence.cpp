@@ -44,12 +44,6 @@ Json asJson(const InputFile &input)
 
 } // namespace
 
-void Evidence::Written::add(const char *bytes, std::size_t count)
-{
-    size += count;
-    hash.add(bytes, count);
-}
-
 Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
     : file_(file), commandLine_(std::move(commandLine)), started_(utcNow())
 {
@@ -121,25 +115,27 @@ void Evidence::willWrite(const fs::path &file)
 
 void Evidence::wrote(const fs::path &file, const QByteArray &content)
 {
-    outputs_.erase(file.string());
-    wholeOutputs_.erase(file.string());
-    outputs_[file.string()].add(content.constData(), static_cast<std::size_t>(content.size()));
+    Sha256 hash;
+    hash.add(content.constData(), static_cast<std::size_t>(content.size()));
+    outputs_[file.string()] = {static_cast<std::uint64_t>(content.size()), hash.digits()};
 }
 
 void Evidence::wroteWhole(const fs::path &file)
 {
     HashingProgress progress({file});
-    FileState state = stateOf(file, progress);
+    const FileState state = stateOf(file, progress);
     if (!state.size)
         throw Failure(CannotAccess, said("cannot read '{0}': {1}", file.string(),
                                          said("it is not there any more; check the path")));
-    outputs_.erase(file.string());
-    wholeOutputs_[file.string()] = std::move(state);
+    outputs_[file.string()] = {*state.size, *state.sha256};
 }
 
 void Evidence::printed(const char *bytes, std::size_t size)
 {
-    outputs_[standardOutput].add(bytes, size);
+    if (!printed_)
+        printed_.emplace();
+    printed_->size += size;
+    printed_->hash.add(bytes, size);
 }
 
 Json Evidence::document(int exitStatus) const
@@ -154,14 +150,13 @@ Json Evidence::document(int exitStatus) const
     Json &inputs = document["inputs"] = Json::array();
     for (const InputFile &input : inputs_)
         inputs.push_back(asJson(input));
-    std::map<std::string, Json> outputs;
-    for (const auto &[path, output] : outputs_)
-        outputs[path] = {{"path", path}, {"size", output.size}, {"sha256", output.hash.digits()}};
-    for (const auto &[path, output] : wholeOutputs_)
-        outputs[path] = {{"path", path}, {"size", *output.size}, {"sha256", *output.sha256}};
+    std::map<std::string, Output> outputs = outputs_;
+    if (printed_)
+        outputs[standardOutput] = {printed_->size, printed_->hash.digits()};
     document["outputs"] = Json::array();
     for (const auto &[path, output] : outputs)
-        document["outputs"].push_back(output);
+        document["outputs"].push_back(
+            {{"path", path}, {"size", output.size}, {"sha256", output.sha256}});
     document["exitStatus"] = exitStatus;
     return document;
 }

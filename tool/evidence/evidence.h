@@ -41,12 +41,17 @@ public:
     void finish(int exitStatus);
 
 private:
-    struct Written
+    struct Output
+    {
+        std::uint64_t size = 0;
+        std::string sha256;
+    };
+
+    /// What goes to standard output, bit by bit.
+    struct Printed
     {
         std::uint64_t size = 0;
         Sha256 hash;
-
-        void add(const char *bytes, std::size_t count);
     };
 
     void willRead(const std::vector<std::filesystem::path> &files) override { addInputs(files); }
@@ -63,8 +68,8 @@ private:
     std::string started_;
     FileSet sources_; ///< the inputs, and those that could not be read
     std::vector<InputFile> inputs_;
-    std::map<std::string, Written> outputs_;        ///< by path; the last content of each
-    std::map<std::string, FileState> wholeOutputs_; ///< likewise, of those read after writing
+    std::map<std::string, Output> outputs_; ///< by path; the last content of each
+    std::optional<Printed> printed_;
 };
 
 } // namespace iosphoto::tool

@@ -1,6 +1,7 @@
 #include "evidence/sha256.h"
 
-#include <fmt/format.h>
+#include <QByteArray>
+
 #include <openssl/evp.h>
 
 #include <array>
@@ -53,10 +54,9 @@ std::string Sha256::digits() const
     std::array<unsigned char, EVP_MAX_MD_SIZE> digest = {};
     unsigned int size = 0;
     require(EVP_DigestFinal_ex(copy.get(), digest.data(), &size));
-    std::string digits;
-    for (unsigned int i = 0; i < size; ++i)
-        digits += fmt::format("{:02x}", digest.at(i));
-    return digits;
+    return QByteArray(reinterpret_cast<const char *>(digest.data()), static_cast<int>(size))
+        .toHex()
+        .toStdString();
 }
 
 } // namespace iosphoto::tool

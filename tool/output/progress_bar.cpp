@@ -9,7 +9,6 @@ namespace iosphoto::tool {
 
 namespace {
 
-constexpr std::chrono::milliseconds patience{500};
 constexpr std::chrono::milliseconds betweenShows{100};
 
 } // namespace
@@ -28,7 +27,7 @@ std::string progressLine(const std::string &doing, int done, int total, std::siz
     return doing + " [" + std::string(full, '#') + std::string(cells - full, ' ') + "] " + counts;
 }
 
-ProgressBar::ProgressBar(std::string doing, int total)
+ProgressBar::ProgressBar(std::string doing, int total, Clock::duration patience)
     : doing_(std::move(doing)), total_(total), nextShow_(Clock::now() + patience)
 {
 }

@@ -12,19 +12,21 @@ namespace iosphoto::tool {
 /// numbers where there is no room.
 std::string progressLine(const std::string &doing, int done, int total, std::size_t columns);
 
-/// How far a command is: a passing line from half a second on.
+/// How far a command is: a passing line, where it takes long.
 class ProgressBar
 {
 public:
-    /// @param doing  such as "writing thumbnails"
-    ProgressBar(std::string doing, int total);
+    using Clock = std::chrono::steady_clock;
+
+    /// @param doing     such as "writing thumbnails"
+    /// @param patience  how long the command may take before anything is shown
+    ProgressBar(std::string doing, int total,
+                Clock::duration patience = std::chrono::milliseconds(500));
 
     /// Says that `done` of the total are done.
     void show(int done);
 
 private:
-    using Clock = std::chrono::steady_clock;
-
     std::string doing_;
     int total_;
     PassingLine line_;

@@ -9,6 +9,7 @@ namespace iosphoto::tool {
 
 PrivateCopy::PrivateCopy(const Source &source)
 {
+    source.announceReading();
     const BusyLine busy(said("copying the database"));
     source.copyDatabaseTo(folder_.path());
     forgetSuperJournal(database());

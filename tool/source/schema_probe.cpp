@@ -108,22 +108,35 @@ void decideProduct(ProbedSchema &probed, const Device &wanted, const RecordedDev
     }
 }
 
+struct IosRange
+{
+    int first;
+    int last;
+    std::string name;
+};
+
+/// What the database may be of: one iOS if the model tells, else those that share the schema.
+std::optional<IosRange> iosRange(const StoreMetadata &metadata, const KnownSchema *schema)
+{
+    if (const std::optional<int> model = metadata.iosMajor(); agree(model, schema))
+        return IosRange{*model, *model, fmt::format("iOS {}", *model)};
+    if (schema != nullptr)
+        return IosRange{schema->firstIos, schema->lastIos, schema->shownName()};
+    return std::nullopt;
+}
+
 std::string disagreement(const ProbedSchema &probed, const KnownSchema *schema)
 {
     const int major = firstNumber(probed.device.iosVersion);
     const KnownSchema &newest = newestSchema();
     if (major > newest.lastIos && (schema == nullptr || schema == &newest))
         return warningOfNewer(probed.device.iosVersion);
-    const std::optional<int> model = probed.metadata.iosMajor();
-    const bool modelTells = agree(model, schema);
-    const int first = modelTells ? *model : schema != nullptr ? schema->firstIos : major;
-    const int last = modelTells ? *model : schema != nullptr ? schema->lastIos : major;
-    if (major >= first && major <= last)
+    const std::optional<IosRange> range = iosRange(probed.metadata, schema);
+    if (!range || (major >= range->first && major <= range->last))
         return {};
-    const std::string name = first == last ? fmt::format("iOS {}", last) : schema->shownName();
     return said("the database has the schema of {0}, not of iOS {1}, and photos may be wrong or "
                 "missing; try --ios {2}",
-                name, probed.device.iosVersion, last);
+                range->name, probed.device.iosVersion, range->last);
 }
 
 std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)

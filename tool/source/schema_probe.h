@@ -32,6 +32,8 @@ struct ProbedSchema
     StoreMetadata metadata;
     EntityNumbers numbers;
 
+    /// Whether the user left anything of the device open.
+    bool isAssumed() const { return !(iosWhy.empty() && deviceWhy.empty()); }
     std::string iosText() const;     ///< such as "iOS 15.7 (Info.plist)"
     std::string productText() const; ///< such as "iPhone14,2 (hides no album)"
 };

@@ -1,7 +1,12 @@
 #include "output/progress_bar.h"
 
+#include "output/notice.h"
+#include "support/shown_on_terminal.h"
+
 #include <gtest/gtest.h>
 
+using iosphoto::test::shownOnTerminal;
+using iosphoto::tool::ProgressBar;
 using iosphoto::tool::progressLine;
 
 TEST(ProgressLine, ShowsHowFarACommandIs)
@@ -21,4 +26,26 @@ TEST(ProgressLine, FitsIntoTheColumns)
 TEST(ProgressLine, IsOnlyTheNumbersOnATerminalThatIsTooNarrow)
 {
     EXPECT_EQ(progressLine("writing", 4, 8, 17), "4/8");
+}
+
+TEST(ProgressBar, IsShownWhereItTakesLongAndClearedThen)
+{
+    const std::string shown = shownOnTerminal([] {
+        ProgressBar progress("writing", 8, std::chrono::seconds(0));
+        progress.show(2);
+    });
+    EXPECT_EQ(shown, "\r\x1b[Kwriting [#####               ] 2/8\r\x1b[K");
+}
+
+TEST(ProgressBar, SparesAShortCommand)
+{
+    EXPECT_EQ(shownOnTerminal([] { ProgressBar("writing", 8).show(8); }), "");
+}
+
+TEST(ProgressBar, IsNotShownToWhoWantsItQuiet)
+{
+    iosphoto::tool::beQuiet(true);
+    EXPECT_EQ(shownOnTerminal([] { ProgressBar("writing", 8, std::chrono::seconds(0)).show(2); }),
+              "");
+    iosphoto::tool::beQuiet(false);
 }

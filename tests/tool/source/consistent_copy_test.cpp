@@ -1,12 +1,12 @@
 #include "source/consistent_copy.h"
 
 #include "failure.h"
+#include "support/meanwhile.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <fstream>
 #include <functional>
 #include <sys/stat.h>
@@ -21,42 +21,6 @@ using iosphoto::tool::waitUntilSettled;
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Does something again and again, until it goes.
-class Meanwhile
-{
-public:
-    explicit Meanwhile(std::function<void()> action)
-        : thread_([this, action = std::move(action)] {
-              while (!isOver_) {
-                  action();
-                  ++count_;
-              }
-          })
-    {
-        waitForNext();
-    }
-    ~Meanwhile()
-    {
-        isOver_ = true;
-        thread_.join();
-    }
-    Meanwhile(const Meanwhile &) = delete;
-    Meanwhile &operator=(const Meanwhile &) = delete;
-
-    /// Until it was done once more, from beginning to end.
-    void waitForNext() const
-    {
-        const int before = count_;
-        while (count_ < before + 2)
-            std::this_thread::yield();
-    }
-
-private:
-    std::atomic<bool> isOver_ = false;
-    std::atomic<int> count_ = 0;
-    std::thread thread_;
-};
 
 class ToolConsistentCopy : public testing::Test
 {
