@@ -3,7 +3,8 @@
 #include "catalogue/traits.h"
 
 #include <algorithm>
-#include <numeric>
+#include <cstdint>
+#include <cstring>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -34,25 +35,52 @@ std::vector<Appearance> allAppearances(const std::vector<CAlbumGroup> &catalogue
     return all;
 }
 
+/// The uuid of an appearance, for sorting. Most comparisons end with the beginnings, which spares
+/// fetching the uuids themselves from all over the memory.
+class UuidKey
+{
+public:
+    UuidKey(const Appearance &appearance, std::size_t index)
+        : uuid_(&appearance.record->uuid), index_(index)
+    {
+        std::memcpy(&beginning_, uuid_->data(), std::min(uuid_->size(), sizeof beginning_));
+    }
+
+    std::size_t index() const { return index_; }
+    bool isSame(const UuidKey &other) const
+    {
+        return beginning_ == other.beginning_ && !uuid_->empty() && *uuid_ == *other.uuid_;
+    }
+    /// Any order will do that puts the same ones side by side, the first appearance first.
+    bool operator<(const UuidKey &other) const
+    {
+        if (beginning_ != other.beginning_)
+            return beginning_ < other.beginning_;
+        const int compared = uuid_->compare(*other.uuid_);
+        return compared < 0 || (compared == 0 && index_ < other.index_);
+    }
+
+private:
+    std::uint64_t beginning_ = 0;
+    const std::string *uuid_;
+    std::size_t index_;
+};
+
 /// For each appearance the index of the first one of the same asset. Sorted, not hashed: no choice
 /// of uuids makes it slow.
 std::vector<std::size_t> firstOfSame(const std::vector<Appearance> &appearances)
 {
-    const auto uuid = [&](std::size_t index) -> const std::string & {
-        return appearances[index].record->uuid;
-    };
-    std::vector<std::size_t> order(appearances.size());
-    std::iota(order.begin(), order.end(), std::size_t(0));
-    std::sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
-        const int compared = uuid(left).compare(uuid(right));
-        return compared < 0 || (compared == 0 && left < right);
-    });
+    std::vector<UuidKey> keys;
+    keys.reserve(appearances.size());
+    for (const Appearance &appearance : appearances)
+        keys.emplace_back(appearance, keys.size());
+    std::sort(keys.begin(), keys.end());
     std::vector<std::size_t> first(appearances.size());
-    std::size_t head = 0;
-    for (const std::size_t index : order) {
-        if (uuid(index).empty() || uuid(index) != uuid(head))
-            head = index;
-        first[index] = head;
+    const UuidKey *head = nullptr;
+    for (const UuidKey &key : keys) {
+        if (head == nullptr || !key.isSame(*head))
+            head = &key;
+        first[key.index()] = head->index();
     }
     return first;
 }
