@@ -13,7 +13,15 @@ std::atomic<bool> failed{false};
 
 } // namespace
 
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+// The sanitizers replace malloc themselves. GCC tells of them by macros, clang by features.
+#ifdef __has_feature
+#define SANITIZER(feature, macro) __has_feature(feature)
+#else
+#define SANITIZER(feature, macro) defined(macro)
+#endif
+
+#if defined(__GLIBC__) && !SANITIZER(address_sanitizer, __SANITIZE_ADDRESS__) &&                   \
+    !SANITIZER(thread_sanitizer, __SANITIZE_THREAD__)
 
 namespace {
 

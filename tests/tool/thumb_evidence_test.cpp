@@ -89,7 +89,7 @@ TEST_F(ToolThumbEvidence, OfAnExportHashesEachFile)
     const ToolRun run = runTool(thumb({"--all", "-o", folder}));
     EXPECT_EQ(run.error, "");
     EXPECT_EQ(run.status, 0);
-    Json outputs = {output("-", run.out)};
+    Json outputs = Json::array({output("-", run.out)});
     for (const char *name : {"/0000.bmp", "/0001.bmp", "/0003.bmp"})
         outputs.push_back(output(folder + name, readFile(folder + name)));
     EXPECT_EQ(evidence()["outputs"], outputs);

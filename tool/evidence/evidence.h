@@ -24,6 +24,13 @@ struct InputFile
     bool isUnchanged() const { return after && *after == before; }
 };
 
+/// What goes to standard output, bit by bit.
+struct PrintedOutput
+{
+    std::uint64_t size = 0;
+    Sha256 hash;
+};
+
 /// A JSON file of what a command read and wrote, with the hashes to prove it, and that its inputs
 /// are after it what they were before.
 class Evidence : private FileUseObserver
@@ -47,13 +54,6 @@ private:
         std::string sha256;
     };
 
-    /// What goes to standard output, bit by bit.
-    struct Printed
-    {
-        std::uint64_t size = 0;
-        Sha256 hash;
-    };
-
     void willRead(const std::vector<std::filesystem::path> &files) override { addInputs(files); }
     void willWrite(const std::filesystem::path &file) override;
     void wrote(const std::filesystem::path &file, const QByteArray &content) override;
@@ -69,7 +69,7 @@ private:
     FileSet sources_; ///< the inputs, and those that could not be read
     std::vector<InputFile> inputs_;
     std::map<std::string, Output> outputs_; ///< by path; the last content of each
-    std::optional<Printed> printed_;
+    std::optional<PrintedOutput> printed_;
 };
 
 } // namespace iosphoto::tool
