@@ -13,15 +13,16 @@ std::atomic<bool> failed{false};
 
 } // namespace
 
-// The sanitizers replace malloc themselves. GCC tells of them by macros, clang by features.
-#ifdef __has_feature
-#define SANITIZER(feature, macro) __has_feature(feature)
-#else
-#define SANITIZER(feature, macro) defined(macro)
+// GCC tells of its sanitizers by macros, clang by features.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define SANITIZER_REPLACES_MALLOC
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define SANITIZER_REPLACES_MALLOC
+#endif
 #endif
 
-#if defined(__GLIBC__) && !SANITIZER(address_sanitizer, __SANITIZE_ADDRESS__) &&                   \
-    !SANITIZER(thread_sanitizer, __SANITIZE_THREAD__)
+#if defined(__GLIBC__) && !defined(SANITIZER_REPLACES_MALLOC)
 
 namespace {
 
