@@ -32,6 +32,7 @@ struct AssetSort
     bool has(Trait trait) const { return (traits & trait) != 0; }
     bool isVideo() const { return playbackStyle == 4; }
     bool isSynced() const { return savedAssetType == saved_asset_type::syncedFromComputer; }
+    bool isOfTheCloud() const { return savedAssetType == saved_asset_type::cloudLibrary; }
 };
 
 namespace uniform_type {

@@ -88,6 +88,19 @@ std::string madeUpUuid(const char *purpose, int number)
                        (high & 0x0FFF) | 0x4000, low >> 48, low & 0xFFFFFFFFFFFF);
 }
 
+namespace {
+
+std::string directoryOf(const AssetSort &sort, int key)
+{
+    constexpr int cloudGroups = 1000;
+    if (sort.isOfTheCloud())
+        return fmt::format("PhotoData/CPLAssets/group{}", below(cloudGroups, key, 'g'));
+    return sort.isSynced() ? "PhotoData/Sync/100SYNCD"
+                           : fmt::format("DCIM/{}APPLE", 100 + (key - 1) / filesPerDirectory);
+}
+
+} // namespace
+
 AssetValues::AssetValues(int assetKey, const StoreShape &shape) : key(assetKey)
 {
     const Place place = placeOf(key, shape);
@@ -100,10 +113,10 @@ AssetValues::AssetValues(int assetKey, const StoreShape &shape) : key(assetKey)
     fileSize = sort->isVideo() ? below(90000000, key, 's') : 900000 + below(3000000, key, 's');
     created = createdOf(key, shape);
     duration = sort->isVideo() ? 1 + below(60000, key, 'd') / 1000.0 : 0;
-    directory = sort->isSynced() ? "PhotoData/Sync/100SYNCD"
-                                 : fmt::format("DCIM/{}APPLE", 100 + (key - 1) / filesPerDirectory);
-    fileName = fmt::format("IMG_{:04}.{}", (key - 1) % namesInUse + 1, sort->extension);
     uuid = uuidOf(*sort, key);
+    directory = directoryOf(*sort, key);
+    originalName = fmt::format("IMG_{:04}.{}", (key - 1) % namesInUse + 1, sort->extension);
+    fileName = sort->isOfTheCloud() ? fmt::format("{}.{}", uuid, sort->extension) : originalName;
 }
 
 } // namespace iosphoto::bench

@@ -25,6 +25,7 @@ struct AssetValues
     std::string burstUuid; ///< empty outside of bursts
     std::string directory;
     std::string fileName;
+    std::string originalName; ///< before it went to the cloud library, which renames files
     std::string uuid;
 };
 

@@ -41,16 +41,6 @@ double seconds(const timeval &time)
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
-double peakBytes(const rusage &usage)
-{
-#ifdef __APPLE__
-    constexpr double unit = 1;
-#else
-    constexpr double unit = 1024;
-#endif
-    return static_cast<double>(usage.ru_maxrss) * unit;
-}
-
 } // namespace
 
 ChildRun runChild(const std::vector<std::string> &command, Output output)
@@ -71,7 +61,7 @@ ChildRun runChild(const std::vector<std::string> &command, Output output)
     rusage usage = {};
     wait4(child, &status, 0, &usage);
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-            seconds(usage.ru_utime) + seconds(usage.ru_stime), peakBytes(usage), text};
+            seconds(usage.ru_utime) + seconds(usage.ru_stime), text};
 }
 
 } // namespace iosphoto::bench

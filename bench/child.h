@@ -13,7 +13,6 @@ struct ChildRun
 {
     int status; ///< 127 where there is no such program
     double processorSeconds;
-    double peakBytes;   ///< the most memory that was resident
     std::string output; ///< where it was kept
 };
 

@@ -31,7 +31,7 @@ std::size_t sizeOf(Group group)
 bool toolMeetsGoals(const ToolCost &cost, const Goals &goals)
 {
     return goals.toolRatio == 0 ||
-           (cost.time.ratio <= goals.toolRatio && cost.outputBytes <= outputBytesGoal);
+           (cost.time.ratio <= goals.toolRatio && cost.outputBytes.value_or(0) <= outputBytesGoal);
 }
 
 bool meetsGoals(const CaseResult &result)

@@ -2,6 +2,7 @@
 #include "case_run.h"
 #include "judgement.h"
 #include "memory.h"
+#include "output_memory.h"
 #include "result_table.h"
 #include "support/temporary_folder.h"
 
@@ -25,6 +26,7 @@ struct Options
     std::string onlyLibrary;
     fs::path folder;
     fs::path memoryOf;
+    std::vector<std::string> outputOf; ///< database and format
 };
 
 std::vector<std::string> allNames()
@@ -59,7 +61,8 @@ void addOptions(CLI::App &app, Options &options)
             ->check(CLI::ExistingDirectory);
     prepare->needs(in);
     only->needs(in);
-    app.add_option(memoryOption, options.memoryOf)->group(""); // for memoryUse()
+    app.add_option(memoryOption, options.memoryOf)->group("");              // for memoryUse()
+    app.add_option(outputOption, options.outputOf)->expected(2)->group(""); // for outputBytes()
 }
 
 /// Measures one case in a folder that goes with it.
@@ -89,6 +92,8 @@ int run(const Options &options)
 {
     if (!options.memoryOf.empty())
         printMemoryUse(options.memoryOf, std::cout);
+    else if (!options.outputOf.empty())
+        printOutputBytes(options.outputOf[0], options.outputOf[1], std::cout);
     else if (!options.prepare.empty())
         makeSubject(options.folder, caseNamed(options.prepare));
     else if (!options.onlyLibrary.empty())

@@ -2,19 +2,20 @@
 
 #include "child.h"
 #include "library_run.h"
+#include "process_memory.h"
 
-#include <fstream>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 
-#ifdef __GLIBC__
+#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
+#define HAS_MALLINFO2
 #include <malloc.h>
 #endif
 
 namespace iosphoto::bench {
 
-#ifdef __GLIBC__
+#ifdef HAS_MALLINFO2
 
 namespace {
 
@@ -22,17 +23,6 @@ double heldBytes()
 {
     const struct mallinfo2 info = mallinfo2();
     return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
-}
-
-/// A line of /proc/self/status. The number that getrusage() gives counts also what the process was
-/// forked from.
-double statusBytes(const std::string &name)
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);)
-        if (line.compare(0, name.size(), name) == 0)
-            return std::stod(line.substr(name.size())) * 1024;
-    throw std::runtime_error("the system does not tell " + name);
 }
 
 } // namespace
@@ -49,13 +39,13 @@ std::optional<MemoryUse> memoryUse(const std::filesystem::path &database)
 
 void printMemoryUse(const std::filesystem::path &database, std::ostream &out)
 {
-    const double residentBefore = statusBytes("VmRSS:");
+    const double residentBefore = residentBytes();
     LibraryRun library;
     const double heldBefore = heldBytes();
     library.read(database);
     const auto records = static_cast<double>(library.records());
-    out << (heldBytes() - heldBefore) / records << ' '
-        << (statusBytes("VmHWM:") - residentBefore) / records << '\n';
+    out << (heldBytes() - heldBefore) / records << ' ' << (peakBytes() - residentBefore) / records
+        << '\n';
 }
 
 #else

@@ -37,9 +37,11 @@ std::string bytes(const std::optional<MemoryUse> &memory, double MemoryUse::*par
     return goal != 0 ? fmt::format("{} ({})", value, goal) : value;
 }
 
-std::string megabytes(double value, bool isJudged)
+std::string megabytes(const std::optional<double> &value, bool isJudged)
 {
-    const std::string text = fmt::format("{:.1f}", value / 1e6);
+    if (!value)
+        return "-";
+    const std::string text = fmt::format("{:.1f}", *value / 1e6);
     return isJudged ? fmt::format("{} ({:.0f})", text, outputBytesGoal / 1e6) : text;
 }
 
@@ -65,7 +67,7 @@ std::vector<std::string> cells(const CaseResult &result, const ToolCost &cost)
     const Goals &goals = result.of->goals;
     const bool isJudged = goals.toolRatio != 0;
     return {result.of->name,
-            cost.format,
+            "--" + cost.format,
             milliseconds(cost.time.floorSeconds),
             milliseconds(cost.time.seconds),
             ratio(cost.time.ratio),

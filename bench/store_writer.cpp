@@ -120,7 +120,7 @@ void StoreWriter::addAsset(const AssetValues &asset)
            std::string(sort.uniformType), asset.uuid);
     constexpr int liveTimeScale = 600;
     insert(attributes_, asset.key, is(Selfie), is(Live) * liveTimeScale, asset.fileSize,
-           asset.width, asset.height, asset.fileName, asset.uuid);
+           asset.width, asset.height, asset.originalName, asset.uuid);
 }
 
 void StoreWriter::addAlbum(int key, int photos)

@@ -3,6 +3,7 @@
 #include "child.h"
 #include "device.h"
 #include "library_run.h"
+#include "output_memory.h"
 
 #include <stdexcept>
 
@@ -12,32 +13,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Options = std::vector<std::string>;
-
-ChildRun listPhotos(const fs::path &database, const Options &options)
+double secondsOfListing(const fs::path &database, const std::string &format)
 {
-    Options command = {IOSPHOTO_TOOL, "photos",    database.string(), "--ios",
-                       iosVersion,    "--product", productType,       "--quiet"};
-    command.insert(command.end(), options.begin(), options.end());
-    ChildRun run = runChild(command, Output::Dropped);
+    const ChildRun run = runChild({IOSPHOTO_TOOL, "photos", database.string(), "--ios", iosVersion,
+                                   "--product", productType, "--quiet", "--" + format},
+                                  Output::Dropped);
     if (run.status != 0)
         throw std::runtime_error("the tool cannot list the photos of " + database.string());
-    return run;
+    return run.processorSeconds;
 }
 
-double outputBytes(const fs::path &database, const char *format)
-{
-    return listPhotos(database, {format}).peakBytes -
-           listPhotos(database, {format, "--limit", "1"}).peakBytes;
-}
-
-Comparison timeOf(const fs::path &database, const char *format, int rounds)
+Comparison timeOf(const fs::path &database, const std::string &format, int rounds)
 {
     const auto build = [&] {
         LibraryRun library;
         return secondsOf([&] { library.read(database); });
     };
-    const auto list = [&] { return listPhotos(database, {format}).processorSeconds; };
+    const auto list = [&] { return secondsOfListing(database, format); };
     return compare(build, list, rounds);
 }
 
@@ -46,10 +38,8 @@ Comparison timeOf(const fs::path &database, const char *format, int rounds)
 std::vector<ToolCost> toolCosts(const fs::path &database, int rounds)
 {
     std::vector<ToolCost> costs;
-    for (const char *format : {"--jsonl", "--csv"})
-        costs.push_back({format, {}, outputBytes(database, format)});
-    for (ToolCost &cost : costs)
-        cost.time = timeOf(database, cost.format, rounds);
+    for (const char *format : {"jsonl", "csv"})
+        costs.push_back({format, timeOf(database, format, rounds), outputBytes(database, format)});
     return costs;
 }
 

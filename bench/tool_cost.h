@@ -5,6 +5,8 @@
 #include "measure.h"
 
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace iosphoto::bench {
@@ -12,13 +14,11 @@ namespace iosphoto::bench {
 /// Listing the photos of a library in one format, to nowhere.
 struct ToolCost
 {
-    const char *format; ///< the option, such as "--jsonl"
-    Comparison time;    ///< the library's build as the floor, and the tool
-    double outputBytes; ///< memory at the peak that listing all photos takes over listing one
+    std::string format;                ///< "jsonl" or "csv"
+    Comparison time;                   ///< the library's build as the floor, and the tool
+    std::optional<double> outputBytes; ///< as outputBytes() says
 };
 
-/// To be called while this process is small: the system adds what it was started from to the
-/// memory of a program.
 std::vector<ToolCost> toolCosts(const std::filesystem::path &database, int rounds);
 
 } // namespace iosphoto::bench

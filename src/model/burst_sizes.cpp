@@ -22,7 +22,7 @@ void BurstSizes::add(const QString &burstUuid)
     ++bursts_[expected_].frames;
 }
 
-std::int32_t BurstSizes::of(const QString &burstUuid)
+std::int32_t BurstSizes::of(const QString &burstUuid) noexcept
 {
     if (expected_ >= bursts_.size() || bursts_[expected_].uuid != burstUuid) {
         const auto place = places_.find(burstUuid);

@@ -16,7 +16,8 @@ public:
     explicit BurstSizes(const CAlbumGroup *album);
 
     /// Fastest for bursts in the order of the album, which other albums mostly have too.
-    std::int32_t of(const QString &burstUuid);
+    /// Never throws: records are deleted between the calls.
+    std::int32_t of(const QString &burstUuid) noexcept;
 
 private:
     struct Burst

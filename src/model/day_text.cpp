@@ -5,7 +5,6 @@
 #include <QDate>
 
 #include <ctime>
-#include <limits>
 
 namespace iosphoto {
 
@@ -13,8 +12,9 @@ namespace {
 
 constexpr std::uint32_t secondsOfADay = 24 * 60 * 60;
 
-/// The C library and Qt agree on the local time up to here; later ones Qt works out on its own.
-constexpr std::uint32_t lastOfBoth = std::numeric_limits<std::int32_t>::max();
+/// 2037-12-31 23:59:59 UTC: up to here Qt takes the C library's word for the local time. For later
+/// years it takes the rules of 2037.
+constexpr std::uint32_t lastOfBoth = 2145916799;
 
 /// Unlike Qt's conversions this one does not look at the time zone's file each time, which costs
 /// more than reading the row.
@@ -40,7 +40,7 @@ bool areOfOneDay(const std::tm &one, const std::tm &other)
 
 DayText::DayText()
 {
-    tzset();
+    static_cast<void>(localTime(0)); // through Qt, which guards the environment
 }
 
 QString DayText::of(std::int64_t unixTime)

@@ -9,7 +9,8 @@
 namespace iosphoto {
 
 /// Writes local days as "yyyy-MM-dd". Remembers the last one, since neighbouring rows mostly share
-/// it: so they share the text as well. One of these keeps to the time zone in which it was made.
+/// it: so they share the text as well. Looks for the time zone when it is made, and
+/// need not notice that another one was set since.
 class DayText
 {
 public:

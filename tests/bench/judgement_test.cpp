@@ -54,11 +54,11 @@ TEST(Judgement, MissesTheGoalAboveTheToolsRatioOrMemory)
     constexpr Case withTool = {
         "case", Group::None, Subject::GeneratedLibrary, {1000, 0, 0}, {1.2, 0, 0, 2.0}};
     CaseResult result = resultOf(withTool, 1);
-    result.tool = {{"--csv", {1, 2, 2.0}, outputBytesGoal}};
+    result.tool = {{"csv", {1, 2, 2.0}, outputBytesGoal}};
     EXPECT_TRUE(meetsGoals(result));
-    result.tool.push_back({"--jsonl", {1, 2, 2.01}, 0});
+    result.tool.push_back({"jsonl", {1, 2, 2.01}, 0});
     EXPECT_FALSE(meetsGoals(result));
-    result.tool.back() = {"--jsonl", {1, 2, 2.0}, outputBytesGoal + 1};
+    result.tool.back() = {"jsonl", {1, 2, 2.0}, outputBytesGoal + 1};
     EXPECT_FALSE(meetsGoals(result));
     result.of = &measured; // asks nothing of the tool
     EXPECT_TRUE(meetsGoals(result));
@@ -107,7 +107,7 @@ TEST(ResultTable, HasARowForEachCaseAndALineForEachGroup)
 TEST(ResultTable, HasARowForEachFormatOfTheTool)
 {
     std::vector<CaseResult> results = resultsOf(Group::Sizes, 1, 1);
-    results.back().tool = {{"--jsonl", {6, 9, 1.5}, 1.2e6}, {"--csv", {6, 13.2, 2.2}, 1e6}};
+    results.back().tool = {{"jsonl", {6, 9, 1.5}, 1.2e6}, {"csv", {6, 13.2, 2.2}, 1e6}};
     std::ostringstream out;
     printResults(results, out);
     EXPECT_NE(

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 using namespace iosphoto;
 using namespace iosphoto::test;
 
@@ -18,7 +20,7 @@ struct Stretch
     std::int64_t step; ///< seconds between neighbours
     const char *label;
 
-    std::string name() const { return std::string(zone) + "_" + label; }
+    std::string name() const { return std::string(zone, std::strcspn(zone, "<")) + "_" + label; }
 };
 
 constexpr std::int64_t hour = 3600;
@@ -28,7 +30,8 @@ const Stretch stretches[] = {
     {"UTC", 0, 599, "FirstDay"},
     {"UTC", 4294967295 - 40 * hour, 599, "LastDayOf32Bits"},
     {"UTC", 2147483647 - 40 * hour, 599, "LastDayOf31Bits"},
-    {"America/New_York", 2147483647 - 40 * hour, 599, "LastDayOf31Bits"},
+    {"America/New_York", 2145916799 - 40 * hour, 599, "NewYear2038"},
+    {"<+12>-12<+13>,M11.2.0,M1.2.3/99", 2147263200, 599, "ClocksBackInJanuary2038"},
     {"Asia/Shanghai", 1577836800, 599, "NewYear"},
     {"America/New_York", 1583640000, 599, "ClocksForward"},
     {"America/New_York", 1604203200, 599, "ClocksBack"},

@@ -139,7 +139,8 @@ void printAsJson(const Target &target, const std::vector<BuildStatement> &statem
 {
     Json document = {{"iosVersion", target.device.iosVersion},
                      {"productType", target.device.productType},
-                     {"numbersAreRead", target.numbers.areRead}};
+                     {"numbersAreRead", target.numbers.areRead},
+                     {"isComplete", target.isComplete}};
     Json &entries = document["statements"] = Json::array();
     for (const BuildStatement &statement : statements) {
         Json numbers = Json::object();
