@@ -23,6 +23,12 @@ std::string ratio(const std::optional<double> &value)
     return value ? fmt::format("{:.2f}", *value) : "-";
 }
 
+/// With a digit more where it missed its goal, perhaps by little.
+std::string judgedRatio(double value, double goal)
+{
+    return goal != 0 && value > goal ? fmt::format("{:.3f}", value) : ratio(value);
+}
+
 std::string milliseconds(double seconds)
 {
     return fmt::format("{:.2f}", seconds * 1000);
@@ -53,7 +59,7 @@ std::vector<std::string> cells(const CaseResult &result)
             std::to_string(result.records),
             milliseconds(result.time.floorSeconds),
             milliseconds(result.time.seconds),
-            ratio(result.time.ratio),
+            judgedRatio(result.time.ratio, goals.ratio),
             ratio(goals.ratio),
             verdict(meetsGoals(result)),
             ratio(result.pythonRatio),
@@ -70,7 +76,7 @@ std::vector<std::string> cells(const CaseResult &result, const ToolCost &cost)
             "--" + cost.format,
             milliseconds(cost.time.floorSeconds),
             milliseconds(cost.time.seconds),
-            ratio(cost.time.ratio),
+            judgedRatio(cost.time.ratio, goals.toolRatio),
             isJudged ? ratio(goals.toolRatio) : "",
             isJudged ? verdict(toolMeetsGoals(cost, goals)) : "",
             megabytes(cost.outputBytes, isJudged)};

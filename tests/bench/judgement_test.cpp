@@ -94,7 +94,7 @@ TEST(ResultTable, HasARowForEachCaseAndALineForEachGroup)
     EXPECT_EQ(out.str(),
               "case  assets  records  floor ms  library ms  ratio  goal          python  "
               "shell  bytes/record  peak/record\n"
-              "10k        0        0    500.00        0.00   1.50  1.22  MISSED       -  "
+              "10k        0        0    500.00        0.00  1.500  1.22  MISSED       -  "
               "    -           300          350\n");
     out.str("");
     printResults(results, out);
@@ -114,7 +114,7 @@ TEST(ResultTable, HasARowForEachFormatOfTheTool)
         out.str().find("\n\n"
                        "case  photos   library ms   tool ms  ratio  goal          output MB\n"
                        "1m    --jsonl     6000.00   9000.00   1.50  2.00  ok       1.2 (16)\n"
-                       "1m    --csv       6000.00  13200.00   2.20  2.00  MISSED   1.0 (16)\n"),
+                       "1m    --csv       6000.00  13200.00  2.200  2.00  MISSED   1.0 (16)\n"),
         std::string::npos)
         << out.str();
 }
