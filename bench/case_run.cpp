@@ -14,8 +14,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The tool takes long on a large library, and its ratios are far from each other.
-constexpr int mostToolRounds = 3;
+/// Few and short, as the tool takes long on a large library, and its goal is far.
+Rounds roundsOfTool(int wanted)
+{
+    constexpr int most = 3;
+    return {std::min(wanted, most), 0};
+}
 
 std::optional<double> ratioTo(double floor, const std::optional<double> &seconds)
 {
@@ -30,7 +34,7 @@ CaseResult runThumbnails(const Case &wanted, const fs::path &cache, int rounds)
     CaseResult result = {};
     result.of = &wanted;
     result.assets = result.records = static_cast<std::size_t>(count);
-    result.time = compare(plainly, library, rounds);
+    result.time = compare(plainly, library, {rounds});
     return result;
 }
 
@@ -48,9 +52,9 @@ CaseResult runCatalogue(const Case &wanted, const fs::path &database, int rounds
     };
     result.memory = memoryUse(database);
     if (wanted.group == Group::Sizes)
-        result.tool = toolCosts(database, std::min(rounds, mostToolRounds));
+        result.tool = toolCosts(database, roundsOfTool(rounds));
     result.assets = static_cast<std::size_t>(floor.assets());
-    result.time = compare(runFloor, runLibrary, rounds);
+    result.time = compare(runFloor, runLibrary, {rounds});
     // Last, as they leave files beside the database.
     const double floorSeconds = result.time.floorSeconds;
     result.pythonRatio = ratioTo(floorSeconds, secondsInPython(database, floor.statements()));

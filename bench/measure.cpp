@@ -8,13 +8,13 @@ namespace iosphoto::bench {
 
 namespace {
 
-constexpr double longEnough = 0.2; // seconds of a round
-
-/// How often a round repeats what takes this long. This run also fills the caches.
-int repetitions(const Run &run)
+/// How often a round runs both ways round, the floor being run twice in each. This run also fills
+/// the caches.
+int repetitions(const Run &floor, double atLeast)
 {
     constexpr double shortest = 1e-6;
-    return std::max(1, static_cast<int>(std::ceil(longEnough / std::max(run(), shortest))));
+    const double seconds = 2 * std::max(floor(), shortest);
+    return std::max(1, static_cast<int>(std::ceil(atLeast / seconds)));
 }
 
 } // namespace
@@ -26,21 +26,23 @@ double processorSeconds()
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-Comparison compare(const Run &floor, const Run &compared, int rounds)
+Comparison compare(const Run &floor, const Run &compared, Rounds rounds)
 {
-    const int times = repetitions(floor);
+    const int times = repetitions(floor, rounds.floorSeconds);
     std::vector<double> floors;
     std::vector<double> others;
     std::vector<double> ratios;
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < rounds.count; ++round) {
         double ofFloor = 0;
         double ofCompared = 0;
         for (int i = 0; i < times; ++i) {
             ofFloor += floor();
             ofCompared += compared();
+            ofCompared += compared();
+            ofFloor += floor();
         }
-        floors.push_back(ofFloor / times);
-        others.push_back(ofCompared / times);
+        floors.push_back(ofFloor / (2 * times));
+        others.push_back(ofCompared / (2 * times));
         ratios.push_back(ofCompared / ofFloor);
     }
     return {median(floors), median(others), median(ratios)};

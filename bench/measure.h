@@ -30,9 +30,17 @@ struct Comparison
     double ratio;   ///< of the two within one round
 };
 
-/// Runs both in turns, so that what slows the machine down meets both. The short ones run as often
-/// in a round as it takes to be long enough for the clock.
-Comparison compare(const Run &floor, const Run &compared, int rounds);
+struct Rounds
+{
+    int count;
+    /// How long the floor is to take in each. Other programs slow a machine down for moments: over
+    /// so long that evens out.
+    double floorSeconds = 4;
+};
+
+/// Runs both in turns, so that what slows the machine down meets both, and the first in a pair is
+/// the second in the next, so that becoming slower does too.
+Comparison compare(const Run &floor, const Run &compared, Rounds rounds);
 
 /// The middle one, or the mean of the two in the middle; 0 of none.
 double median(std::vector<double> values);

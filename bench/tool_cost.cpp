@@ -23,7 +23,7 @@ double secondsOfListing(const fs::path &database, const std::string &format)
     return run.processorSeconds;
 }
 
-Comparison timeOf(const fs::path &database, const std::string &format, int rounds)
+Comparison timeOf(const fs::path &database, const std::string &format, Rounds rounds)
 {
     const auto build = [&] {
         LibraryRun library;
@@ -35,7 +35,7 @@ Comparison timeOf(const fs::path &database, const std::string &format, int round
 
 } // namespace
 
-std::vector<ToolCost> toolCosts(const fs::path &database, int rounds)
+std::vector<ToolCost> toolCosts(const fs::path &database, Rounds rounds)
 {
     std::vector<ToolCost> costs;
     for (const char *format : {"jsonl", "csv"})

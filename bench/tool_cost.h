@@ -19,7 +19,7 @@ struct ToolCost
     std::optional<double> outputBytes; ///< as outputBytes() says
 };
 
-std::vector<ToolCost> toolCosts(const std::filesystem::path &database, int rounds);
+std::vector<ToolCost> toolCosts(const std::filesystem::path &database, Rounds rounds);
 
 } // namespace iosphoto::bench
 
