@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Few and short, as the tool takes long on a large library, and its goal is far.
+/// Few and short, as the tool takes long on a large library.
 Rounds roundsOfTool(int wanted)
 {
     constexpr int most = 3;
