@@ -67,4 +67,9 @@ bool meetAllGoals(const std::vector<CaseResult> &results)
                        [](const Flatness &group) { return group.isFlat(); });
 }
 
+int exitStatus(const std::vector<CaseResult> &results, bool isStrict)
+{
+    return isStrict && !meetAllGoals(results) ? 1 : 0;
+}
+
 } // namespace iosphoto::bench

@@ -28,6 +28,9 @@ std::vector<Flatness> flatness(const std::vector<CaseResult> &results);
 /// Whether all goals are met, that all groups are flat included.
 bool meetAllGoals(const std::vector<CaseResult> &results);
 
+/// What the benchmark ends with: 1 where it is strict and a goal is missed, else 0.
+int exitStatus(const std::vector<CaseResult> &results, bool isStrict);
+
 } // namespace iosphoto::bench
 
 #endif // IOSPHOTO_BENCH_JUDGEMENT_H

@@ -85,7 +85,7 @@ int measureAll(const Options &options)
     for (const std::string &name : options.names.empty() ? allNames() : options.names)
         measure(caseNamed(name), options.rounds, results);
     printResults(results, std::cout);
-    return options.isStrict && !meetAllGoals(results) ? 1 : 0;
+    return exitStatus(results, options.isStrict);
 }
 
 int run(const Options &options)

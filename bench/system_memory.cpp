@@ -1,15 +1,20 @@
 #include "system_memory.h"
 
-#include <vector>
+#include <cstring>
+#include <stdexcept>
+#include <sys/mman.h>
 
 namespace iosphoto::bench {
 
 void bringMemory(std::size_t bytes)
 {
-    constexpr std::size_t page = 4096; // or more, on some systems
-    std::vector<char> memory(bytes);
-    for (std::size_t i = 0; i < bytes; i += page)
-        static_cast<volatile char *>(memory.data())[i] = 1; // a compiler may leave out other writes
+    // Not by malloc, which may keep for itself what is returned.
+    void *const memory =
+        mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED)
+        throw std::runtime_error("there is too little memory to measure the tool");
+    std::memset(memory, 1, bytes);
+    munmap(memory, bytes);
 }
 
 } // namespace iosphoto::bench

@@ -84,6 +84,14 @@ TEST(Judgement, AGroupIsNotJudgedUnlessAllOfItRan)
     EXPECT_TRUE(meetAllGoals(results));
 }
 
+TEST(Judgement, OfAMissedGoalIsAFailureOnlyWhereItIsStrict)
+{
+    const std::vector<CaseResult> missed = {resultOf(measured, 1.21)};
+    EXPECT_EQ(exitStatus(missed, true), 1);
+    EXPECT_EQ(exitStatus(missed, false), 0);
+    EXPECT_EQ(exitStatus({resultOf(measured, 1.2)}, true), 0);
+}
+
 TEST(ResultTable, HasARowForEachCaseAndALineForEachGroup)
 {
     std::vector<CaseResult> results = resultsOf(Group::Sizes, 1.5, 1);
