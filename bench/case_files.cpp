@@ -10,26 +10,26 @@ namespace fs = std::filesystem;
 
 constexpr char databaseName[] = "Photos.sqlite";
 
-fs::path realLibrary()
+fs::path realLibraryIn(const fs::path &folder)
 {
-    return fs::path(IOSPHOTO_REAL_LIBRARIES) / "ios15-a" / databaseName;
+    return folder / "ios15-a" / databaseName;
 }
 
 /// Only the copy is opened, whatever SQLite does to it.
-void copyRealLibrary(const fs::path &database)
+void copyLibrary(const fs::path &original, const fs::path &database)
 {
     for (const char *suffix : {"", "-wal"}) {
         const fs::path file = database.string() + suffix;
-        fs::copy_file(realLibrary().string() + suffix, file);
+        fs::copy_file(original.string() + suffix, file);
         fs::permissions(file, fs::perms::owner_write, fs::perm_options::add);
     }
 }
 
 } // namespace
 
-bool isAvailable(const Case &wanted)
+bool isAvailable(const Case &wanted, const fs::path &realLibraries)
 {
-    return wanted.subject != Subject::RealLibrary || fs::exists(realLibrary());
+    return wanted.subject != Subject::RealLibrary || fs::exists(realLibraryIn(realLibraries));
 }
 
 fs::path subjectIn(const fs::path &folder, const Case &wanted)
@@ -37,12 +37,12 @@ fs::path subjectIn(const fs::path &folder, const Case &wanted)
     return folder / (wanted.subject == Subject::ThumbCache ? "166x166.ithmb" : databaseName);
 }
 
-void makeSubject(const fs::path &folder, const Case &wanted)
+void makeSubject(const fs::path &folder, const Case &wanted, const fs::path &realLibraries)
 {
     const fs::path subject = subjectIn(folder, wanted);
     switch (wanted.subject) {
     case Subject::RealLibrary:
-        copyRealLibrary(subject);
+        copyLibrary(realLibraryIn(realLibraries), subject);
         break;
     case Subject::GeneratedLibrary:
         generateStore(subject, wanted.shape);

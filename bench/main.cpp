@@ -25,6 +25,7 @@ struct Options
     std::string prepare;
     std::string onlyLibrary;
     fs::path folder;
+    fs::path realLibraries = IOSPHOTO_REAL_LIBRARIES;
     fs::path memoryOf;
     std::vector<std::string> outputOf; ///< database and format
 };
@@ -59,6 +60,8 @@ void addOptions(CLI::App &app, Options &options)
     auto *const in =
         app.add_option("--in", options.folder, "folder of the file that --prepare makes")
             ->check(CLI::ExistingDirectory);
+    app.add_option("--real-libraries", options.realLibraries,
+                   "folder that has ios15-a/Photos.sqlite, for real15");
     prepare->needs(in);
     only->needs(in);
     app.add_option(memoryOption, options.memoryOf)->group("");              // for memoryUse()
@@ -66,24 +69,24 @@ void addOptions(CLI::App &app, Options &options)
 }
 
 /// Measures one case in a folder that goes with it.
-void measure(const Case &wanted, int rounds, std::vector<CaseResult> &results)
+void measure(const Case &wanted, const Options &options, std::vector<CaseResult> &results)
 {
-    if (!isAvailable(wanted)) {
+    if (!isAvailable(wanted, options.realLibraries)) {
         std::fprintf(stderr, "bench: left out, the real library for %s is not there\n",
                      wanted.name);
         return;
     }
     std::fprintf(stderr, "bench: %s\n", wanted.name);
     const iosphoto::test::TemporaryFolder folder;
-    makeSubject(folder.path(), wanted);
-    results.push_back(runCase(folder.path(), wanted, rounds));
+    makeSubject(folder.path(), wanted, options.realLibraries);
+    results.push_back(runCase(folder.path(), wanted, options.rounds));
 }
 
 int measureAll(const Options &options)
 {
     std::vector<CaseResult> results;
     for (const std::string &name : options.names.empty() ? allNames() : options.names)
-        measure(caseNamed(name), options.rounds, results);
+        measure(caseNamed(name), options, results);
     printResults(results, std::cout);
     return exitStatus(results, options.isStrict);
 }
@@ -95,7 +98,7 @@ int run(const Options &options)
     else if (!options.outputOf.empty())
         printOutputBytes(options.outputOf[0], options.outputOf[1], std::cout);
     else if (!options.prepare.empty())
-        makeSubject(options.folder, caseNamed(options.prepare));
+        makeSubject(options.folder, caseNamed(options.prepare), options.realLibraries);
     else if (!options.onlyLibrary.empty())
         runLibraryOnly(options.folder, caseNamed(options.onlyLibrary));
     else
