@@ -5,6 +5,7 @@
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/statement_tables.h"
 #include "model/store/source_protection.h"
+#include "model/store/untrusted_database.h"
 #include "sqlite_handles.h"
 
 #include <stdexcept>
@@ -67,10 +68,11 @@ int Floor::assets() const
 int Floor::make(const Visit &visit) const
 {
     sqlite3 *opened = nullptr;
-    const bool isOpen = sqlite3_open(database_.c_str(), &opened) == SQLITE_OK;
+    const bool isOpen =
+        sqlite3_open_v2(database_.c_str(), &opened, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK;
     const Connection connection(opened);
     sqlite3_stmt *prepared = nullptr;
-    if (isOpen && protectSource(opened))
+    if (isOpen && distrust(opened) == SQLITE_OK && protectSource(opened) == ReadingRisk::None)
         sqlite3_prepare_v2(opened, visit.statement.c_str(), -1, &prepared, nullptr);
     const PreparedStatement statement(prepared);
     if (prepared == nullptr)

@@ -6,8 +6,8 @@ install(TARGETS iosphoto EXPORT iosphotoTargets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/ios_photo.h include/iosphoto_export.h src/ithmb/ithmb.h
-              src/model/model_devicephoto_dbmgr.h
+install(FILES include/ios_photo.h include/ios_photo_report.h include/iosphoto_export.h
+              src/ithmb/ithmb.h src/model/model_devicephoto_dbmgr.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/iosphoto)
 install(EXPORT iosphotoTargets NAMESPACE iosphoto:: DESTINATION ${package_folder})
 

@@ -3,8 +3,9 @@
 /// and returns the catalogue of albums with the metadata of their photos; decodes single pictures
 /// out of thumbnail caches.
 ///
-/// The database is only read. Neither it nor the write-ahead log (`-wal`) beside it is changed; see
-/// ios_photo_get_list() for the files that SQLite may leave next to them.
+/// The database is only read, whatever it holds. Neither it nor the write-ahead log (`-wal`) beside
+/// it is changed, and no other file is written; see ios_photo_get_list() for the one that SQLite
+/// may leave next to them.
 ///
 /// No application object (`QCoreApplication` or one derived from it) is needed. Album names are
 /// Chinese texts that go through `QObject::tr` in the context `QDevPhotoDbMgr`, so a host that
@@ -12,6 +13,7 @@
 #ifndef IOSPHOTO_IOS_PHOTO_H
 #define IOSPHOTO_IOS_PHOTO_H
 
+#include "ios_photo_report.h"
 #include "iosphoto_export.h"
 
 #include <QPixmap>
@@ -161,7 +163,21 @@ public:
 /// journal beside it, and one whose `-journal` holds the change of a writer that died, which SQLite
 /// would roll back (read a copy of both files instead).
 ///
-/// @param databasePath  UTF-8 path of the database file, such as ".../PhotoData/Photos.sqlite".
+/// Other programs may write to the database meanwhile: a pass waits for their locks, five seconds
+/// at most. Each pass reads the database as it is when it begins.
+///
+/// The database may be made to harm. Nothing in it is executed that could write, load code or open
+/// another file, and each pass ends: one that takes more steps of SQLite's machine than a sound
+/// database of that size could need is stopped. Within that, rows may multiply, since the
+/// statements join tables whose rows a made-up database may repeat: 180 KB can make a million
+/// records. A host that reads such files sets QDevPhotoDbMgr::rowLimit.
+///
+/// What is sorted stays in memory: while a pass sorts, about 480 bytes for each of its rows besides
+/// the records made so far.
+///
+/// @param databasePath  path of the database file, such as ".../PhotoData/Photos.sqlite", as the
+///                      file system has it, mostly UTF-8. Always a file: neither "file:..." nor
+///                      ":memory:" means anything else.
 /// @param iosVersion    dotted decimal, such as "15.7"; it chooses the statements. Those of iOS 6
 ///                      serve all below "7", those of iOS 18 all from "18.0" on.
 /// @param productType   such as "iPhone14,2"; with the version it decides which albums exist.
@@ -170,12 +186,26 @@ public:
 ///                      to the caller, who deletes it. With a null pointer the catalogue is built
 ///                      and thrown away.
 /// @return 0, or a negated SQLite result code: -14 (SQLITE_CANTOPEN) when the file cannot be
-///         opened, -7 (SQLITE_NOMEM) when memory runs out. 0 does not promise that anything could
-///         be read: a file that is no photo database, one whose schema does not fit the version,
-///         and a path without a file (SQLite may create an empty one there) all give the built-in
-///         albums that are never dropped, empty.
+///         opened, -7 (SQLITE_NOMEM) when memory runs out. 0 does not promise that all was read, or
+///         anything: a pass that stops keeps the rows so far and the build goes on. These give 0
+///         and the built-in albums that are never dropped, empty: a file that is no photo database
+///         or is encrypted, a schema that does not fit the version, views, virtual tables or
+///         computed columns where tables should be, a path without a file in a folder that could
+///         have one, a change that SQLite would have to roll back. These give 0 and what was read
+///         until then, perhaps nothing: damage, a disk that fails, a database that somebody else
+///         keeps locked for longer than five seconds, values or work beyond all measure.
+///         ios_photo_get_list_reported() tells which it was.
 IOSPHOTO_EXPORT int ios_photo_get_list(std::string databasePath, std::string iosVersion,
                                        std::string productType, std::vector<CAlbumGroup> *albums);
+
+/// Does the same as ios_photo_get_list() and tells how far it read.
+///
+/// @param report  [out] replaced whatever the result is; may be a null pointer. The catalogue is
+///                whole when it is complete; otherwise its firstStopped() says why not.
+IOSPHOTO_EXPORT int ios_photo_get_list_reported(std::string databasePath, std::string iosVersion,
+                                                std::string productType,
+                                                std::vector<CAlbumGroup> *albums,
+                                                CReadReport *report);
 
 /// Decodes one thumbnail out of a cache (`.ithmb`) into a complete BMP image of 16-bit pixels.
 ///

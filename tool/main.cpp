@@ -8,7 +8,6 @@
 #include "output/interruption_watch.h"
 #include "output/notice.h"
 #include "output/standard_output.h"
-#include "source/sqlite_error_log.h"
 
 #include <CLI/CLI.hpp>
 
@@ -59,7 +58,6 @@ int main(int argumentCount, char **arguments)
     for (const int signal : {SIGXFSZ, SIGPIPE}) // a write that fails is an error like others
         std::signal(signal, SIG_IGN);
     try {
-        sqlite_error_log::install();
         const InterruptionWatch watch;
         const StandardOutput output;
         const int status = run(argumentCount, arguments);

@@ -1,8 +1,7 @@
 #include "model/albums_by_uuid.h"
 #include "model/asset_codes.h"
 #include "model/asset_row_decoder.h"
-#include "model/read_rows.h"
-#include "no_throw.h"
+#include "model/pass_run.h"
 #include "records/record_ownership.h"
 
 #include <algorithm>
@@ -131,12 +130,13 @@ private:
 int QDevPhotoDbMgr::GetPhotoDatas()
 {
     using namespace iosphoto;
-    return withoutThrowing([this] {
+    return runPass(*this, Pass::AlbumContents, [this](PassRun &run) {
         const DeviceProfile device(iosVersion, productType);
         AlbumContentsPass pass(albums, device);
         int memberships = 0;
-        const int rows = readRows(*this, albumContentsStatements, device,
-                                  [&](const Row &row) { memberships += pass.take(row) ? 1 : 0; });
+        const int rows = run.readRows(albumContentsStatements, device, [&](const Row &row) {
+            memberships += pass.take(row) ? 1 : 0;
+        });
         return rows < 0 ? rows : memberships;
     });
 }

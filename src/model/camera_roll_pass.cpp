@@ -4,9 +4,8 @@
 #include "model/asset_trace.h"
 #include "model/bursts.h"
 #include "model/camera_roll_columns.h"
-#include "model/read_rows.h"
+#include "model/pass_run.h"
 #include "model/smart_album_rules.h"
-#include "no_throw.h"
 #include "records/record_ownership.h"
 
 #include <QFileInfo>
@@ -99,10 +98,9 @@ private:
 int QDevPhotoDbMgr::GetCameraAlbum()
 {
     using namespace iosphoto;
-    return withoutThrowing([this] {
+    return runPass(*this, Pass::CameraRoll, [this](PassRun &run) {
         const DeviceProfile device(iosVersion, productType);
         CameraRollPass pass(albums, device);
-        return readRows(*this, cameraRollStatements, device,
-                        [&](const Row &row) { pass.take(row); });
+        return run.readRows(cameraRollStatements, device, [&](const Row &row) { pass.take(row); });
     });
 }

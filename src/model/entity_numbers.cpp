@@ -1,9 +1,6 @@
 #include "model/entity_numbers.h"
 
-#include "model/model_devicephoto_dbmgr.h"
-#include "model/statement_tables.h"
-#include "model/store/database_visit.h"
-#include "no_throw.h"
+#include "model/pass_run.h"
 
 namespace iosphoto {
 
@@ -17,21 +14,22 @@ namespace {
 
 /// Runs a lookup; of several rows the last one counts.
 template <typename TakeRow>
-int lookUp(const QDevPhotoDbMgr &manager, const Statement &statement, TakeRow takeRow)
+int lookUp(QDevPhotoDbMgr &manager, Pass::Code pass, const Statement &statement, TakeRow takeRow)
 {
-    return withoutThrowing(
-        [&] { return visitRows(manager.dataPath, QString::fromUtf8(statement.text), takeRow); });
+    return runPass(manager, pass, [&](PassRun &run) {
+        return run.readRows(QString::fromUtf8(statement.text), takeRow);
+    });
 }
 
 } // namespace
 
 } // namespace iosphoto
 
-using iosphoto::Row;
+using namespace iosphoto;
 
 int QDevPhotoDbMgr::GetPrimarykeyTabAssetInfo()
 {
-    return iosphoto::lookUp(*this, iosphoto::assetEntityStatement, [this](const Row &row) {
+    return lookUp(*this, Pass::AssetEntity, assetEntityStatement, [this](const Row &row) {
         assetSuperEntity = row.int32(0);
         assetEntity = row.int32(1);
     });
@@ -39,12 +37,12 @@ int QDevPhotoDbMgr::GetPrimarykeyTabAssetInfo()
 
 int QDevPhotoDbMgr::GetPrimarykeyTabAlbumInfo()
 {
-    return iosphoto::lookUp(*this, iosphoto::albumEntityStatement,
-                            [this](const Row &row) { albumEntity = row.int32(0); });
+    return lookUp(*this, Pass::AlbumEntity, albumEntityStatement,
+                  [this](const Row &row) { albumEntity = row.int32(0); });
 }
 
 int QDevPhotoDbMgr::GetPrimarykeyTabPhotostreamAlbumInfo()
 {
-    return iosphoto::lookUp(*this, iosphoto::photoStreamAlbumEntityStatement,
-                            [this](const Row &row) { photoStreamAlbumEntity = row.int32(0); });
+    return lookUp(*this, Pass::PhotoStreamAlbumEntity, photoStreamAlbumEntityStatement,
+                  [this](const Row &row) { photoStreamAlbumEntity = row.int32(0); });
 }

@@ -39,6 +39,7 @@ int QDevPhotoDbMgr::GetPhotoAlbumDatas()
         &QDevPhotoDbMgr::GetPhotoDatas,
     };
     return iosphoto::withoutThrowing([&] {
+        report.passes.clear();
         for (const Pass pass : readAssets)
             if (const int result = (this->*pass)(); result < 0)
                 return result;

@@ -37,8 +37,8 @@ IOSPHOTO_EXPORT int cmpProductVersion(const QString &a, const QString &b);
 /// Results: a pass returns the number of rows it read, or a negated SQLite code: that of a file
 /// that could not be opened (-14 SQLITE_CANTOPEN), or -7 (SQLITE_NOMEM) when memory ran out. A
 /// statement that does not fit the database's schema gives 0 rows, a database damaged half way the
-/// rows before the damage. Nothing is thrown, except by the constructor and the two setters for
-/// lack of memory.
+/// rows before the damage; `report` tells that from a library with so few photos. Nothing is
+/// thrown, except by the constructor and the two setters for lack of memory.
 ///
 /// Ownership: the records that `albums` points to belong to the host; the manager deletes none when
 /// it is destroyed or a pass fails. Only the end of GetPhotoAlbumDatas() deletes some: the burst
@@ -56,7 +56,8 @@ public:
     QDevPhotoDbMgr(std::string ios, std::string model);
     ~QDevPhotoDbMgr() override;
 
-    /// Sets the path of the database file, which every pass opens anew.
+    /// Sets the path of the database file, which every pass opens anew. A byte of its name that is
+    /// no UTF-8 is written as the lone surrogate U+DC00 plus its value.
     void SetDataPath(const QString &path);
     /// Replaces the iOS version (not the product type).
     void SetProductVer(const std::string &version);
@@ -111,6 +112,11 @@ public:
     QString productType;                     ///< such as "iPhone14,2"
     std::string spareText;                   ///< for the host's use
     std::vector<CAlbumGroup> albums;         ///< the catalogue under construction
+    CReadReport report;                      ///< how far each pass read when it ran last
+    /// The most rows that a pass reads; 0 for no limit. For databases that nobody vetted, whose
+    /// tables may multiply each other. A sound one has at most as many rows in a pass as assets,
+    /// albums and memberships together.
+    std::int64_t rowLimit = 0;
 };
 
 #endif // IOSPHOTO_MODEL_DEVICEPHOTO_DBMGR_H

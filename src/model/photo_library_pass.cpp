@@ -1,7 +1,6 @@
 #include "model/album_names.h"
 #include "model/asset_row_decoder.h"
-#include "model/read_rows.h"
-#include "no_throw.h"
+#include "model/pass_run.h"
 #include "records/record_ownership.h"
 
 namespace iosphoto {
@@ -33,10 +32,10 @@ constexpr std::size_t photoLibraryIndex = 1;
 int QDevPhotoDbMgr::GetPhotosAlbum()
 {
     using namespace iosphoto;
-    return withoutThrowing([this] {
+    return runPass(*this, Pass::PhotoLibrary, [this](PassRun &run) {
         const DeviceProfile device(iosVersion, productType);
         AssetRowDecoder decoder(layout, device, tr(album_names::photoLibrary));
-        return readRows(*this, photoLibraryStatements, device, [&](const Row &row) {
+        return run.readRows(photoLibraryStatements, device, [&](const Row &row) {
             std::unique_ptr<CPhotoData> photo = decoder.decode(row);
             if (!photo->fileName.isEmpty() && albums.size() > photoLibraryIndex)
                 append(albums[photoLibraryIndex], std::move(photo));

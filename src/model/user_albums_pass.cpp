@@ -1,8 +1,7 @@
 #include "model/album_names.h"
 #include "model/albums_by_uuid.h"
-#include "model/read_rows.h"
+#include "model/pass_run.h"
 #include "model/row_columns.h"
-#include "no_throw.h"
 
 #include <cstring>
 #include <utility>
@@ -59,12 +58,12 @@ CAlbumGroup readAlbum(const Row &row, IosGeneration ios, const QString &photoStr
 int QDevPhotoDbMgr::GetPhotoGroups()
 {
     using namespace iosphoto;
-    return withoutThrowing([this] {
+    return runPass(*this, Pass::UserAlbums, [this](PassRun &run) {
         const DeviceProfile device(iosVersion, productType);
         const QString photoStreamName = tr(album_names::photoStream);
         // The built-in albums have no uuid, so an album of the table without one is a duplicate.
         AlbumsByUuid known(albums);
-        return readRows(*this, userAlbumStatements, device, [&](const Row &row) {
+        return run.readRows(userAlbumStatements, device, [&](const Row &row) {
             CAlbumGroup album = readAlbum(row, device.ios, photoStreamName);
             if (!known.add(album.albumUuid, albums.size()))
                 return;

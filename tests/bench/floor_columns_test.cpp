@@ -38,6 +38,10 @@ ColumnsRead columnsReadBy(const std::function<void()> &reader)
     noted = &columns;
     reader();
     noted = nullptr;
+    // What the library asks about a table before it trusts it is work of its own.
+    for (auto statement = columns.begin(); statement != columns.end();)
+        statement = statement->first.rfind("pragma", 0) == 0 ? columns.erase(statement)
+                                                             : std::next(statement);
     return columns;
 }
 

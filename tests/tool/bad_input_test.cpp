@@ -145,7 +145,7 @@ TEST_P(ToolDamageSomewhere, IsSaidBesideWhatCouldBeRead)
     const ToolRun run = photos();
     EXPECT_THAT(run.out, HasSubstr("IMG_0001.JPG"));
     EXPECT_THAT(run.error, HasSubstr("is damaged (database disk image is malformed) and photos are "
-                                     "missing here; copy it from the device"));
+                                     "missing from albums here; copy it from the device"));
     EXPECT_EQ(run.status, 1);
 }
 

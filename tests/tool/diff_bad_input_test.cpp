@@ -60,8 +60,8 @@ TEST_P(ToolDiffWithABadSide, LibraryThatCouldNotBeReadCompletelyIsNotTrusted)
     EXPECT_EQ(run.error, "iosphoto: " + std::string(GetParam() == 0 ? "A" : "B") + ": '" +
                              damaged.path() +
                              "' is damaged (database disk image is malformed) and photos are "
-                             "missing here; copy it from the device or the backup again, its -wal "
-                             "with it\n"
+                             "missing from albums here; copy it from the device or the backup "
+                             "again, its -wal with it\n"
                              "iosphoto: what is missing may look like a difference, or hide one\n");
     EXPECT_EQ(run.status, 3);
 }

@@ -2,6 +2,7 @@
 #include "output/printable.h"
 #include "support/csv_reader.h"
 #include "support/json_schema.h"
+#include "support/multiplying_library.h"
 #include "support/run_tool.h"
 #include "support/two_snapshots.h"
 
@@ -155,3 +156,16 @@ TEST_P(HostileLibraryRows, HaveTimesInUtcInCsv)
 INSTANTIATE_TEST_SUITE_P(Commands, HostileLibrary,
                          testing::Values("photos", "albums", "info", "diff"));
 INSTANTIATE_TEST_SUITE_P(Commands, HostileLibraryRows, testing::Values("photos", "albums", "diff"));
+
+TEST(ToolHostileLibrary, RowsThatMultiplyAreBoundedByTheirCount)
+{
+    LibraryBuilder library(ios18);
+    multiplyPhoto(library, 300);
+    const ToolRun run = runTool({"photos", library.path(), "--jsonl", "--quiet"});
+    EXPECT_EQ(std::count(run.out.begin(), run.out.end(), '\n'), 1); // one photo, in many records
+    EXPECT_EQ(run.error, "iosphoto: the tables of '" + library.path() +
+                             "' make more than 2802 rows of its photos, as only damage or intent "
+                             "does, and photos are missing here; copy it from the device or the "
+                             "backup again, its -wal with it\n");
+    EXPECT_EQ(run.status, 1);
+}

@@ -1,14 +1,17 @@
 #include "catalogue/library.h"
 
+#include "catalogue/reading_stop.h"
 #include "failure.h"
 #include "language/said.h"
-#include "language/sqlite_error.h"
 #include "model/clock.h"
+#include "model/model_devicephoto_dbmgr.h"
+#include "model/store/database_path.h"
 #include "output/busy_line.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
-#include "source/sqlite_error_log.h"
 #include "source/table_damage.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <limits>
@@ -28,6 +31,25 @@ std::uint32_t clockTime(std::int64_t unixTime)
 {
     return static_cast<std::uint32_t>(
         std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
+}
+
+/// Generously: in a sound database no pass has more rows than there are assets and memberships, or
+/// albums. Where one asset or album stands several times, the statements' joins multiply them.
+std::int64_t mostRowsOfAPass(const CopyDatabase &database, const EntityNumbers &numbers)
+{
+    constexpr std::int64_t spare = 1000;
+    constexpr std::int64_t leastBytesOfARow = 8;
+    const std::string memberships = fmt::format("Z_{}ASSETS", numbers.album);
+    std::int64_t rows = 0;
+    for (const std::string &table :
+         {database.assetTable(), std::string("ZADDITIONALASSETATTRIBUTES"),
+          std::string("ZGENERICALBUM"), memberships}) {
+        const std::optional<std::int64_t> count = database.rowsOf(table);
+        if (!count) // damaged: then what the file could hold
+            return database.bytes() / leastBytesOfARow + spare;
+        rows += *count;
+    }
+    return 2 * rows + spare;
 }
 
 } // namespace
@@ -72,30 +94,24 @@ Library::~Library()
 
 void Library::read(const OpenedCopy &copy)
 {
-    sqlite_error_log::clear();
+    QDevPhotoDbMgr manager(device().iosVersion, device().productType);
+    manager.SetDataPath(pathFromBytes(copy.file()));
+    manager.rowLimit = mostRowsOfAPass(copy.connect(), schema_.numbers);
+    const ReadDatabase database = {database_, adviceToCopyAgain(), manager.rowLimit};
     const int result = [&] {
         const BusyLine busy(said("reading photos"));
-        return ios_photo_get_list(copy.file(), device().iosVersion, device().productType, &albums_);
+        return manager.GetPhotoAlbumDatas();
     }();
-    if (result != 0)
-        throw Failure(CannotAccess, said("cannot read '{0}': SQLite error {1}; {2}", database_,
-                                         -result, adviceToCopyAgain()));
-    const std::string error = damageMetBy(copy);
-    if (error.empty())
-        return;
-    if (isWithoutPhotos(albums_))
-        throw Failure(CannotAccess, said("'{0}' is damaged ({1}) and no photo could be read; {2}",
-                                         database_, error, adviceToCopyAgain()));
-    missing_.push_back(said("'{0}' is damaged ({1}) and photos are missing here; {2}", database_,
-                            error, adviceToCopyAgain()));
-}
-
-std::string Library::damageMetBy(const OpenedCopy &copy) const
-{
-    const std::string error = sqlite_error_log::firstError();
-    if (!error.empty() || !isWithoutPhotos(albums_))
-        return error;
-    return areAssetTablesDamaged(copy.connect()) ? sqliteError(SQLITE_CORRUPT) : "";
+    albums_ = std::move(manager.albums);
+    const CPassReport *const stop = manager.report.firstStopped();
+    if (result != 0 || (stop != nullptr && isWithoutPhotos(albums_))) {
+        destroyRecords(albums_);
+        throw nothingRead(stop != nullptr ? stop->code : -result, database);
+    }
+    if (stop == nullptr && isWithoutPhotos(albums_) && areAssetTablesDamaged(copy.connect()))
+        throw nothingRead(SQLITE_CORRUPT, database);
+    for (const std::string &sentence : sentencesOf(manager.report, database))
+        missing_.push_back(sentence);
 }
 
 std::string Library::assumptions() const

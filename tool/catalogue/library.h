@@ -67,8 +67,6 @@ public:
 private:
     void inspect(const OpenedCopy &copy);
     void read(const OpenedCopy &copy);
-    /// What went wrong when the copy was read; empty if nothing did.
-    std::string damageMetBy(const OpenedCopy &copy) const;
     std::string assumptions() const;
 
     LibraryRequest request_;

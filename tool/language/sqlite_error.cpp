@@ -2,7 +2,9 @@
 
 #include "language/said.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace iosphoto::tool {
 
@@ -16,8 +18,45 @@ namespace {
     translatable("database or disk is full"),
     translatable("disk I/O error"),
     translatable("file is not a database"),
+    translatable("out of memory"),
     translatable("unable to open database file"),
 };
+
+/// An error that comes from outside of the database.
+struct Trouble
+{
+    int code;
+    const char *remedy;
+};
+
+constexpr const char *lookForRoom =
+    translatable("make room where temporary files go, or set TMPDIR to a folder with room");
+constexpr const char *lookAtDisk =
+    translatable("look whether the disk with the temporary files is full or fails, or set TMPDIR "
+                 "to a folder on another one");
+constexpr const char *tryAgain =
+    translatable("close what uses it and try again, or set TMPDIR to a folder on a local disk");
+
+constexpr Trouble troubles[] = {
+    {SQLITE_FULL, lookForRoom},
+    {SQLITE_IOERR, lookAtDisk},
+    {SQLITE_CANTOPEN, lookAtDisk},
+    {SQLITE_READONLY, lookAtDisk},
+    {SQLITE_PERM, lookAtDisk},
+    {SQLITE_BUSY, tryAgain},
+    {SQLITE_LOCKED, tryAgain},
+    {SQLITE_PROTOCOL, tryAgain},
+    {SQLITE_NOMEM, translatable("close other programs and try again")},
+};
+
+const Trouble *troubleOf(int code)
+{
+    constexpr int primaryCode = 0xff;
+    const auto *const found =
+        std::find_if(std::begin(troubles), std::end(troubles),
+                     [&](const Trouble &trouble) { return trouble.code == (code & primaryCode); });
+    return found != std::end(troubles) ? found : nullptr;
+}
 
 } // namespace
 
@@ -29,6 +68,17 @@ std::string sqliteError(int code)
 std::string sqliteError(sqlite3 *connection)
 {
     return translated(sqlite3_errmsg(connection));
+}
+
+bool isOfDatabase(int code)
+{
+    return troubleOf(code) == nullptr;
+}
+
+std::string remedyFor(int code, const std::string &copyAgain)
+{
+    const Trouble *const trouble = troubleOf(code);
+    return trouble != nullptr ? translated(trouble->remedy) : copyAgain;
 }
 
 } // namespace iosphoto::tool

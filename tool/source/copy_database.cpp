@@ -2,8 +2,11 @@
 
 #include "language/said.h"
 #include "language/sqlite_error.h"
+#include "model/store/untrusted_database.h"
 
 #include <fmt/format.h>
+
+#include <filesystem>
 
 namespace iosphoto::tool {
 
@@ -27,20 +30,6 @@ constexpr char suspectTables[] =
     "and (type <> 'table' or ifnull(sql, '') not like 'create table%' or exists "
     "(select 1 from pragma_table_xinfo(sqlite_master.name, '{schema}') where hidden <> 0))";
 
-void harden(sqlite3 *connection)
-{
-    constexpr int longestValue = 64 * 1024 * 1024;
-    sqlite3_limit(connection, SQLITE_LIMIT_LENGTH, longestValue);
-    const auto set = [&](int option, int value) {
-        sqlite3_db_config(connection, option, value, nullptr);
-    };
-    set(SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1);
-    set(SQLITE_DBCONFIG_DEFENSIVE, 1);
-    set(SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0);
-    set(SQLITE_DBCONFIG_ENABLE_TRIGGER, 0);
-    set(SQLITE_DBCONFIG_ENABLE_VIEW, 0);
-}
-
 } // namespace
 
 bool QueryRow::isNull(int column) const
@@ -63,9 +52,9 @@ CopyDatabase::CopyDatabase(const std::string &file, std::string shownName, std::
         sqlite3_open_v2(uriOf(file).c_str(), &connection,
                         SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
     connection_.reset(connection);
-    if (opened != SQLITE_OK)
+    if (opened != SQLITE_OK || distrust(connection) != SQLITE_OK)
         throw unreadable();
-    harden(connection);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
 bool CopyDatabase::isDatabase() const
@@ -127,6 +116,29 @@ void CopyDatabase::forEachRow(const std::string &query,
         throw unreadable();
 }
 
+std::optional<std::int64_t> CopyDatabase::rowsOf(const std::string &table) const
+{
+    std::optional<std::int64_t> rows;
+    try {
+        forEachRow("select count(*) from \"" + table + '"',
+                   [&](const QueryRow &row) { rows = row.int64(0); });
+    } catch (const Failure &) {
+        return std::nullopt;
+    }
+    return rows;
+}
+
+std::int64_t CopyDatabase::bytes() const
+{
+    std::int64_t bytes = 0;
+    for (const char *part : {"", "-wal"}) {
+        std::error_code error;
+        const auto size = std::filesystem::file_size(file_ + part, error);
+        bytes += error ? 0 : static_cast<std::int64_t>(size);
+    }
+    return bytes;
+}
+
 bool CopyDatabase::attachWithoutLog(const std::string &name) const
 {
     const auto statement = prepare("attach ?1 as " + name);
@@ -158,8 +170,9 @@ CopyDatabase::prepare(const std::string &text) const
 
 Failure CopyDatabase::unreadable() const
 {
-    return {CannotAccess, said("cannot read '{0}': {1}; {2}", shownName_,
-                               sqliteError(connection_.get()), advice_)};
+    return {CannotAccess,
+            said("cannot read '{0}': {1}; {2}", shownName_, sqliteError(connection_.get()),
+                 remedyFor(sqlite3_errcode(connection_.get()), advice_))};
 }
 
 } // namespace iosphoto::tool

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,7 +38,7 @@ public:
     /// Throws Failure when the file cannot be opened. The first reading may roll back a journal;
     /// the log is never moved into the database.
     /// @param shownName  the database as the user knows it, for messages
-    /// @param advice     what to do when it cannot be read
+    /// @param advice     what to do when it is damaged
     CopyDatabase(const std::string &file, std::string shownName, std::string advice);
 
     /// Whether the file is a database, and not encrypted. Throws Failure when it cannot be read.
@@ -59,6 +60,11 @@ public:
     /// @param values  for the places of the query
     void forEachRow(const std::string &query, const std::function<void(const QueryRow &)> &take,
                     const std::vector<std::string> &values = {}) const;
+
+    /// How many rows a table has; nothing when they cannot be counted.
+    std::optional<std::int64_t> rowsOf(const std::string &table) const;
+    /// Of the file and its log.
+    std::int64_t bytes() const;
 
     /// Lets queries see the database as it is without its log, as the schema `name`. Returns
     /// whether that could be done.

@@ -30,7 +30,7 @@ private:
     PrivateFolder folder_;
 };
 
-/// What to do when a database cannot be read.
+/// What to do when a database is damaged.
 std::string adviceToCopyAgain();
 
 } // namespace iosphoto::tool

@@ -1,16 +1,57 @@
 #include "model/store/database_visit.h"
 
 #include "model/store/database_lock.h"
+#include "model/store/database_path.h"
 #include "model/store/source_protection.h"
+#include "model/store/untrusted_database.h"
 #include "no_throw.h"
 
 #include <sqlite3.h>
 
+#include <filesystem>
+#include <utility>
+
 namespace iosphoto {
 
 static_assert(outOfMemory == -SQLITE_NOMEM);
+static_assert(lockedBySomebody == SQLITE_BUSY);
 
 QMutex g_Lock;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Whether there is no such file where SQLite's plain open would make an empty one.
+bool isFree(const QByteArray &name)
+{
+    if (name.isEmpty())
+        return true;
+    const fs::path path(name.constData());
+    std::error_code ignored;
+    if (fs::status(path, ignored).type() != fs::file_type::not_found)
+        return false;
+    sqlite3_vfs *const system = sqlite3_vfs_find(nullptr);
+    int isWritable = 0;
+    return system != nullptr &&
+           system->xAccess(system, path.parent_path().c_str(), SQLITE_ACCESS_READWRITE,
+                           &isWritable) == SQLITE_OK &&
+           isWritable != 0;
+}
+
+/// Waits a moment for a lock of somebody else's. SQLite's own waiting looks ten times a second and
+/// may meet one small commit of his after the other.
+/// @param waited  how long so far, in milliseconds
+/// @return 0 when that is enough
+int wait(void *waited, int /*times*/)
+{
+    constexpr int fiveSeconds = 5000;
+    int &milliseconds = *static_cast<int *>(waited);
+    milliseconds += sqlite3_sleep(1);
+    return milliseconds < fiveSeconds ? 1 : 0;
+}
+
+} // namespace
 
 void DatabaseVisit::Close::operator()(sqlite3 *connection) const
 {
@@ -25,25 +66,110 @@ DatabaseVisit::Prepared::~Prepared()
     sqlite3_finalize(statement);
 }
 
-DatabaseVisit::DatabaseVisit(const QString &path, const QString &statement) : lock_(&g_Lock)
+DatabaseVisit::DatabaseVisit(const QString &path, const QString &statement, Patience patience)
+    : lock_(&g_Lock)
 {
-    sqlite3 *connection = nullptr;
-    const int opened = sqlite3_open(path.toUtf8().constData(), &connection);
-    connection_.reset(connection); // a failed open leaves a handle to close as well
-    if (opened != SQLITE_OK) {
-        failure_ = -opened;
-        return;
-    }
-    prepared_.emplace();
-    if (protectSource(connection))
-        sqlite3_prepare_v2(connection, statement.toUtf8().constData(), -1, &prepared_->statement,
-                           nullptr);
+    isReadable_ = open(path) && makeSafe(patience) && prepare(statement);
 }
 
 bool DatabaseVisit::nextRow()
 {
-    return prepared_ && prepared_->statement != nullptr &&
-           sqlite3_step(prepared_->statement) == SQLITE_ROW;
+    if (!isReadable_)
+        return false;
+    const int result = sqlite3_step(prepared_->statement);
+    if (result != SQLITE_DONE)
+        return result == SQLITE_ROW || check(result);
+    return false;
+}
+
+void DatabaseVisit::abandon()
+{
+    isReadable_ = false;
+    stopFor(SQLITE_ABORT, SQLITE_ABORT, "there are more rows than the limit that was set");
+}
+
+int DatabaseVisit::failure() const
+{
+    return hasFailedToOpen_ || stop_.code == SQLITE_NOMEM ? -stop_.code : 0;
+}
+
+bool DatabaseVisit::open(const QString &path)
+{
+    const QByteArray name = nameForSqlite(path);
+    if (isFree(name))
+        return stopFor(SQLITE_CANTOPEN, SQLITE_CANTOPEN, "there is no such file");
+    sqlite3 *connection = nullptr;
+    const int result =
+        sqlite3_open_v2(name.constData(), &connection, SQLITE_OPEN_READWRITE, nullptr);
+    connection_.reset(connection); // a failed open leaves a handle to close as well
+    hasFailedToOpen_ = result != SQLITE_OK;
+    return check(result);
+}
+
+bool DatabaseVisit::makeSafe(Patience patience)
+{
+    if (patience == Patience::Usual)
+        sqlite3_busy_handler(connection_.get(), wait, &waited_);
+    if (!check(distrust(connection_.get())))
+        return false;
+    readingOnly_.apply(connection_.get());
+    workLimit_.apply(connection_.get());
+    const ReadingRisk risk = protectSource(connection_.get());
+    if (risk == ReadingRisk::RollsBack)
+        return stopFor(SQLITE_READONLY, SQLITE_READONLY_ROLLBACK,
+                       "reading would roll back the -journal of a writer that died");
+    if (risk == ReadingRisk::DeletesCompanion)
+        return stopFor(SQLITE_READONLY, SQLITE_READONLY_RECOVERY,
+                       "reading would delete the -wal or -journal beside an empty database");
+    return true;
+}
+
+bool DatabaseVisit::prepare(const QString &statement)
+{
+    const QByteArray text = statement.toUtf8();
+    prepared_.emplace();
+    const bool isPrepared = check(sqlite3_prepare_v2(connection_.get(), text.constData(), -1,
+                                                     &prepared_->statement, nullptr));
+    if (readingOnly_.isOutOfMemory())
+        return check(SQLITE_NOMEM);
+    if (!isPrepared)
+        return stop_.code == SQLITE_ERROR ? refuseImpostor(text) : false;
+    std::string computed;
+    if (!check(readingOnly_.findComputed(computed)))
+        return false;
+    return computed.empty() ||
+           stopFor(SQLITE_AUTH, SQLITE_AUTH, computed + " computes a column when it is read");
+}
+
+/// Where a statement does not prepare because of what stands in the place of a table, SQLite may
+/// speak of something inside of that.
+bool DatabaseVisit::refuseImpostor(const QByteArray &statement)
+{
+    std::string impostor;
+    if (!check(readingOnly_.findImpostor(statement.constData(), impostor)) || impostor.empty())
+        return false;
+    return stopFor(SQLITE_AUTH, SQLITE_AUTH, impostor + " is no table");
+}
+
+/// Notes a result that is no success.
+bool DatabaseVisit::check(int result)
+{
+    constexpr int primaryCode = 0xff;
+    if (result == SQLITE_OK)
+        return true;
+    const int primary = result & primaryCode;
+    if (primary == SQLITE_INTERRUPT && workLimit_.isExceeded())
+        return stopFor(primary, result, workLimit_.reason());
+    const bool isOfConnection =
+        connection_ != nullptr && sqlite3_errcode(connection_.get()) == primary;
+    return stopFor(primary, isOfConnection ? sqlite3_extended_errcode(connection_.get()) : result,
+                   isOfConnection ? sqlite3_errmsg(connection_.get()) : sqlite3_errstr(result));
+}
+
+bool DatabaseVisit::stopFor(int code, int extendedCode, std::string text)
+{
+    stop_ = {code, extendedCode, std::move(text)};
+    return false;
 }
 
 } // namespace iosphoto

@@ -1,7 +1,10 @@
 #ifndef IOSPHOTO_DATABASE_VISIT_H
 #define IOSPHOTO_DATABASE_VISIT_H
 
+#include "ios_photo_report.h"
+#include "model/store/reading_only.h"
 #include "model/store/row.h"
+#include "model/store/work_limit.h"
 
 #include <QMutexLocker>
 #include <QString>
@@ -14,22 +17,46 @@ struct sqlite3_stmt;
 
 namespace iosphoto {
 
+/// How long to wait for somebody else's lock.
+enum class Patience {
+    None,
+    Usual, ///< five seconds
+};
+
+/// The code of a stop because the wait was too short.
+constexpr int lockedBySomebody = 5;
+
+/// Why a visit had no more rows: as CPassReport has it; a code of 0 at the end of the rows.
+struct Stop
+{
+    int code = 0;
+    int extendedCode = 0;
+    std::string text;
+};
+
 /// One visit to a database: takes the lock, opens the file and prepares one statement; on leaving
 /// resets, finalizes and closes, then gives the lock back, on every path.
 ///
-/// A statement that does not prepare has no rows. So has a database that could not be read without
-/// changing a file.
+/// What the database holds is not trusted, and nothing but reading is possible. A statement that
+/// does not prepare has no rows. So has a database that could not be read without changing a file,
+/// one whose tables are something else, and a path without a file.
 class DatabaseVisit
 {
 public:
-    DatabaseVisit(const QString &path, const QString &statement);
-
-    /// 0, or the negated SQLite code of the open that failed.
-    int failure() const { return failure_; }
+    DatabaseVisit(const QString &path, const QString &statement, Patience patience);
 
     /// Moves to the next row; false at the end and on any error.
     bool nextRow();
     Row row() const { return Row(prepared_->statement); }
+
+    /// Reads no further, although there are rows.
+    void abandon();
+
+    /// Once there is no next row, why.
+    const Stop &stop() const { return stop_; }
+    /// The negated code of the stop where that is a failure of the visit, an open that failed or
+    /// lack of memory; otherwise 0.
+    int failure() const;
 
 private:
     struct Close
@@ -47,26 +74,24 @@ private:
         sqlite3_stmt *statement = nullptr;
     };
 
+    bool open(const QString &path);
+    bool makeSafe(Patience patience);
+    bool prepare(const QString &statement);
+    bool refuseImpostor(const QByteArray &statement);
+    bool check(int result);
+    bool stopFor(int code, int extendedCode, std::string text);
+
     // Destroyed from the last to the first.
     QMutexLocker lock_;
+    ReadingOnly readingOnly_;
+    WorkLimit workLimit_;
+    int waited_ = 0; ///< for locks, in milliseconds
     std::unique_ptr<sqlite3, Close> connection_;
     std::optional<Prepared> prepared_;
-    int failure_ = 0;
+    bool isReadable_ = false;
+    bool hasFailedToOpen_ = false;
+    Stop stop_;
 };
-
-/// Visits the database at `path` and hands each row of `statement` to `takeRow`.
-/// @return the number of rows, or the negated SQLite code of an open that failed.
-template <typename TakeRow>
-int visitRows(const QString &path, const QString &statement, TakeRow takeRow)
-{
-    DatabaseVisit visit(path, statement);
-    if (visit.failure() != 0)
-        return visit.failure();
-    int rows = 0;
-    for (; visit.nextRow(); ++rows)
-        takeRow(visit.row());
-    return rows;
-}
 
 } // namespace iosphoto
 

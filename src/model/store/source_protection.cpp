@@ -2,30 +2,46 @@
 
 #include <sqlite3.h>
 
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
+#include <memory>
 
 namespace iosphoto {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 bool exists(const char *file)
 {
     std::error_code ignored;
-    return std::filesystem::exists(file, ignored);
+    return fs::exists(file, ignored);
 }
 
 bool isEmpty(const char *file)
 {
     std::error_code error;
-    return std::filesystem::file_size(file, error) == 0 && !error;
+    return fs::file_size(file, error) == 0 && !error;
 }
 
-/// Whether a journal holds something: one that is done with starts with a zero byte or is empty.
+struct CloseFile
+{
+    void operator()(std::FILE *file) const { std::fclose(file); }
+};
+
+/// Whether a journal holds something: one that is done with starts with a zero byte or is empty. Of
+/// one that cannot be read SQLite would believe it, too.
 bool holdsAChange(const char *journal)
 {
-    const int firstByte = std::ifstream(journal, std::ios::binary).get();
-    return firstByte != std::ifstream::traits_type::eof() && firstByte != 0;
+    std::error_code error;
+    const fs::file_type type = fs::status(journal, error).type();
+    if (type != fs::file_type::regular) // opening a pipe could wait for ever
+        return type != fs::file_type::not_found;
+    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(journal, "rb"));
+    if (file == nullptr)
+        return exists(journal);
+    const int firstByte = std::fgetc(file.get());
+    return firstByte != EOF ? firstByte != 0 : std::ferror(file.get()) != 0;
 }
 
 /// Whether somebody is at work on the database, who will see to the journal himself.
@@ -38,25 +54,40 @@ bool isBeingWritten(sqlite3 *connection)
            file->pMethods->xCheckReservedLock(file, &isReserved) == SQLITE_OK && isReserved != 0;
 }
 
+/// Whether what SQLite would act on was left by a writer that died. A writer who is just done may
+/// have had it when that was looked at and no lock any more when this was, so it is looked at
+/// again.
+bool isLeftBehind(sqlite3 *connection, const char *journal, bool (*isActedOn)(const char *))
+{
+    constexpr int looks = 5;
+    constexpr int milliseconds = 1;
+    for (int look = 0; look < looks; ++look) {
+        if (!isActedOn(journal) || isBeingWritten(connection))
+            return false;
+        sqlite3_sleep(milliseconds);
+    }
+    return true;
+}
+
 } // namespace
 
-bool protectSource(sqlite3 *connection)
+ReadingRisk protectSource(sqlite3 *connection)
 {
     // SQLite is asked for the names because a link's log lies beside its target.
     const char *const database = sqlite3_db_filename(connection, "main");
     if (database == nullptr || *database == '\0')
-        return true;
+        return ReadingRisk::None;
+    const char *const journal = sqlite3_filename_journal(database);
     const bool hasLog = exists(sqlite3_filename_wal(database));
     // Without a log the setting would leave an empty one behind.
     if (hasLog)
         sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    const bool isWithoutPages = isEmpty(database);
-    if (isWithoutPages && hasLog) // SQLite would delete the log as left over
-        return false;
-    // Left by a writer that died, a journal would be rolled back, or deleted beside an empty file.
-    const char *const journal = sqlite3_filename_journal(database);
-    const bool wouldBeTouched = isWithoutPages ? exists(journal) : holdsAChange(journal);
-    return !wouldBeTouched || isBeingWritten(connection);
+    if (isEmpty(database)) {
+        const bool isLeftOver = hasLog || isLeftBehind(connection, journal, exists);
+        return isLeftOver ? ReadingRisk::DeletesCompanion : ReadingRisk::None;
+    }
+    return isLeftBehind(connection, journal, holdsAChange) ? ReadingRisk::RollsBack
+                                                           : ReadingRisk::None;
 }
 
 } // namespace iosphoto

@@ -5,10 +5,17 @@ struct sqlite3;
 
 namespace iosphoto {
 
-/// Sees to it that a fresh connection changes neither its database nor the write-ahead log beside
-/// it. A plain close would move the log into the database and delete it.
-/// @return false when reading alone would change a file, so that nothing may be read.
-bool protectSource(sqlite3 *connection);
+/// What would become of the files of a database if it were read.
+enum class ReadingRisk {
+    None,
+    RollsBack,        ///< the journal of a writer that died would be rolled back
+    DeletesCompanion, ///< the log or journal beside an empty database would be deleted
+};
+
+/// Makes sure that reading through this connection, and closing it, changes no byte of the
+/// database, its log or its journal. To be called before the first reading; where there is a risk
+/// nothing may be read.
+ReadingRisk protectSource(sqlite3 *connection);
 
 } // namespace iosphoto
 

@@ -1,0 +1,68 @@
+#include "catalogue/reading_stop.h"
+
+#include "language/said.h"
+#include "language/sqlite_error.h"
+
+#include <set>
+
+namespace iosphoto::tool {
+
+namespace {
+
+/// Without what a pass would have read there are fewer photos, or only albums with fewer of them.
+std::string missingWithout(std::int32_t pass)
+{
+    if (pass == Pass::UserAlbums)
+        return said("albums are missing here");
+    return pass == Pass::AlbumContents ? said("photos are missing from albums here")
+                                       : said("photos are missing here");
+}
+
+std::string sentenceOf(const CPassReport &stop, const ReadDatabase &database)
+{
+    const std::string &name = database.name;
+    const std::string missing = missingWithout(stop.pass);
+    const std::string remedy = remedyFor(stop.code, database.adviceIfDamaged);
+    if (stop.code == SQLITE_ABORT)
+        return said("the tables of '{0}' make more than {1} rows of its photos, as only damage or "
+                    "intent does, and {2}; {3}",
+                    name, database.rowLimit, missing, remedy);
+    if (stop.code == SQLITE_INTERRUPT)
+        return said("'{0}' asks for more work than any photo library of its size, as only damage "
+                    "or intent does, and {1}; {2}",
+                    name, missing, remedy);
+    const std::string why = sqliteError(stop.code);
+    if (isOfDatabase(stop.code))
+        return said("'{0}' is damaged ({1}) and {2}; {3}", name, why, missing, remedy);
+    return said("'{0}' could not be read to its end ({1}) and {2}; {3}", name, why, missing,
+                remedy);
+}
+
+} // namespace
+
+std::vector<std::string> sentencesOf(const CReadReport &report, const ReadDatabase &database)
+{
+    std::vector<std::string> sentences;
+    std::set<std::int32_t> saidCodes;
+    for (const CPassReport &pass : report.passes)
+        if (pass.code != 0 && saidCodes.insert(pass.code).second)
+            sentences.push_back(sentenceOf(pass, database));
+    return sentences;
+}
+
+Failure nothingRead(int code, const ReadDatabase &database)
+{
+    const std::string remedy = remedyFor(code, database.adviceIfDamaged);
+    if (code == SQLITE_INTERRUPT)
+        return {CannotAccess,
+                said("'{0}' asks for more work than any photo library of its size, as only damage "
+                     "or intent does, and no photo could be read; {1}",
+                     database.name, remedy)};
+    const std::string why = sqliteError(code);
+    if (isOfDatabase(code))
+        return {CannotAccess, said("'{0}' is damaged ({1}) and no photo could be read; {2}",
+                                   database.name, why, remedy)};
+    return {CannotAccess, said("cannot read '{0}': {1}; {2}", database.name, why, remedy)};
+}
+
+} // namespace iosphoto::tool
