@@ -38,8 +38,8 @@ constexpr Case cases[] = {
     // name             group          subject                     assets, albums, photos, bursts, frames, log    goals
     {"real15",          Group::None,   Subject::RealLibrary,      {},                                            {1.05}},
     {"10k",             Group::Sizes,  Subject::GeneratedLibrary, {10000,   20,    50},                          {1.22}},
-    {"100k",            Group::Sizes,  Subject::GeneratedLibrary, {100000,  20,    50},                          {1.15, 400, 450}},
-    {"1m",              Group::Sizes,  Subject::GeneratedLibrary, {1000000, 20,    50},                          {1.15, 390, 400, 2.0}},
+    {"100k",            Group::Sizes,  Subject::GeneratedLibrary, {100000,  20,    50},                          {1.15, 400, 520}},
+    {"1m",              Group::Sizes,  Subject::GeneratedLibrary, {1000000, 20,    50},                          {1.15, 390, 500, 2.0}},
     {"wal-100k",        Group::None,   Subject::GeneratedLibrary, {100000,  20,    50,    0,     0,  true},      {1.18}},
     {"bursts-0",        Group::Bursts, Subject::GeneratedLibrary, {120000,  20,    50},                          {1.18}},
     {"bursts-2000x10",  Group::Bursts, Subject::GeneratedLibrary, {120000,  20,    50,    2000,  10},            {1.18}},

@@ -134,9 +134,10 @@ int QDevPhotoDbMgr::GetPhotoDatas()
         const DeviceProfile device(iosVersion, productType);
         AlbumContentsPass pass(albums, device);
         int memberships = 0;
-        const int rows = run.readRows(albumContentsStatements, device, [&](const Row &row) {
-            memberships += pass.take(row) ? 1 : 0;
-        });
+        const Query query = {run.statementFor(device, albumContentsStatements),
+                             run.statementFor(device, assetsOfAlbumsView)};
+        const int rows =
+            run.readRows(query, [&](const Row &row) { memberships += pass.take(row) ? 1 : 0; });
         return rows < 0 ? rows : memberships;
     });
 }

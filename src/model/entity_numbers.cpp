@@ -17,7 +17,7 @@ template <typename TakeRow>
 int lookUp(QDevPhotoDbMgr &manager, Pass::Code pass, const Statement &statement, TakeRow takeRow)
 {
     return runPass(manager, pass, [&](PassRun &run) {
-        return run.readRows(QString::fromUtf8(statement.text), takeRow);
+        return run.readRows({QString::fromUtf8(statement.text), {}}, takeRow);
     });
 }
 

@@ -15,12 +15,12 @@ public:
     /// Begins the pass's entry of the report anew.
     PassRun(QDevPhotoDbMgr &manager, Pass::Code pass);
 
-    /// Runs a statement and hands each row to `takeRow`.
+    /// Runs a query and hands each row to `takeRow`.
     /// @return the number of rows, or the negated code of an open that failed or of lack of memory.
     template <typename TakeRow>
-    int readRows(const QString &statement, TakeRow takeRow)
+    int readRows(const Query &query, TakeRow takeRow)
     {
-        DatabaseVisit visit(manager_.dataPath, statement, patience());
+        DatabaseVisit visit(manager_.dataPath, query, patience());
         int rows = 0;
         while (visit.nextRow()) {
             if (isEnough(rows)) {
@@ -34,11 +34,17 @@ public:
         return visit.failure() != 0 ? visit.failure() : rows;
     }
 
-    /// The same with the statement of a pass that `device` needs.
+    /// The variant that `device` needs, filled in for the database.
+    QString statementFor(const DeviceProfile &device, const StatementTable &statements) const
+    {
+        return filledIn(choose(statements, device), entityNumbers(manager_));
+    }
+
+    /// Runs the statement of a pass that `device` needs.
     template <typename TakeRow>
     int readRows(const StatementTable &statements, const DeviceProfile &device, TakeRow takeRow)
     {
-        return readRows(filledIn(choose(statements, device), entityNumbers(manager_)), takeRow);
+        return readRows({statementFor(device, statements), {}}, takeRow);
     }
 
 private:

@@ -67,6 +67,11 @@ constexpr StatementVariant albumContents[] = {
     {Ios::Ios7,   any,      sql::album_contents_7,          contentsByParent},
     {Ios::Oldest, any,      sql::album_contents_6,          contentsByParent},
 };
+
+constexpr StatementVariant assetsInAlbums[] = {
+    {Ios::Ios14,  any,      sql::assets_of_albums,          {{asset, album}}},
+    {Ios::Oldest, any,      sql::assets_of_albums,          {{parent, album}}},
+};
 // clang-format on
 
 bool fits(const StatementVariant &variant, const DeviceProfile &device)
@@ -80,6 +85,7 @@ const StatementTable cameraRollStatements = {cameraRoll, std::size(cameraRoll)};
 const StatementTable photoLibraryStatements = {photoLibrary, std::size(photoLibrary)};
 const StatementTable userAlbumStatements = {userAlbums, std::size(userAlbums)};
 const StatementTable albumContentsStatements = {albumContents, std::size(albumContents)};
+const StatementTable assetsOfAlbumsView = {assetsInAlbums, std::size(assetsInAlbums)};
 
 const Statement assetEntityStatement = sql::entity_asset;
 const Statement albumEntityStatement = sql::entity_album;

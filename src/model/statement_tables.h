@@ -47,6 +47,11 @@ extern const StatementTable photoLibraryStatements;
 extern const StatementTable userAlbumStatements;
 extern const StatementTable albumContentsStatements;
 
+/// A view of the connection's own, under the name of a table, that leaves out the assets of no
+/// album. The statements for the contents of albums find the same with it as without, but without
+/// it SQLite copies the rows of all assets into memory first.
+extern const StatementTable assetsOfAlbumsView;
+
 /// The statements that look the entity numbers up; they are the same for every device.
 extern const Statement assetEntityStatement;
 extern const Statement albumEntityStatement;

@@ -106,7 +106,7 @@ void Library::read(const OpenedCopy &copy)
     const CPassReport *const stop = manager.report.firstStopped();
     if (result != 0 || (stop != nullptr && isWithoutPhotos(albums_))) {
         destroyRecords(albums_);
-        throw nothingRead(stop != nullptr ? stop->code : -result, database);
+        throw nothingRead(stop != nullptr ? stop->extendedCode : -result, database);
     }
     if (stop == nullptr && isWithoutPhotos(albums_) && areAssetTablesDamaged(copy.connect()))
         throw nothingRead(SQLITE_CORRUPT, database);

@@ -22,7 +22,7 @@ std::string sentenceOf(const CPassReport &stop, const ReadDatabase &database)
 {
     const std::string &name = database.name;
     const std::string missing = missingWithout(stop.pass);
-    const std::string remedy = remedyFor(stop.code, database.adviceIfDamaged);
+    const std::string remedy = remedyFor(stop.extendedCode, database.adviceIfDamaged);
     if (stop.code == SQLITE_ABORT)
         return said("the tables of '{0}' make more than {1} rows of its photos, as only damage or "
                     "intent does, and {2}; {3}",
@@ -31,7 +31,7 @@ std::string sentenceOf(const CPassReport &stop, const ReadDatabase &database)
         return said("'{0}' asks for more work than any photo library of its size, as only damage "
                     "or intent does, and {1}; {2}",
                     name, missing, remedy);
-    const std::string why = sqliteError(stop.code);
+    const std::string why = sqliteError(stop.extendedCode);
     if (isOfDatabase(stop.code))
         return said("'{0}' is damaged ({1}) and {2}; {3}", name, why, missing, remedy);
     return said("'{0}' could not be read to its end ({1}) and {2}; {3}", name, why, missing,

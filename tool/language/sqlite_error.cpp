@@ -22,6 +22,12 @@ namespace {
     translatable("unable to open database file"),
 };
 
+/// The same error where SQLite has a vaguer word for it.
+int plainCode(int code)
+{
+    return code == SQLITE_IOERR_SHMSIZE ? SQLITE_FULL : code; // no room for the -shm
+}
+
 /// An error that comes from outside of the database.
 struct Trouble
 {
@@ -52,9 +58,10 @@ constexpr Trouble troubles[] = {
 const Trouble *troubleOf(int code)
 {
     constexpr int primaryCode = 0xff;
+    const int primary = plainCode(code) & primaryCode;
     const auto *const found =
         std::find_if(std::begin(troubles), std::end(troubles),
-                     [&](const Trouble &trouble) { return trouble.code == (code & primaryCode); });
+                     [&](const Trouble &trouble) { return trouble.code == primary; });
     return found != std::end(troubles) ? found : nullptr;
 }
 
@@ -62,12 +69,13 @@ const Trouble *troubleOf(int code)
 
 std::string sqliteError(int code)
 {
-    return translated(sqlite3_errstr(code));
+    return translated(sqlite3_errstr(plainCode(code)));
 }
 
 std::string sqliteError(sqlite3 *connection)
 {
-    return translated(sqlite3_errmsg(connection));
+    const int code = sqlite3_extended_errcode(connection);
+    return plainCode(code) != code ? sqliteError(code) : translated(sqlite3_errmsg(connection));
 }
 
 bool isOfDatabase(int code)

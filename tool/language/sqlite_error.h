@@ -7,7 +7,7 @@
 
 namespace iosphoto::tool {
 
-/// What a result code of SQLite means.
+/// What a result code of SQLite means, an extended one best.
 std::string sqliteError(int code);
 
 /// What went wrong last on a connection.

@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "language/said.h"
 #include "language/system_error.h"
+#include "source/new_file.h"
 #include "source/source_file.h"
 #include "source/stat_times.h"
 
@@ -34,6 +35,8 @@ void copyFile(const Copy &file)
         throw cannotRead(file.from, error ? systemError(error.value())
                                           : said("it is not a file; name a file"));
     requireReadable(file.from);
+    if (const auto size = fs::file_size(file.from, error); !error)
+        requireRoom(file.to, size); // copying does not tell a full disk from a failing one
     fs::copy_file(file.from, file.to, error);
     if (!error)
         fs::permissions(file.to, fs::perms::owner_read | fs::perms::owner_write, error);

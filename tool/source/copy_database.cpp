@@ -172,7 +172,7 @@ Failure CopyDatabase::unreadable() const
 {
     return {CannotAccess,
             said("cannot read '{0}': {1}; {2}", shownName_, sqliteError(connection_.get()),
-                 remedyFor(sqlite3_errcode(connection_.get()), advice_))};
+                 remedyFor(sqlite3_extended_errcode(connection_.get()), advice_))};
 }
 
 } // namespace iosphoto::tool

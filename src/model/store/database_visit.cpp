@@ -66,10 +66,11 @@ DatabaseVisit::Prepared::~Prepared()
     sqlite3_finalize(statement);
 }
 
-DatabaseVisit::DatabaseVisit(const QString &path, const QString &statement, Patience patience)
+DatabaseVisit::DatabaseVisit(const QString &path, const Query &query, Patience patience)
     : lock_(&g_Lock)
 {
-    isReadable_ = open(path) && makeSafe(patience) && prepare(statement);
+    isReadable_ =
+        open(path) && makeSafe(patience) && createView(query.view) && prepare(query.statement);
 }
 
 bool DatabaseVisit::nextRow()
@@ -112,7 +113,6 @@ bool DatabaseVisit::makeSafe(Patience patience)
         sqlite3_busy_handler(connection_.get(), wait, &waited_);
     if (!check(distrust(connection_.get())))
         return false;
-    readingOnly_.apply(connection_.get());
     workLimit_.apply(connection_.get());
     const ReadingRisk risk = protectSource(connection_.get());
     if (risk == ReadingRisk::RollsBack)
@@ -124,8 +124,18 @@ bool DatabaseVisit::makeSafe(Patience patience)
     return true;
 }
 
+bool DatabaseVisit::createView(const QString &view)
+{
+    constexpr int allowsItsOwnViews = 3035000; // where those of the database are off
+    if (view.isEmpty() || sqlite3_libversion_number() < allowsItsOwnViews)
+        return true;
+    return check(
+        sqlite3_exec(connection_.get(), view.toUtf8().constData(), nullptr, nullptr, nullptr));
+}
+
 bool DatabaseVisit::prepare(const QString &statement)
 {
+    readingOnly_.apply(connection_.get());
     const QByteArray text = statement.toUtf8();
     prepared_.emplace();
     const bool isPrepared = check(sqlite3_prepare_v2(connection_.get(), text.constData(), -1,

@@ -34,6 +34,13 @@ struct Stop
     std::string text;
 };
 
+/// What a visit runs.
+struct Query
+{
+    QString statement;
+    QString view; ///< a temporary view for the statement to read; empty for none
+};
+
 /// One visit to a database: takes the lock, opens the file and prepares one statement; on leaving
 /// resets, finalizes and closes, then gives the lock back, on every path.
 ///
@@ -43,7 +50,7 @@ struct Stop
 class DatabaseVisit
 {
 public:
-    DatabaseVisit(const QString &path, const QString &statement, Patience patience);
+    DatabaseVisit(const QString &path, const Query &query, Patience patience);
 
     /// Moves to the next row; false at the end and on any error.
     bool nextRow();
@@ -76,6 +83,7 @@ private:
 
     bool open(const QString &path);
     bool makeSafe(Patience patience);
+    bool createView(const QString &view);
     bool prepare(const QString &statement);
     bool refuseImpostor(const QByteArray &statement);
     bool check(int result);

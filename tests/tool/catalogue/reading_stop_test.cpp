@@ -20,7 +20,8 @@ CReadReport stoppedIn(Pass::Code pass, int code)
     report.passes.resize(2);
     report.passes[0].pass = Pass::AssetEntity;
     report.passes[1].pass = pass;
-    report.passes[1].code = code;
+    report.passes[1].code = code & 0xff;
+    report.passes[1].extendedCode = code;
     return report;
 }
 
@@ -46,6 +47,12 @@ constexpr Stop stops[] = {
      "'Photos.sqlite' is damaged (database disk image is malformed) and no photo could be read; "
      "copy it again"},
     {"FullDisk", 13,
+     "'Photos.sqlite' could not be read to its end (database or disk is full) and photos are "
+     "missing here; make room where temporary files go, or set TMPDIR to a folder with room",
+     "cannot read 'Photos.sqlite': database or disk is full; make room where temporary files go, "
+     "or "
+     "set TMPDIR to a folder with room"},
+    {"NoRoomForTheIndexOfTheLog", 4874,
      "'Photos.sqlite' could not be read to its end (database or disk is full) and photos are "
      "missing here; make room where temporary files go, or set TMPDIR to a folder with room",
      "cannot read 'Photos.sqlite': database or disk is full; make room where temporary files go, "
