@@ -157,14 +157,15 @@ public:
 /// this library: the debug line that a few asset names cause is written during a turn.
 ///
 /// The database and its `-wal` keep every byte. Where a `-wal` lies beside the database SQLite may
-/// leave a `-shm` there; where none does nothing is left, except for a database in write-ahead-log
-/// mode that this user may not write (an empty `-wal` and a `-shm`). Where reading alone would
-/// change a file, nothing is read and the catalogue is empty: a database of 0 bytes with a log or
-/// journal beside it, and one whose `-journal` holds the change of a writer that died, which SQLite
-/// would roll back (read a copy of both files instead).
+/// leave a `-shm` there. Where there is no `-wal` nothing is left, with one exception: of a
+/// database in write-ahead-log mode that this user may not write, an empty `-wal` and a `-shm`.
+/// Where reading alone would change a file, nothing is read and the catalogue is empty: a database
+/// of 0 bytes with a log or journal beside it, and one whose `-journal` holds the change of a
+/// writer that died, which SQLite would roll back (read a copy of both files instead).
 ///
 /// Other programs may write to the database meanwhile: a pass waits for their locks, five seconds
-/// at most. Each pass reads the database as it is when it begins.
+/// at most, and once one has waited in vain the later ones do not wait. Builds in other threads
+/// wait as well. Each pass reads the database as it is when it begins.
 ///
 /// The database may be made to harm. Nothing in it is executed that could write, load code or open
 /// another file, and each pass ends: one that takes more steps of SQLite's machine than a sound
@@ -172,8 +173,8 @@ public:
 /// statements join tables whose rows a made-up database may repeat: 180 KB can make a million
 /// records. A host that reads such files sets QDevPhotoDbMgr::rowLimit.
 ///
-/// What is sorted stays in memory: while a pass sorts, about 480 bytes for each of its rows besides
-/// the records made so far.
+/// What is sorted stays in memory, besides the records made so far: about 250 bytes for each photo,
+/// and later 450 for each photo in each album of the table.
 ///
 /// @param databasePath  path of the database file, such as ".../PhotoData/Photos.sqlite", as the
 ///                      file system has it, mostly UTF-8. Always a file: neither "file:..." nor
@@ -191,17 +192,18 @@ public:
 ///         and the built-in albums that are never dropped, empty: a file that is no photo database
 ///         or is encrypted, a schema that does not fit the version, views, virtual tables or
 ///         computed columns where tables should be, a path without a file in a folder that could
-///         have one, a change that SQLite would have to roll back. These give 0 and what was read
-///         until then, perhaps nothing: damage, a disk that fails, a database that somebody else
-///         keeps locked for longer than five seconds, values or work beyond all measure.
-///         ios_photo_get_list_reported() tells which it was.
+///         have one, a change that SQLite would have to roll back, and a database in
+///         write-ahead-log mode whose `-shm` this user may not make (read a copy). These give 0
+///         and what was read until then, perhaps nothing: damage, a disk that fails or has no room
+///         for a `-shm`, a database that somebody else keeps locked for longer than five seconds,
+///         values or work beyond all measure. ios_photo_get_list_reported() tells which it was.
 IOSPHOTO_EXPORT int ios_photo_get_list(std::string databasePath, std::string iosVersion,
                                        std::string productType, std::vector<CAlbumGroup> *albums);
 
 /// Does the same as ios_photo_get_list() and tells how far it read.
 ///
 /// @param report  [out] replaced whatever the result is; may be a null pointer. The catalogue is
-///                whole when it is complete; otherwise its firstStopped() says why not.
+///                whole when it is complete; otherwise the result or firstStopped() says why not.
 IOSPHOTO_EXPORT int ios_photo_get_list_reported(std::string databasePath, std::string iosVersion,
                                                 std::string productType,
                                                 std::vector<CAlbumGroup> *albums,

@@ -16,9 +16,9 @@ namespace iosphoto {
 struct Pass
 {
     enum Code : std::int32_t {
-        AssetEntity = 1,            ///< the lookups of the entity numbers
-        AlbumEntity = 2,            ///<
-        PhotoStreamAlbumEntity = 3, ///<
+        AssetEntity = 1,            ///< the entity numbers of the assets
+        AlbumEntity = 2,            ///< of the albums
+        PhotoStreamAlbumEntity = 3, ///< of My Photo Stream
         CameraRoll = 4,             ///< the device's own photos, and the smart albums
         PhotoLibrary = 5,           ///< the photos synced from a computer
         UserAlbums = 6,             ///< the albums of the user and My Photo Stream
@@ -35,18 +35,21 @@ struct Pass
 ///
 /// - 1 SQLITE_ERROR: the statement does not fit the database: a table or column is missing.
 /// - 4 SQLITE_ABORT: there are more rows than QDevPhotoDbMgr::rowLimit.
-/// - 5 SQLITE_BUSY: somebody else kept the database locked for five seconds.
+/// - 5 SQLITE_BUSY: somebody else kept the database locked for five seconds, in this pass or one
+///   before.
 /// - 7 SQLITE_NOMEM: memory ran out; the result is -7.
-/// - 8 SQLITE_READONLY: reading alone would change a file, see ios_photo_get_list().
+/// - 8 SQLITE_READONLY: reading alone would change a file, or make one that this user may not make;
+///   see ios_photo_get_list().
 /// - 9 SQLITE_INTERRUPT: the statement took more steps, or more memory in many steps, than a sound
 ///   database of this size needs.
 /// - 10 SQLITE_IOERR: the disk does not give what it holds, or has no room for a `-shm`.
 /// - 11 SQLITE_CORRUPT: the database is damaged.
 /// - 13 SQLITE_FULL: the disk is full, and this SQLite sorts in a file whatever it is told.
-/// - 14 SQLITE_CANTOPEN: there is no such file, or it cannot be opened; then the result is -14.
+/// - 14 SQLITE_CANTOPEN: there is no such file; or it cannot be opened, then the result is -14; or
+///   its `-shm` cannot.
 /// - 18 SQLITE_TOOBIG: a value or a row is longer than 64 MiB.
 /// - 23 SQLITE_AUTH: a view or a virtual table stands in the place of a table, or a column of the
-///   table is computed when it is read.
+///   table is computed.
 /// - 26 SQLITE_NOTADB: the file is no database, or it is encrypted.
 ///
 /// Others are passed on as SQLite gives them.
@@ -75,8 +78,8 @@ public:
     /// the database.
     bool isComplete() const;
 
-    /// The first pass that did not read to its end; a null pointer where none did not. Lives as
-    /// long as the report is not changed.
+    /// The first pass that did not read to its end; a null pointer where all that ran did, or where
+    /// there was no memory to note it. Lives as long as the report is not changed.
     const CPassReport *firstStopped() const;
 
     std::vector<CPassReport> passes; ///< those that ran, in the order in which they ran last

@@ -218,4 +218,24 @@ TEST_P(MemoryOfEverySchema, FailureOfAnyMallocBesideALogGivesItsCodeOrTheWholeCa
     failMallocs(some);
 }
 
+TEST(Memory, FailureOfAnyMallocWhileAViewIsRefusedIsSurvived)
+{
+    if (!FailingMalloc::isPossible())
+        GTEST_SKIP() << "malloc cannot be replaced here";
+    LibraryBuilder library(ios15, "UTF-16"); // so that SQLite converts each text
+    library.execute("drop table ZASSET; create view ZASSET as select 1");
+    library.close();
+    const auto call = [&](long number) {
+        return callFailing<FailingMalloc>(library.path(), "15.0", "iPhone14,2", number);
+    };
+    call(0);
+    for (long number = 1;; number += 3) {
+        const Call attempt = call(number);
+        if (!attempt.hasFailed)
+            break;
+        ASSERT_TRUE(attempt.result == 0 || attempt.result == outOfMemory) << number;
+        ASSERT_FALSE(attempt.isReportedWhole) << number;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Schemas, MemoryOfEverySchema, testing::ValuesIn(allSchemas), SchemaName());

@@ -105,11 +105,12 @@ std::string AssetRow::uuid() const
     return catalogueUuid(library_->schema_, uuidPrefix_, key_);
 }
 
-LibraryBuilder::LibraryBuilder(const Schema &schema) : schema_(schema)
+LibraryBuilder::LibraryBuilder(const Schema &schema, const std::string &encoding) : schema_(schema)
 {
     if (sqlite3_open(path().c_str(), &connection_) != SQLITE_OK)
         throw std::runtime_error("cannot make " + path());
     execute("pragma synchronous = off");
+    execute("pragma encoding = '" + encoding + "'");
     execute(readFile(std::string(IOSPHOTO_TEST_DATA) + "/schema/" + schema.name + ".sql"));
 }
 

@@ -74,7 +74,8 @@ private:
 class LibraryBuilder
 {
 public:
-    explicit LibraryBuilder(const Schema &schema);
+    /// @param encoding  of its texts, such as "UTF-16"
+    explicit LibraryBuilder(const Schema &schema, const std::string &encoding = "UTF-8");
     ~LibraryBuilder();
 
     AssetRow asset(const Value &fileName);

@@ -6,12 +6,11 @@
 #include "model/clock.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/store/database_path.h"
+#include "model/store/stored_bytes.h"
 #include "output/busy_line.h"
 #include "output/notice.h"
 #include "records/record_ownership.h"
 #include "source/table_damage.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <limits>
@@ -33,23 +32,14 @@ std::uint32_t clockTime(std::int64_t unixTime)
         std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
 }
 
-/// Generously: in a sound database no pass has more rows than there are assets and memberships, or
-/// albums. Where one asset or album stands several times, the statements' joins multiply them.
-std::int64_t mostRowsOfAPass(const CopyDatabase &database, const EntityNumbers &numbers)
+/// Generously: in a sound database each row of a pass is an asset, an album or a membership, and
+/// the smallest takes more bytes. Where one stands several times, the statements' joins multiply
+/// it.
+std::int64_t mostRowsOfAPass(const std::string &database)
 {
+    constexpr std::int64_t bytesOfARow = 8;
     constexpr std::int64_t spare = 1000;
-    constexpr std::int64_t leastBytesOfARow = 8;
-    const std::string memberships = fmt::format("Z_{}ASSETS", numbers.album);
-    std::int64_t rows = 0;
-    for (const std::string &table :
-         {database.assetTable(), std::string("ZADDITIONALASSETATTRIBUTES"),
-          std::string("ZGENERICALBUM"), memberships}) {
-        const std::optional<std::int64_t> count = database.rowsOf(table);
-        if (!count) // damaged: then what the file could hold
-            return database.bytes() / leastBytesOfARow + spare;
-        rows += *count;
-    }
-    return 2 * rows + spare;
+    return storedBytesOfDatabase(database.c_str()) / bytesOfARow + spare;
 }
 
 } // namespace
@@ -96,7 +86,7 @@ void Library::read(const OpenedCopy &copy)
 {
     QDevPhotoDbMgr manager(device().iosVersion, device().productType);
     manager.SetDataPath(pathFromBytes(copy.file()));
-    manager.rowLimit = mostRowsOfAPass(copy.connect(), schema_.numbers);
+    manager.rowLimit = mostRowsOfAPass(copy.file());
     const ReadDatabase database = {database_, adviceToCopyAgain(), manager.rowLimit};
     const int result = [&] {
         const BusyLine busy(said("reading photos"));

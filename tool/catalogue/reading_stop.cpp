@@ -27,12 +27,8 @@ std::string sentenceOf(const CPassReport &stop, const ReadDatabase &database)
         return said("the tables of '{0}' make more than {1} rows of its photos, as only damage or "
                     "intent does, and {2}; {3}",
                     name, database.rowLimit, missing, remedy);
-    if (stop.code == SQLITE_INTERRUPT)
-        return said("'{0}' asks for more work than any photo library of its size, as only damage "
-                    "or intent does, and {1}; {2}",
-                    name, missing, remedy);
     const std::string why = sqliteError(stop.extendedCode);
-    if (isOfDatabase(stop.code))
+    if (isOfDatabase(stop.code) && stop.code != SQLITE_INTERRUPT)
         return said("'{0}' is damaged ({1}) and {2}; {3}", name, why, missing, remedy);
     return said("'{0}' could not be read to its end ({1}) and {2}; {3}", name, why, missing,
                 remedy);
@@ -53,13 +49,8 @@ std::vector<std::string> sentencesOf(const CReadReport &report, const ReadDataba
 Failure nothingRead(int code, const ReadDatabase &database)
 {
     const std::string remedy = remedyFor(code, database.adviceIfDamaged);
-    if (code == SQLITE_INTERRUPT)
-        return {CannotAccess,
-                said("'{0}' asks for more work than any photo library of its size, as only damage "
-                     "or intent does, and no photo could be read; {1}",
-                     database.name, remedy)};
     const std::string why = sqliteError(code);
-    if (isOfDatabase(code))
+    if (isOfDatabase(code) && code != SQLITE_INTERRUPT)
         return {CannotAccess, said("'{0}' is damaged ({1}) and no photo could be read; {2}",
                                    database.name, why, remedy)};
     return {CannotAccess, said("cannot read '{0}': {1}; {2}", database.name, why, remedy)};

@@ -22,6 +22,13 @@ namespace {
     translatable("unable to open database file"),
 };
 
+std::string wordsFor(int code, const char *ofSqlite)
+{
+    if (code == SQLITE_INTERRUPT) // only our own limit interrupts
+        return said("it asks for more work than any photo library of its size");
+    return translated(ofSqlite);
+}
+
 /// The same error where SQLite has a vaguer word for it.
 int plainCode(int code)
 {
@@ -69,13 +76,13 @@ const Trouble *troubleOf(int code)
 
 std::string sqliteError(int code)
 {
-    return translated(sqlite3_errstr(plainCode(code)));
+    return wordsFor(code, sqlite3_errstr(plainCode(code)));
 }
 
 std::string sqliteError(sqlite3 *connection)
 {
     const int code = sqlite3_extended_errcode(connection);
-    return plainCode(code) != code ? sqliteError(code) : translated(sqlite3_errmsg(connection));
+    return plainCode(code) != code ? sqliteError(code) : wordsFor(code, sqlite3_errmsg(connection));
 }
 
 bool isOfDatabase(int code)

@@ -6,8 +6,6 @@
 
 #include <fmt/format.h>
 
-#include <filesystem>
-
 namespace iosphoto::tool {
 
 namespace {
@@ -55,6 +53,7 @@ CopyDatabase::CopyDatabase(const std::string &file, std::string shownName, std::
     if (opened != SQLITE_OK || distrust(connection) != SQLITE_OK)
         throw unreadable();
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    workLimit_.apply(connection);
 }
 
 bool CopyDatabase::isDatabase() const
@@ -114,29 +113,6 @@ void CopyDatabase::forEachRow(const std::string &query,
         take(QueryRow(statement.get()));
     if (result != SQLITE_DONE)
         throw unreadable();
-}
-
-std::optional<std::int64_t> CopyDatabase::rowsOf(const std::string &table) const
-{
-    std::optional<std::int64_t> rows;
-    try {
-        forEachRow("select count(*) from \"" + table + '"',
-                   [&](const QueryRow &row) { rows = row.int64(0); });
-    } catch (const Failure &) {
-        return std::nullopt;
-    }
-    return rows;
-}
-
-std::int64_t CopyDatabase::bytes() const
-{
-    std::int64_t bytes = 0;
-    for (const char *part : {"", "-wal"}) {
-        std::error_code error;
-        const auto size = std::filesystem::file_size(file_ + part, error);
-        bytes += error ? 0 : static_cast<std::int64_t>(size);
-    }
-    return bytes;
 }
 
 bool CopyDatabase::attachWithoutLog(const std::string &name) const

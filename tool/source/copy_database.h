@@ -2,13 +2,13 @@
 #define IOSPHOTO_TOOL_COPY_DATABASE_H
 
 #include "failure.h"
+#include "model/store/work_limit.h"
 
 #include <sqlite3.h>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,7 +31,7 @@ private:
 };
 
 /// The tool's own connection to a private copy of a database, which may hold anything: views and
-/// triggers do nothing, and no value may fill the memory.
+/// triggers do nothing, no value may fill the memory, and no query goes on for ever.
 class CopyDatabase
 {
 public:
@@ -61,11 +61,6 @@ public:
     void forEachRow(const std::string &query, const std::function<void(const QueryRow &)> &take,
                     const std::vector<std::string> &values = {}) const;
 
-    /// How many rows a table has; nothing when they cannot be counted.
-    std::optional<std::int64_t> rowsOf(const std::string &table) const;
-    /// Of the file and its log.
-    std::int64_t bytes() const;
-
     /// Lets queries see the database as it is without its log, as the schema `name`. Returns
     /// whether that could be done.
     bool attachWithoutLog(const std::string &name) const;
@@ -88,6 +83,7 @@ private:
 
     std::unique_ptr<sqlite3_stmt, Close> prepare(const std::string &text) const;
 
+    WorkLimit workLimit_;
     std::unique_ptr<sqlite3, Close> connection_;
     std::string file_;
     std::string shownName_;

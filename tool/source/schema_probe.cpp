@@ -23,7 +23,7 @@ void requirePhotoDatabase(const CopyDatabase &database)
                                             database.shownName()));
 }
 
-/// The library's own connection runs whatever a view or a computed column says.
+/// The library would read nothing from others, and tell less of it.
 void requireRealTables(const CopyDatabase &database)
 {
     const std::vector<std::string> tables = {

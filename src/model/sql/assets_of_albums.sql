@@ -1,7 +1,9 @@
 create temp view ZADDITIONALASSETATTRIBUTES as
 select *
 from main.ZADDITIONALASSETATTRIBUTES
-where ZASSET in (
-    select [Z_%1ASSETS]
-    from main.Z_%2ASSETS
-)
+where likelihood(
+    case when ZASSET in (
+        select [Z_%1ASSETS]
+        from main.Z_%2ASSETS
+    ) then 1 end,
+    1.0)

@@ -39,22 +39,11 @@ bool isFree(const QByteArray &name)
            isWritable != 0;
 }
 
-/// Waits a moment for a lock of somebody else's. SQLite's own waiting looks ten times a second and
-/// may meet one small commit of his after the other.
-/// @param waited  how long so far, in milliseconds
-/// @return 0 when that is enough
-int wait(void *waited, int /*times*/)
-{
-    constexpr int fiveSeconds = 5000;
-    int &milliseconds = *static_cast<int *>(waited);
-    milliseconds += sqlite3_sleep(1);
-    return milliseconds < fiveSeconds ? 1 : 0;
-}
-
 } // namespace
 
 void DatabaseVisit::Close::operator()(sqlite3 *connection) const
 {
+    protectLog(connection);
     sqlite3_close(connection);
 }
 
@@ -110,18 +99,32 @@ bool DatabaseVisit::open(const QString &path)
 bool DatabaseVisit::makeSafe(Patience patience)
 {
     if (patience == Patience::Usual)
-        sqlite3_busy_handler(connection_.get(), wait, &waited_);
+        sqlite3_busy_handler(connection_.get(), waitForLock, this);
     if (!check(distrust(connection_.get())))
         return false;
     workLimit_.apply(connection_.get());
     const ReadingRisk risk = protectSource(connection_.get());
     if (risk == ReadingRisk::RollsBack)
-        return stopFor(SQLITE_READONLY, SQLITE_READONLY_ROLLBACK,
-                       "reading would roll back the -journal of a writer that died");
+        return stopForRollback();
     if (risk == ReadingRisk::DeletesCompanion)
         return stopFor(SQLITE_READONLY, SQLITE_READONLY_RECOVERY,
                        "reading would delete the -wal or -journal beside an empty database");
     return true;
+}
+
+/// Waits a moment for a lock of somebody else's. SQLite's own waiting looks ten times a second and
+/// may meet one small commit of his after the other; nor does it mind when he dies.
+/// @return 0 when there is nothing to wait for any more
+int DatabaseVisit::waitForLock(void *self, int times)
+{
+    using Clock = std::chrono::steady_clock;
+    constexpr std::chrono::seconds patience(5);
+    auto &visit = *static_cast<DatabaseVisit *>(self);
+    if (times == 0)
+        visit.waitsSince_ = Clock::now();
+    sqlite3_sleep(1);
+    visit.hasWriterDied_ = hasWriterDied(visit.connection_.get());
+    return !visit.hasWriterDied_ && Clock::now() - visit.waitsSince_ < patience ? 1 : 0;
 }
 
 bool DatabaseVisit::createView(const QString &view)
@@ -148,7 +151,7 @@ bool DatabaseVisit::prepare(const QString &statement)
     if (!check(readingOnly_.findComputed(computed)))
         return false;
     return computed.empty() ||
-           stopFor(SQLITE_AUTH, SQLITE_AUTH, computed + " computes a column when it is read");
+           stopFor(SQLITE_AUTH, SQLITE_AUTH, computed + " has a computed column");
 }
 
 /// Where a statement does not prepare because of what stands in the place of a table, SQLite may
@@ -168,12 +171,20 @@ bool DatabaseVisit::check(int result)
     if (result == SQLITE_OK)
         return true;
     const int primary = result & primaryCode;
+    if (primary == SQLITE_BUSY && hasWriterDied_)
+        return stopForRollback();
     if (primary == SQLITE_INTERRUPT && workLimit_.isExceeded())
         return stopFor(primary, result, workLimit_.reason());
     const bool isOfConnection =
         connection_ != nullptr && sqlite3_errcode(connection_.get()) == primary;
     return stopFor(primary, isOfConnection ? sqlite3_extended_errcode(connection_.get()) : result,
                    isOfConnection ? sqlite3_errmsg(connection_.get()) : sqlite3_errstr(result));
+}
+
+bool DatabaseVisit::stopForRollback()
+{
+    return stopFor(SQLITE_READONLY, SQLITE_READONLY_ROLLBACK,
+                   "reading would roll back the -journal of a writer that died");
 }
 
 bool DatabaseVisit::stopFor(int code, int extendedCode, std::string text)

@@ -9,6 +9,7 @@
 #include <QMutexLocker>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -23,7 +24,7 @@ enum class Patience {
     Usual, ///< five seconds
 };
 
-/// The code of a stop because the wait was too short.
+/// The code of a stop because that was too short.
 constexpr int lockedBySomebody = 5;
 
 /// Why a visit had no more rows: as CPassReport has it; a code of 0 at the end of the rows.
@@ -83,21 +84,24 @@ private:
 
     bool open(const QString &path);
     bool makeSafe(Patience patience);
+    static int waitForLock(void *self, int times);
     bool createView(const QString &view);
     bool prepare(const QString &statement);
     bool refuseImpostor(const QByteArray &statement);
     bool check(int result);
+    bool stopForRollback();
     bool stopFor(int code, int extendedCode, std::string text);
 
     // Destroyed from the last to the first.
     QMutexLocker lock_;
     ReadingOnly readingOnly_;
     WorkLimit workLimit_;
-    int waited_ = 0; ///< for locks, in milliseconds
     std::unique_ptr<sqlite3, Close> connection_;
     std::optional<Prepared> prepared_;
     bool isReadable_ = false;
     bool hasFailedToOpen_ = false;
+    bool hasWriterDied_ = false; ///< while his lock was waited for
+    std::chrono::steady_clock::time_point waitsSince_;
     Stop stop_;
 };
 

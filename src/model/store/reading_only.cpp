@@ -1,5 +1,6 @@
 #include "model/store/reading_only.h"
 
+#include <QByteArray>
 #include <QRegularExpression>
 #include <QString>
 
@@ -39,10 +40,10 @@ int forEachRow(sqlite3 *connection, const char *query, Take take)
     return result == SQLITE_DONE ? SQLITE_OK : result;
 }
 
-/// @param computes  [out] whether reading a column of the table computes it
+/// @param computes  [out] whether the table has a column that is computed
 int look(sqlite3 *connection, const std::string &table, bool &computes)
 {
-    constexpr int hidden = 6; // column: 0 for one that is stored
+    constexpr int hidden = 6; // column: 0 for one that is written and read as it is
     const std::unique_ptr<char, Free> query(
         sqlite3_mprintf("pragma main.%s(%Q)", columnsOfATable, table.c_str()));
     if (query == nullptr)
@@ -52,11 +53,19 @@ int look(sqlite3 *connection, const std::string &table, bool &computes)
     });
 }
 
-bool isNamedIn(const QString &statement, const QString &name)
+/// The tables that a statement names, in upper case.
+std::set<QByteArray> tablesNamedIn(const char *statement)
 {
-    const QRegularExpression word("\\b" + QRegularExpression::escape(name) + "\\b",
-                                  QRegularExpression::CaseInsensitiveOption);
-    return statement.contains(word);
+    static const QRegularExpression table(
+        QStringLiteral("\\b(?:(?:from|join)\\s+(\\w+)|(\\w+)\\.)"),
+        QRegularExpression::CaseInsensitiveOption);
+    std::set<QByteArray> names;
+    auto found = table.globalMatch(QString::fromUtf8(statement));
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        names.insert(match.captured(match.lastCapturedIndex()).toUpper().toUtf8());
+    }
+    return names;
 }
 
 } // namespace
@@ -86,15 +95,15 @@ int ReadingOnly::findComputed(std::string &table) const
 
 int ReadingOnly::findImpostor(const char *statement, std::string &impostor) const
 {
-    const QString text = QString::fromUtf8(statement);
+    const std::set<QByteArray> tables = tablesNamedIn(statement);
     return forEachRow(connection_,
                       "select name from sqlite_master where type = 'view' or "
                       "(type = 'table' and sql not like 'create table%')",
                       [&](sqlite3_stmt *row) {
-                          const auto *name =
-                              reinterpret_cast<const char *>(sqlite3_column_text(row, 0));
-                          if (impostor.empty() && isNamedIn(text, QString::fromUtf8(name)))
-                              impostor = name;
+                          const QByteArray name(
+                              reinterpret_cast<const char *>(sqlite3_column_text(row, 0)));
+                          if (tables.count(name.toUpper()) != 0)
+                              impostor = name.toStdString();
                       });
 }
 

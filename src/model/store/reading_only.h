@@ -20,8 +20,8 @@ public:
     /// To be called once, before any statement is prepared.
     void apply(sqlite3 *connection);
 
-    /// Finds a table, among those that the statements prepared so far read, that computes a column
-    /// when it is read.
+    /// Finds a table, among those that the statements prepared so far read, that has a column that
+    /// is computed.
     /// @param table  [out] its name; empty where there is none
     /// @return an SQLite code
     int findComputed(std::string &table) const;

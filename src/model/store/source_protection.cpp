@@ -2,26 +2,48 @@
 
 #include <sqlite3.h>
 
+#include <sys/stat.h>
+
+#include <cerrno>
 #include <cstdio>
-#include <filesystem>
 #include <memory>
 
 namespace iosphoto {
 
 namespace {
 
-namespace fs = std::filesystem;
+// Nothing here allocates memory for paths: SQLite calls some of it, and would not pass an exception
+// on.
 
 bool exists(const char *file)
 {
-    std::error_code ignored;
-    return fs::exists(file, ignored);
+    struct stat facts = {};
+    return stat(file, &facts) == 0;
 }
 
 bool isEmpty(const char *file)
 {
-    std::error_code error;
-    return fs::file_size(file, error) == 0 && !error;
+    struct stat facts = {};
+    return stat(file, &facts) == 0 && facts.st_size == 0;
+}
+
+bool holdsAnything(const char *file)
+{
+    return exists(file) && !isEmpty(file);
+}
+
+/// SQLite is asked for the name because a link's log lies beside its target.
+const char *nameOf(sqlite3 *connection)
+{
+    const char *const database = sqlite3_db_filename(connection, "main");
+    return database != nullptr && *database != '\0' ? database : nullptr;
+}
+
+/// A plain close would move the log into the database and delete it. Where there is no log, this
+/// would leave an empty one behind.
+void keepLog(sqlite3 *connection)
+{
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
 struct CloseFile
@@ -33,10 +55,11 @@ struct CloseFile
 /// one that cannot be read SQLite would believe it, too.
 bool holdsAChange(const char *journal)
 {
-    std::error_code error;
-    const fs::file_type type = fs::status(journal, error).type();
-    if (type != fs::file_type::regular) // opening a pipe could wait for ever
-        return type != fs::file_type::not_found;
+    struct stat facts = {};
+    if (stat(journal, &facts) != 0)
+        return errno != ENOENT && errno != ENOTDIR;
+    if (!S_ISREG(facts.st_mode)) // opening a pipe could wait for ever
+        return true;
     const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(journal, "rb"));
     if (file == nullptr)
         return exists(journal);
@@ -73,21 +96,33 @@ bool isLeftBehind(sqlite3 *connection, const char *journal, bool (*isActedOn)(co
 
 ReadingRisk protectSource(sqlite3 *connection)
 {
-    // SQLite is asked for the names because a link's log lies beside its target.
-    const char *const database = sqlite3_db_filename(connection, "main");
-    if (database == nullptr || *database == '\0')
+    const char *const database = nameOf(connection);
+    if (database == nullptr)
         return ReadingRisk::None;
     const char *const journal = sqlite3_filename_journal(database);
     const bool hasLog = exists(sqlite3_filename_wal(database));
-    // Without a log the setting would leave an empty one behind.
     if (hasLog)
-        sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        keepLog(connection);
     if (isEmpty(database)) {
         const bool isLeftOver = hasLog || isLeftBehind(connection, journal, exists);
         return isLeftOver ? ReadingRisk::DeletesCompanion : ReadingRisk::None;
     }
     return isLeftBehind(connection, journal, holdsAChange) ? ReadingRisk::RollsBack
                                                            : ReadingRisk::None;
+}
+
+bool hasWriterDied(sqlite3 *connection)
+{
+    const char *const database = nameOf(connection);
+    return database != nullptr &&
+           isLeftBehind(connection, sqlite3_filename_journal(database), holdsAChange);
+}
+
+void protectLog(sqlite3 *connection)
+{
+    const char *const database = nameOf(connection);
+    if (database != nullptr && holdsAnything(sqlite3_filename_wal(database)))
+        keepLog(connection);
 }
 
 } // namespace iosphoto

@@ -17,6 +17,12 @@ enum class ReadingRisk {
 /// nothing may be read.
 ReadingRisk protectSource(sqlite3 *connection);
 
+/// Whether a writer has died since then, so that the next reading would roll back his journal.
+bool hasWriterDied(sqlite3 *connection);
+
+/// To be called before the connection is closed: keeps a log that somebody else wrote meanwhile.
+void protectLog(sqlite3 *connection);
+
 } // namespace iosphoto
 
 #endif // IOSPHOTO_SOURCE_PROTECTION_H

@@ -12,12 +12,10 @@ struct Limit
     int most;
 };
 
-/// What no photo library comes near: its longest values have some hundred thousand bytes, its
-/// longest definitions some thousand characters, the longest statement some thousand operations.
+/// What no photo library comes near.
 constexpr Limit limits[] = {
     {SQLITE_LIMIT_LENGTH, 64 * 1024 * 1024},
     {SQLITE_LIMIT_SQL_LENGTH, 1024 * 1024},
-    {SQLITE_LIMIT_VDBE_OP, 25000},
     {SQLITE_LIMIT_WORKER_THREADS, 0},
 };
 

@@ -1,8 +1,8 @@
 #include "model/store/work_limit.h"
 
-#include <sqlite3.h>
+#include "model/store/stored_bytes.h"
 
-#include <filesystem>
+#include <sqlite3.h>
 
 namespace iosphoto {
 
@@ -15,8 +15,8 @@ constexpr int stepsOfATurn = 1000;
 
 // The memory counted is that of all SQLite in the process. So it matters only once there were more
 // steps than a sound database needs: what the host does meanwhile cannot end the reading of one.
-constexpr std::int64_t usualStepsOfAPage = 5000;
-constexpr std::int64_t usualStepsOfAnyDatabase = 100'000;
+constexpr std::int64_t usualStepsOfAPage = 1500;
+constexpr std::int64_t usualStepsOfAnyDatabase = 50'000;
 constexpr std::int64_t mostMemoryOfAByte = 64; // a membership of 20 bytes is sorted with 480
 constexpr std::int64_t mostMemoryOfAnyDatabase = 256 * 1024 * 1024;
 
@@ -35,23 +35,16 @@ int pageSizeOf(sqlite3_file *file)
     return size < smallest ? smallest : size;
 }
 
-std::int64_t sizeOf(const char *file)
-{
-    std::error_code error;
-    const auto size = std::filesystem::file_size(file, error);
-    return error ? 0 : static_cast<std::int64_t>(size);
-}
-
 } // namespace
 
 void WorkLimit::apply(sqlite3 *connection)
 {
-    // By the sizes of the files, since what a database says of itself may be made up.
+    // By what the disk holds, since what a database says of itself may be made up.
     sqlite3_file *file = nullptr;
     sqlite3_file_control(connection, "main", SQLITE_FCNTL_FILE_POINTER, &file);
     const char *const name = sqlite3_db_filename(connection, "main");
     if (file != nullptr && file->pMethods != nullptr && name != nullptr && *name != '\0') {
-        bytes_ = sizeOf(name) + sizeOf(sqlite3_filename_wal(name));
+        bytes_ = storedBytesOfDatabase(name);
         pages_ = bytes_ / pageSizeOf(file);
     }
     memoryBefore_ = sqlite3_memory_used();

@@ -1,9 +1,12 @@
 // A database that somebody else is writing to.
+#include "model/store/database_visit.h"
 #include "support/meanwhile.h"
 #include "support/report.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <memory>
@@ -79,6 +82,59 @@ TEST_F(LockedDatabase, IsNotWaitedForAgainOnceThatWasInVain)
     EXPECT_GE(waited, std::chrono::seconds(4));
     EXPECT_LT(waited, std::chrono::seconds(15)); // of 35
     EXPECT_EQ(ReportedBuild(library_).cameraRoll(), Files{"IMG_0001.JPG"});
+}
+
+TEST_F(LockedDatabase, ChangeOfAWriterThatDiesMeanwhileIsNotRolledBack)
+{
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t writer = fork();
+    if (writer == 0) { // by system calls and SQLite alone, and without an end of its own
+        sqlite3 *connection = nullptr;
+        sqlite3_open(library_.path().c_str(), &connection);
+        sqlite3_exec(connection,
+                     "pragma cache_size = 1; begin exclusive; "
+                     "create table filler as with recursive n(i) as (select 1 union "
+                     "all select i + 1 from n limit 2000) select hex(zeroblob(100)) "
+                     "from n; update ZASSET set ZFILENAME = 'UNFINISHED.JPG'",
+                     nullptr, nullptr, nullptr);
+        write(ready[1], "x", 1);
+        usleep(300'000);
+        _exit(0);
+    }
+    char byte = 0;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
+    const std::string journal = readFile(library_.path() + "-journal");
+    const std::string database = readFile(library_.path());
+    ASSERT_NE(journal.front(), '\0');
+
+    const ReportedBuild build(library_);
+
+    waitpid(writer, nullptr, 0);
+    EXPECT_EQ(build.of(Pass::CameraRoll).code, 8);
+    EXPECT_EQ(build.cameraRoll(), Files());
+    EXPECT_TRUE(readFile(library_.path()) == database);
+    EXPECT_TRUE(readFile(library_.path() + "-journal") == journal);
+}
+
+TEST_F(LockedDatabase, LogThatSomebodyElseWritesMeanwhileIsKept)
+{
+    {
+        const Writer writer(library_.path());
+        writer.execute("pragma journal_mode = wal");
+    }
+    ASSERT_FALSE(std::filesystem::exists(library_.path() + "-wal"));
+    const std::string database = readFile(library_.path());
+    {
+        DatabaseVisit visit(QString::fromStdString(library_.path()), {"select 1 from ZASSET", {}},
+                            Patience::None);
+        ASSERT_TRUE(visit.nextRow());
+        const Writer writer(library_.path());
+        writer.execute("update ZASSET set ZFILENAME = 'IMG_0002.JPG'");
+    }
+    EXPECT_TRUE(readFile(library_.path()) == database);
+    EXPECT_GT(std::filesystem::file_size(library_.path() + "-wal"), 0U);
+    EXPECT_EQ(ReportedBuild(library_).cameraRoll(), Files{"IMG_0002.JPG"});
 }
 
 TEST_F(LockedDatabase, SmallCommitsOfSomebodyElseLeaveEveryCatalogueWhole)

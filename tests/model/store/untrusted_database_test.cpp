@@ -49,7 +49,7 @@ constexpr NoTable noTables[] = {
     {"ComputedColumn",
      "alter table ZASSET drop column ZWIDTH; "
      "alter table ZASSET add column ZWIDTH as (length(hex(zeroblob(10000000))))",
-     Pass::CameraRoll, "ZASSET computes a column when it is read"},
+     Pass::CameraRoll, "ZASSET has a computed column"},
 };
 
 } // namespace
@@ -94,6 +94,25 @@ TEST(UntrustedDatabase, WhatNoStatementReadsDoesNotMatter)
     const ReportedBuild build(library);
     EXPECT_TRUE(build.report.isComplete()) << build.report.firstStopped()->text;
     EXPECT_EQ(build.cameraRoll(), Files{"IMG_0001.JPG"});
+}
+
+TEST(UntrustedDatabase, ViewThatIsNoTableOfTheStatementIsNotBlamed)
+{
+    LibraryBuilder library(ios15);
+    library.execute("create view ZTITLE as select 1");
+    const ReportedBuild build(library.path(), "13.7", "iPhone14,2");
+    EXPECT_EQ(build.report.firstStopped()->code, 1);
+    EXPECT_EQ(build.report.firstStopped()->text, "no such table: ZGENERICASSET");
+}
+
+TEST(UntrustedDatabase, HoleInALogAllowsNoMoreWork)
+{
+    LibraryBuilder library(ios18);
+    multiplyPhoto(library, 2500);
+    library.close();
+    writeFile(library.path() + "-wal", "");
+    std::filesystem::resize_file(library.path() + "-wal", 100'000'000'000);
+    EXPECT_EQ(ReportedBuild(library).of(Pass::CameraRoll).code, 9);
 }
 
 TEST(UntrustedDatabase, PassThatWouldRunOnAndOnIsStopped)

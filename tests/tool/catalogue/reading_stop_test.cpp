@@ -74,10 +74,11 @@ constexpr Stop stops[] = {
      "close other programs and try again",
      "cannot read 'Photos.sqlite': out of memory; close other programs and try again"},
     {"Work", 9,
-     "'Photos.sqlite' asks for more work than any photo library of its size, as only damage or "
-     "intent does, and photos are missing here; copy it again",
-     "'Photos.sqlite' asks for more work than any photo library of its size, as only damage or "
-     "intent does, and no photo could be read; copy it again"},
+     "'Photos.sqlite' could not be read to its end (it asks for more work than any photo library "
+     "of "
+     "its size) and photos are missing here; copy it again",
+     "cannot read 'Photos.sqlite': it asks for more work than any photo library of its size; copy "
+     "it again"},
 };
 
 } // namespace

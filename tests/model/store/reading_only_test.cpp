@@ -1,0 +1,70 @@
+#include "model/store/reading_only.h"
+
+#include "model/store/untrusted_database.h"
+#include "support/library_builder.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+using namespace iosphoto;
+using namespace iosphoto::test;
+
+namespace {
+
+class ReadingOnlyConnection : public testing::TestWithParam<const char *>
+{
+protected:
+    ReadingOnlyConnection() : library_(ios15)
+    {
+        library_.asset("IMG_0001.JPG");
+        library_.execute("create view shown as select * from ZASSET");
+        library_.execute("create virtual table box using rtree(id, low, high)");
+        sqlite3_open(library_.path().c_str(), &connection_);
+        EXPECT_EQ(distrust(connection_), SQLITE_OK);
+        readingOnly_.apply(connection_);
+    }
+    ~ReadingOnlyConnection() override { sqlite3_close(connection_); }
+
+    int execute(const char *sql) const
+    {
+        return sqlite3_exec(connection_, sql, nullptr, nullptr, nullptr);
+    }
+
+    LibraryBuilder library_;
+    ReadingOnly readingOnly_;
+    sqlite3 *connection_ = nullptr;
+};
+
+using AllowedStatement = ReadingOnlyConnection;
+using DeniedStatement = ReadingOnlyConnection;
+
+} // namespace
+
+TEST_P(AllowedStatement, Runs)
+{
+    EXPECT_EQ(execute(GetParam()), SQLITE_OK) << sqlite3_errmsg(connection_);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, AllowedStatement,
+    testing::Values("select count(*) from ZASSET where ZUUID like '00000000-%'",
+                    "select a.Z_ENT from (select * from Z_PRIMARYKEY) a left join ZASSET b on "
+                    "a.Z_ENT = b.Z_ENT order by Z_NAME desc",
+                    "with recursive n(i) as (select 1 union select i + 1 from n limit 5) "
+                    "select i from n"));
+
+TEST_P(DeniedStatement, DoesNotRun)
+{
+    EXPECT_NE(execute(GetParam()), SQLITE_OK);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, DeniedStatement,
+    testing::Values("insert into ZASSET (Z_PK) values (2)", "update ZASSET set Z_OPT = 1",
+                    "delete from ZASSET", "drop table ZASSET", "create table other (x)",
+                    "create temp table other (x)", "create index other on ZASSET (Z_OPT)",
+                    "attach ':memory:' as other", "vacuum into 'other.sqlite'", "begin", "reindex",
+                    "analyze", "pragma journal_mode = wal", "pragma user_version = 5",
+                    "pragma writable_schema = on", "select load_extension('other')",
+                    "select * from shown", "select * from box",
+                    "create virtual table other using fts5(x)"));
