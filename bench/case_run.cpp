@@ -52,7 +52,7 @@ CaseResult runCatalogue(const Case &wanted, const fs::path &database, int rounds
     };
     result.memory = memoryUse(database);
     if (wanted.group == Group::Sizes)
-        result.tool = toolCosts(database, roundsOfTool(rounds));
+        result.tool = toolCosts(database, floor, roundsOfTool(rounds));
     result.assets = static_cast<std::size_t>(floor.assets());
     result.time = compare(runFloor, runLibrary, {rounds});
     // Last, as they leave files beside the database.

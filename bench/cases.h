@@ -21,7 +21,7 @@ struct Goals
     double ratio;      ///< library to floor
     int heldBytes = 0; ///< for each record, as in MemoryUse
     int peakBytes = 0;
-    double toolRatio = 0; ///< tool to library
+    double toolRatio = 0; ///< tool to floor
 };
 
 struct Case

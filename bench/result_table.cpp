@@ -89,7 +89,7 @@ void printToolCosts(const std::vector<CaseResult> &results, std::ostream &out)
         return;
     tool::TextTable table({{"case"},
                            {"photos"},
-                           {"library ms", right},
+                           {"floor ms", right},
                            {"tool ms", right},
                            {"ratio", right},
                            {"goal", right},

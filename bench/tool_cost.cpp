@@ -2,7 +2,6 @@
 
 #include "child.h"
 #include "device.h"
-#include "library_run.h"
 #include "output_memory.h"
 #include "system_memory.h"
 
@@ -24,28 +23,27 @@ double secondsOfListing(const fs::path &database, const std::string &format)
     return run.processorSeconds;
 }
 
-Comparison timeOf(const fs::path &database, const std::string &format, Rounds rounds)
+Comparison timeOf(const fs::path &database, const std::string &format, const Floor &floor,
+                  Rounds rounds)
 {
-    const auto build = [&] {
-        LibraryRun library;
-        return secondsOf([&] { library.read(database); });
-    };
+    const auto visit = [&] { return secondsOf([&] { floor.visitAll(); }); };
     const auto list = [&] {
-        // As the build above has it at hand. The private copy takes as much as the database, and
-        // the catalogue less.
+        // As what runs in this process has it at hand. The private copy takes as much as the
+        // database, and the catalogue less.
         bringMemory(2 * fs::file_size(database));
         return secondsOfListing(database, format);
     };
-    return compare(build, list, rounds);
+    return compare(visit, list, rounds);
 }
 
 } // namespace
 
-std::vector<ToolCost> toolCosts(const fs::path &database, Rounds rounds)
+std::vector<ToolCost> toolCosts(const fs::path &database, const Floor &floor, Rounds rounds)
 {
     std::vector<ToolCost> costs;
     for (const char *format : {"jsonl", "csv"})
-        costs.push_back({format, timeOf(database, format, rounds), outputBytes(database, format)});
+        costs.push_back(
+            {format, timeOf(database, format, floor, rounds), outputBytes(database, format)});
     return costs;
 }
 

@@ -1,7 +1,8 @@
-/// What the command-line tool adds to the library.
+/// What the command-line tool costs.
 #ifndef IOSPHOTO_BENCH_TOOL_COST_H
 #define IOSPHOTO_BENCH_TOOL_COST_H
 
+#include "floor.h"
 #include "measure.h"
 
 #include <filesystem>
@@ -15,11 +16,12 @@ namespace iosphoto::bench {
 struct ToolCost
 {
     std::string format;                ///< "jsonl" or "csv"
-    Comparison time;                   ///< the library's build as the floor, and the tool
+    Comparison time;                   ///< the floor, and the tool
     std::optional<double> outputBytes; ///< as outputBytes() says
 };
 
-std::vector<ToolCost> toolCosts(const std::filesystem::path &database, Rounds rounds);
+std::vector<ToolCost> toolCosts(const std::filesystem::path &database, const Floor &floor,
+                                Rounds rounds);
 
 } // namespace iosphoto::bench
 

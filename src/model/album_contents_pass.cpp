@@ -42,6 +42,19 @@ CAlbumGroup *collectingAlbum(std::vector<CAlbumGroup> &albums, AlbumKind::Code k
     return found != albums.end() ? &*found : nullptr;
 }
 
+/// Whether most of the photos read so far are in no album of the table, by what the albums say of
+/// their sizes.
+bool areMostInNoAlbum(const std::vector<CAlbumGroup> &albums)
+{
+    std::int64_t memberships = 0;
+    std::int64_t photos = 0;
+    for (const CAlbumGroup &album : albums) {
+        memberships += album.albumUuid.empty() ? 0 : std::max(album.albumCount, 0);
+        photos += static_cast<std::int64_t>(album.photos.size());
+    }
+    return memberships < photos / 2;
+}
+
 /// Reads the memberships and hands each record to its album, and copies of some to the albums that
 /// collect by kind of photo.
 class AlbumContentsPass
@@ -134,8 +147,9 @@ int QDevPhotoDbMgr::GetPhotoDatas()
         const DeviceProfile device(iosVersion, productType);
         AlbumContentsPass pass(albums, device);
         int memberships = 0;
-        const Query query = {run.statementFor(device, albumContentsStatements),
-                             run.statementFor(device, assetsOfAlbumsView)};
+        Query query = {run.statementFor(device, albumContentsStatements), {}};
+        if (areMostInNoAlbum(albums))
+            query.view = run.statementFor(device, assetsOfAlbumsView);
         const int rows =
             run.readRows(query, [&](const Row &row) { memberships += pass.take(row) ? 1 : 0; });
         return rows < 0 ? rows : memberships;

@@ -49,8 +49,9 @@ extern const StatementTable albumContentsStatements;
 
 /// A view of the connection's own, under the name of a table, that leaves out the assets of no
 /// album. The statements for the contents of albums find the same with it as without, in the same
-/// order, but without it SQLite copies the rows of all assets into memory first. Its condition is
-/// put so that SQLite neither uses it to look rows up nor expects it to leave fewer.
+/// order, but without it SQLite copies the rows of all assets into memory first: it is worth its
+/// cost where most assets are in no album. Its condition is put so that SQLite neither uses it to
+/// look rows up nor expects it to leave fewer.
 extern const StatementTable assetsOfAlbumsView;
 
 /// The statements that look the entity numbers up; they are the same for every device.
