@@ -21,17 +21,17 @@ public:
     int readRows(const Query &query, TakeRow takeRow)
     {
         DatabaseVisit visit(manager_.dataPath, query, patience());
-        int rows = 0;
+        std::int64_t &rows = report().rows;
         while (visit.nextRow()) {
             if (isEnough(rows)) {
                 visit.abandon();
                 break;
             }
             takeRow(visit.row());
-            note(++rows);
+            ++rows;
         }
         note(visit.stop());
-        return visit.failure() != 0 ? visit.failure() : rows;
+        return visit.failure() != 0 ? visit.failure() : static_cast<int>(rows);
     }
 
     /// The variant that `device` needs, filled in for the database.
@@ -49,8 +49,10 @@ public:
 
 private:
     Patience patience();
-    bool isEnough(int rows) const { return manager_.rowLimit > 0 && rows >= manager_.rowLimit; }
-    void note(int rows) { report().rows = rows; }
+    bool isEnough(std::int64_t rows) const
+    {
+        return manager_.rowLimit > 0 && rows >= manager_.rowLimit;
+    }
     void note(const Stop &stop);
     CPassReport &report() { return manager_.report.passes.back(); }
 

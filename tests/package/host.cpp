@@ -38,13 +38,20 @@ int main(int, char **arguments)
     if (!copy.thumbnail.isNull())
         return 3;
 
+    CReadReport report;
+    if (ios_photo_get_list_reported(arguments[1], "15.0", "iPhone14,2", nullptr, &report) != 0 ||
+        !report.isComplete() || report.firstStopped() != nullptr ||
+        report.passes[iosphoto::Pass::CameraRoll - 1].rows != 1)
+        return 8;
+
     QDevPhotoDbMgr manager("15.0", "iPhone14,2");
     manager.SetDataPath(QString::fromUtf8(arguments[1]));
     manager.SetProductVer("17.0");
     manager.SetDefaultAlbum();
     if (manager.GetPrimarykeyTabAssetInfo() != 1 || manager.GetPrimarykeyTabAlbumInfo() != 1 ||
         manager.GetPrimarykeyTabPhotostreamAlbumInfo() != 1 || manager.GetPhotosAlbum() != 0 ||
-        manager.GetPhotoGroups() != 0 || manager.GetPhotoDatas() != 0)
+        manager.GetPhotoGroups() != 0 || manager.GetPhotoDatas() != 0 ||
+        manager.report.passes.size() != 6 || manager.rowLimit != 0)
         return 4;
     if (!manager.isSupportLivePhoto() || !manager.isSupportPanorama() ||
         !manager.isSupportProRAWAndProRes() || !manager.isBurstsMain(16) ||

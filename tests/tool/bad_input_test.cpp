@@ -151,6 +151,24 @@ TEST_P(ToolDamageSomewhere, IsSaidBesideWhatCouldBeRead)
 
 INSTANTIATE_TEST_SUITE_P(Tables, ToolDamageSomewhere, testing::Values("Z_27ASSETS"));
 
+TEST_F(ToolBadInput, DatabaseLargerThanTheRoomForItsCopy)
+{
+    const fs::path huge = folder_ / "Photos.sqlite";
+    writeFile(huge, std::string("SQLite format 3\0", 16));
+    const std::uintmax_t size = fs::space(fs::temp_directory_path()).available + 1'000'000'000;
+    std::error_code error;
+    fs::resize_file(huge, size, error); // takes no room, as it is a hole
+    if (error)
+        GTEST_SKIP() << "no file may be that large here";
+    constexpr std::size_t room = 1'000'000; // for whatever would be copied all the same
+    const ToolRun run = runToolOnFullDisk({"photos", huge.string()}, room);
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.error, HasSubstr(std::to_string(size) +
+                                     " bytes are more than there is room for; set TMPDIR to a "
+                                     "folder with room for it\n"));
+    EXPECT_EQ(run.status, 3);
+}
+
 TEST_F(ToolBadInput, NeitherTheSourceNorTheTemporaryFolderKeepsATrace)
 {
     LibraryBuilder library(ios15);

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <utility>
+
 using namespace iosphoto;
 using namespace iosphoto::test;
 
@@ -68,3 +70,39 @@ INSTANTIATE_TEST_SUITE_P(
                     "pragma writable_schema = on", "select load_extension('other')",
                     "select * from shown", "select * from box",
                     "create virtual table other using fts5(x)"));
+
+class Distrust : public testing::Test
+{
+protected:
+    Distrust()
+    {
+        sqlite3_open(":memory:", &connection_);
+        for (const auto &[option, value] : settings_)
+            sqlite3_db_config(connection_, option, 1 - value, nullptr);
+        EXPECT_EQ(distrust(connection_), SQLITE_OK);
+    }
+    ~Distrust() override { sqlite3_close(connection_); }
+
+    const std::pair<int, int> settings_[5] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
+                                              {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0},
+                                              {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+                                              {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                                              {SQLITE_DBCONFIG_ENABLE_VIEW, 0}};
+    sqlite3 *connection_ = nullptr;
+};
+
+TEST_F(Distrust, SwitchesOffWhatADatabaseCouldRunWhateverTheHostSwitchedOn)
+{
+    for (const auto &[option, value] : settings_) {
+        int found = -1;
+        sqlite3_db_config(connection_, option, -1, &found);
+        EXPECT_EQ(found, value) << option;
+    }
+}
+
+TEST_F(Distrust, BoundsValuesAndStatementsAndStartsNoThread)
+{
+    EXPECT_EQ(sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, -1), 64 * 1024 * 1024);
+    EXPECT_EQ(sqlite3_limit(connection_, SQLITE_LIMIT_SQL_LENGTH, -1), 1024 * 1024);
+    EXPECT_EQ(sqlite3_limit(connection_, SQLITE_LIMIT_WORKER_THREADS, -1), 0);
+}

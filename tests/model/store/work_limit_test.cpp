@@ -14,8 +14,10 @@ namespace {
 class LimitedConnection
 {
 public:
-    LimitedConnection() : library_(ios15)
+    /// @param prepare  is executed on the database before
+    explicit LimitedConnection(const std::string &prepare = "") : library_(ios15)
     {
+        library_.execute(prepare);
         sqlite3_open(library_.path().c_str(), &connection_);
         limit_.apply(connection_);
     }
@@ -27,6 +29,7 @@ public:
     {
         return sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr);
     }
+    std::string pages() { return std::to_string(library_.number("pragma page_count")); }
     const WorkLimit &limit() const { return limit_; }
 
 private:
@@ -79,4 +82,19 @@ TEST(WorkLimit, DoesNotCountMemoryThatIsTakenInFewSteps)
     const LimitedConnection connection;
     EXPECT_EQ(connection.execute("select length(hex(zeroblob(150000000)))"), SQLITE_OK);
     EXPECT_FALSE(connection.limit().isExceeded());
+}
+
+TEST(WorkLimit, GoesByThePagesOfTheDatabaseAndItsLog)
+{
+    constexpr const char *grown = "create table filler as with recursive n(i) as (select 1 union "
+                                  "all select i + 1 from n limit 3000) select zeroblob(100) from n";
+    for (const std::string pageSize : {"512", "4096", "65536"}) {
+        LimitedConnection connection("pragma page_size = " + pageSize + "; vacuum; " + grown);
+        EXPECT_NE(connection.limit().reason().find(" of " + connection.pages() + " pages"),
+                  std::string::npos)
+            << connection.limit().reason();
+    }
+    const LimitedConnection withLog(std::string("pragma journal_mode = wal; ") + grown);
+    const LimitedConnection without(grown);
+    EXPECT_NE(withLog.limit().reason(), without.limit().reason());
 }
