@@ -2,9 +2,12 @@
 
 #include "language/said.h"
 #include "language/sqlite_error.h"
+#include "model/store/real_tables.h"
 #include "model/store/untrusted_database.h"
 
 #include <fmt/format.h>
+
+#include <algorithm>
 
 namespace iosphoto::tool {
 
@@ -20,13 +23,6 @@ std::string uriOf(const std::string &file)
     }
     return uri;
 }
-
-/// SQLite makes sure that name and type are those of the statement, but takes a virtual table for a
-/// table. Hidden columns are computed ones.
-constexpr char suspectTables[] =
-    "select 1 from {schema}.sqlite_master where {condition} and type in ('table', 'view') "
-    "and (type <> 'table' or ifnull(sql, '') not like 'create table%' or exists "
-    "(select 1 from pragma_table_xinfo(sqlite_master.name, '{schema}') where hidden <> 0))";
 
 } // namespace
 
@@ -69,16 +65,17 @@ bool CopyDatabase::isDatabase() const
 bool CopyDatabase::areRealTables(const std::vector<std::string> &tables, const std::string &like,
                                  const std::string &schema) const
 {
-    bool areReal = true;
-    const auto check = [&](const std::string &condition, const std::string &name) {
-        forEachRow(fmt::format(suspectTables, fmt::arg("schema", schema),
-                               fmt::arg("condition", condition)),
-                   [&](const QueryRow & /*suspect*/) { areReal = false; }, {name});
+    const auto isMeant = [&](const std::string &name) {
+        constexpr unsigned escape = '^';
+        return sqlite3_strlike(like.c_str(), name.c_str(), escape) == 0 ||
+               std::any_of(tables.begin(), tables.end(), [&](const std::string &table) {
+                   return sqlite3_stricmp(table.c_str(), name.c_str()) == 0;
+               });
     };
-    for (const std::string &table : tables)
-        check("name = ?1 collate nocase", table);
-    check("name like ?1 escape '^'", like);
-    return areReal;
+    std::string impostor;
+    if (findImpostor(connection_.get(), schema, isMeant, impostor) != SQLITE_OK)
+        throw unreadable();
+    return impostor.empty();
 }
 
 bool CopyDatabase::hasTable(const std::string &table) const

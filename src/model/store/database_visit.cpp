@@ -2,13 +2,17 @@
 
 #include "model/store/database_lock.h"
 #include "model/store/database_path.h"
+#include "model/store/real_tables.h"
 #include "model/store/source_protection.h"
 #include "model/store/untrusted_database.h"
 #include "no_throw.h"
 
+#include <QRegularExpression>
+
 #include <sqlite3.h>
 
 #include <filesystem>
+#include <set>
 #include <utility>
 
 namespace iosphoto {
@@ -38,6 +42,22 @@ bool isFree(const QByteArray &name)
                            &isWritable) == SQLITE_OK &&
            isWritable != 0;
 }
+
+/// The tables that a statement names, in upper case.
+std::set<QString> tablesNamedIn(const QString &statement)
+{
+    static const QRegularExpression table(
+        QStringLiteral("\\b(?:(?:from|join)\\s+(\\w+)|(\\w+)\\.)"),
+        QRegularExpression::CaseInsensitiveOption);
+    std::set<QString> names;
+    for (auto found = table.globalMatch(statement); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        names.insert(match.captured(match.lastCapturedIndex()).toUpper());
+    }
+    return names;
+}
+
+constexpr const char *mainSchema = "main";
 
 } // namespace
 
@@ -139,29 +159,35 @@ bool DatabaseVisit::createView(const QString &view)
 bool DatabaseVisit::prepare(const QString &statement)
 {
     readingOnly_.apply(connection_.get());
-    const QByteArray text = statement.toUtf8();
     prepared_.emplace();
-    const bool isPrepared = check(sqlite3_prepare_v2(connection_.get(), text.constData(), -1,
-                                                     &prepared_->statement, nullptr));
+    const bool isPrepared = check(sqlite3_prepare_v2(
+        connection_.get(), statement.toUtf8().constData(), -1, &prepared_->statement, nullptr));
     if (readingOnly_.isOutOfMemory())
         return check(SQLITE_NOMEM);
     if (!isPrepared)
-        return stop_.code == SQLITE_ERROR ? refuseImpostor(text) : false;
-    std::string computed;
-    if (!check(readingOnly_.findComputed(computed)))
-        return false;
-    return computed.empty() ||
-           stopFor(SQLITE_AUTH, SQLITE_AUTH, computed + " has a computed column");
+        return stop_.code == SQLITE_ERROR ? refuseImpostor(statement) : false;
+    for (const std::string &table : readingOnly_.tables()) {
+        bool isComputed = false;
+        if (!check(hasComputedColumn(connection_.get(), mainSchema, table, isComputed)))
+            return false;
+        if (isComputed)
+            return stopForImpostor(table);
+    }
+    return true;
 }
 
 /// Where a statement does not prepare because of what stands in the place of a table, SQLite may
 /// speak of something inside of that.
-bool DatabaseVisit::refuseImpostor(const QByteArray &statement)
+bool DatabaseVisit::refuseImpostor(const QString &statement)
 {
+    const std::set<QString> tables = tablesNamedIn(statement);
+    const auto isMeant = [&](const std::string &name) {
+        return tables.count(QString::fromStdString(name).toUpper()) != 0;
+    };
     std::string impostor;
-    if (!check(readingOnly_.findImpostor(statement.constData(), impostor)) || impostor.empty())
+    if (!check(findImpostor(connection_.get(), mainSchema, isMeant, impostor)))
         return false;
-    return stopFor(SQLITE_AUTH, SQLITE_AUTH, impostor + " is no table");
+    return impostor.empty() ? false : stopForImpostor(impostor);
 }
 
 /// Notes a result that is no success.
@@ -179,6 +205,12 @@ bool DatabaseVisit::check(int result)
         connection_ != nullptr && sqlite3_errcode(connection_.get()) == primary;
     return stopFor(primary, isOfConnection ? sqlite3_extended_errcode(connection_.get()) : result,
                    isOfConnection ? sqlite3_errmsg(connection_.get()) : sqlite3_errstr(result));
+}
+
+bool DatabaseVisit::stopForImpostor(const std::string &name)
+{
+    return stopFor(SQLITE_AUTH, SQLITE_AUTH,
+                   name + " is a view, a virtual table, or has a computed column");
 }
 
 bool DatabaseVisit::stopForRollback()

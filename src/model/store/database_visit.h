@@ -87,8 +87,9 @@ private:
     static int waitForLock(void *self, int times);
     bool createView(const QString &view);
     bool prepare(const QString &statement);
-    bool refuseImpostor(const QByteArray &statement);
+    bool refuseImpostor(const QString &statement);
     bool check(int result);
+    bool stopForImpostor(const std::string &name);
     bool stopForRollback();
     bool stopFor(int code, int extendedCode, std::string text);
 

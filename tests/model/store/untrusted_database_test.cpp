@@ -19,7 +19,7 @@ struct NoTable
     const char *label;
     const char *change;
     Pass::Code pass; ///< that reads nothing, as the first
-    const char *text;
+    const char *table;
 
     std::string name() const { return label; }
 };
@@ -33,23 +33,23 @@ constexpr NoTable noTables[] = {
     {"EndlessAssets",
      "drop table ZASSET; create view ZASSET as with recursive endless(Z_PK) as (select 1 union all "
      "select Z_PK + 1 from endless) select Z_PK, 3 Z_ENT from endless",
-     Pass::CameraRoll, "ZASSET is no table"},
+     Pass::CameraRoll, "ZASSET"},
     {"EndlessEntities",
      "drop table Z_PRIMARYKEY; create view Z_PRIMARYKEY as with recursive endless(Z_ENT) as "
      "(select 1 union all select Z_ENT + 1 from endless) select Z_ENT, 'Asset' Z_NAME, 0 Z_SUPER "
      "from endless",
-     Pass::AssetEntity, "Z_PRIMARYKEY is no table"},
+     Pass::AssetEntity, "Z_PRIMARYKEY"},
     {"ViewOfTheAlbums",
      "alter table ZGENERICALBUM rename to real; create view ZGENERICALBUM as select * from real",
-     Pass::CameraRoll, "ZGENERICALBUM is no table"},
+     Pass::CameraRoll, "ZGENERICALBUM"},
     {"VirtualTable",
      "drop table Z_27ASSETS; create virtual table Z_27ASSETS using rtree(Z_27ALBUMS, Z_3ASSETS, "
      "Z_FOK_3ASSETS)",
-     Pass::CameraRoll, "Z_27ASSETS is no table"},
+     Pass::CameraRoll, "Z_27ASSETS"},
     {"ComputedColumn",
      "alter table ZASSET drop column ZWIDTH; "
      "alter table ZASSET add column ZWIDTH as (length(hex(zeroblob(10000000))))",
-     Pass::CameraRoll, "ZASSET has a computed column"},
+     Pass::CameraRoll, "ZASSET"},
 };
 
 } // namespace
@@ -76,7 +76,8 @@ TEST_P(NoTableIsRead, AndTheReportSaysWhy)
     EXPECT_EQ(stop->pass, GetParam().pass);
     EXPECT_EQ(stop->code, 23);
     EXPECT_EQ(stop->rows, 0);
-    EXPECT_EQ(stop->text, GetParam().text);
+    EXPECT_EQ(stop->text, GetParam().table + std::string(" is a view, a virtual table, or has a "
+                                                         "computed column"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, NoTableIsRead, testing::ValuesIn(noTables), NameOfCase());
