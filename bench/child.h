@@ -6,7 +6,7 @@
 
 namespace iosphoto::bench {
 
-enum class Output { Kept, Dropped };
+enum class Output { Elide, Dropped };
 
 /// What a program left when it ended.
 struct ChildRun

@@ -3,7 +3,7 @@
 #include "device.h"
 #include "floor_columns.h"
 #include "model/model_devicephoto_dbmgr.h"
-#include "model/statement_tables.h"
+#include "model/statements/statement_tables.h"
 #include "model/store/source_protection.h"
 #include "model/store/untrusted_database.h"
 #include "sqlite_handles.h"

@@ -4,7 +4,7 @@
 #ifndef IOSPHOTO_BENCH_FLOOR_COLUMNS_H
 #define IOSPHOTO_BENCH_FLOOR_COLUMNS_H
 
-#include "model/row_columns.h"
+#include "model/passes/row_columns.h"
 
 #include <sqlite3.h>
 

@@ -47,7 +47,7 @@ void printOutputBytes(const std::filesystem::path &database, const std::string &
 std::optional<double> outputBytes(const std::filesystem::path &database, const std::string &format)
 {
     const std::string self = std::filesystem::read_symlink("/proc/self/exe").string();
-    const ChildRun child = runChild({self, outputOption, database.string(), format}, Output::Kept);
+    const ChildRun child = runChild({self, outputOption, database.string(), format}, Output::Elide);
     if (child.status != 0)
         throw std::runtime_error("cannot measure the memory for " + database.string());
     return std::stod(child.output);

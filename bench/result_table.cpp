@@ -1,7 +1,7 @@
 #include "result_table.h"
 
 #include "judgement.h"
-#include "output/text_table.h"
+#include "terminal/text_table.h"
 
 #include <fmt/format.h>
 

@@ -1,13 +1,12 @@
 #include "commands/command.h"
-#include "commands/evidence_option.h"
 #include "commands/general_options.h"
 #include "commands/wrong_usage.h"
-#include "evidence/with_evidence.h"
-#include "failure.h"
-#include "language/said.h"
-#include "output/interruption_watch.h"
-#include "output/notice.h"
-#include "output/standard_output.h"
+#include "evidence/evidence.h"
+#include "interruption_watch.h"
+#include "process/failure.h"
+#include "standard_output.h"
+#include "terminal/messages.h"
+#include "text/translate.h"
 
 #include <CLI/CLI.hpp>
 
@@ -27,7 +26,7 @@ using namespace iosphoto::tool;
 int run(int argumentCount, char **arguments)
 {
     obeyLookOptions(argumentCount, arguments);
-    CLI::App app(said("Reads the photo libraries of iOS devices. The files are only read."),
+    CLI::App app(translate("Reads the photo libraries of iOS devices. The files are only read."),
                  "iosphoto");
     app.require_subcommand(1);
 
@@ -66,10 +65,10 @@ int main(int argumentCount, char **arguments)
     } catch (const OutputClosed &closed) {
         return closed.status();
     } catch (const Failure &failure) {
-        sayFailure(failure.what());
+        printError(failure.what());
         return failure.status();
     } catch (const std::exception &error) { // lack of memory, a temporary folder that vanished
-        sayFailure(error.what());
+        printError(error.what());
         return CannotAccess;
     }
 }

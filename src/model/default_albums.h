@@ -2,7 +2,7 @@
 #define IOSPHOTO_DEFAULT_ALBUMS_H
 
 #include "ios_photo.h"
-#include "model/device_profile.h"
+#include "model/device/device_profile.h"
 
 namespace iosphoto {
 

@@ -1,8 +1,8 @@
 #include "model/smart_album_rules.h"
 
 #include "model/asset_codes.h"
-#include "model/camera_roll_columns.h"
 #include "model/clock.h"
+#include "model/passes/camera_roll_columns.h"
 #include "model/trash.h"
 #include "records/record_ownership.h"
 

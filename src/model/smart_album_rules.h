@@ -2,7 +2,7 @@
 #define IOSPHOTO_SMART_ALBUM_RULES_H
 
 #include "ios_photo.h"
-#include "model/device_profile.h"
+#include "model/device/device_profile.h"
 #include "model/store/row.h"
 
 #include <array>

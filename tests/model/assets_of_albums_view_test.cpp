@@ -1,7 +1,7 @@
 // The contents of albums are read through a view that leaves out the assets of no album. It must
 // not make a difference, whatever the tables hold.
-#include "model/entity_numbers.h"
-#include "model/statement_tables.h"
+#include "model/statements/entity_numbers.h"
+#include "model/statements/statement_tables.h"
 #include "model/store/database_visit.h"
 #include "support/library_builder.h"
 

@@ -1,4 +1,4 @@
-#include "model/day_text.h"
+#include "model/passes/day_text.h"
 
 #include "model/core_data_time.h"
 #include "support/case_name.h"

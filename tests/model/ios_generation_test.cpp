@@ -1,4 +1,4 @@
-#include "model/ios_generation.h"
+#include "model/device/ios_generation.h"
 #include "support/case_name.h"
 
 #include <gtest/gtest.h>

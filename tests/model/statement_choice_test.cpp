@@ -1,4 +1,4 @@
-#include "model/statement_tables.h"
+#include "model/statements/statement_tables.h"
 #include "support/case_name.h"
 
 #include <gtest/gtest.h>

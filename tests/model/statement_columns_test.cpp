@@ -1,5 +1,5 @@
-#include "model/row_columns.h"
-#include "model/statement_tables.h"
+#include "model/passes/row_columns.h"
+#include "model/statements/statement_tables.h"
 #include "support/case_name.h"
 #include "support/library_builder.h"
 

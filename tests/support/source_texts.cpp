@@ -67,10 +67,10 @@ private:
 /// The places in a marker's arguments where texts are.
 std::size_t textArguments(const std::string &word)
 {
-    const std::vector<std::string> ofOneText = {"said", "translated", "translatable"};
+    const std::vector<std::string> ofOneText = {"translate", "translateTerm", "translatable"};
     if (std::find(ofOneText.begin(), ofOneText.end(), word) != ofOneText.end())
         return 1;
-    return word == "saidIn" ? 2 : word == "counted" ? 3 : 0;
+    return word == "translateTo" ? 2 : word == "counted" ? 3 : 0;
 }
 
 /// The marker that a token names counts in the arguments that follow it.

@@ -7,8 +7,9 @@
 
 namespace iosphoto::test {
 
-/// The literals of C++ source code that are marked as texts for people: what said(), saidIn(),
-/// translated(), translatable() and counted() are given. Literals that follow each other are one.
+/// The literals of C++ source code that are marked as texts for people: what translate(),
+/// translateTo(), translateTerm(), translatable() and counted() are given. Literals that follow
+/// each other are one.
 std::set<std::string> textsOf(const std::string &source);
 
 /// Those of all sources in a folder.

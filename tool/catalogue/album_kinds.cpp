@@ -1,6 +1,6 @@
 #include "catalogue/album_kinds.h"
 
-#include "language/said.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
@@ -51,9 +51,9 @@ const KindNames &namesOf(const CAlbumGroup &album)
 std::string kindText(const CAlbumGroup &album, Language language)
 {
     if (album.albumKind == Kind::PhotoLibrary && isOfTheTable(album))
-        return saidIn(language, "Untitled album");
-    const std::string kind = translated(namesOf(album).english, language);
-    return collectsFromAlbums(album) ? saidIn(language, "{0} from albums", kind) : kind;
+        return translateTo(language, "Untitled album");
+    const std::string kind = translateTerm(namesOf(album).english, language);
+    return collectsFromAlbums(album) ? translateTo(language, "{0} from albums", kind) : kind;
 }
 
 } // namespace
@@ -82,7 +82,7 @@ std::string englishKind(const CAlbumGroup &album)
 
 std::string shownKind(const CAlbumGroup &album)
 {
-    return kindText(album, spokenLanguage());
+    return kindText(album, currentLanguage());
 }
 
 std::string shownName(const CAlbumGroup &album)

@@ -1,6 +1,6 @@
 #include "catalogue/assets.h"
 
-#include "catalogue/traits.h"
+#include "catalogue/photo_kinds.h"
 
 #include <algorithm>
 #include <cstdint>

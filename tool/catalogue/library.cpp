@@ -1,16 +1,16 @@
 #include "catalogue/library.h"
 
 #include "catalogue/reading_stop.h"
-#include "failure.h"
-#include "language/said.h"
 #include "model/clock.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/store/database_path.h"
 #include "model/store/stored_bytes.h"
-#include "output/busy_line.h"
-#include "output/notice.h"
+#include "process/failure.h"
 #include "records/record_ownership.h"
-#include "source/table_damage.h"
+#include "schema/table_damage.h"
+#include "terminal/busy_line.h"
+#include "terminal/messages.h"
+#include "text/translate.h"
 
 #include <algorithm>
 #include <limits>
@@ -47,8 +47,8 @@ std::int64_t mostRowsOfAPass(const std::string &database)
 Moment ownTimeOf(const Source &source)
 {
     if (const auto date = source.backupDate())
-        return {*date, said("Last Backup Date")};
-    return {source.lastChange(), said("its last change")};
+        return {*date, translate("Last Backup Date")};
+    return {source.lastChange(), translate("its last change")};
 }
 
 Library::Library(const LibraryRequest &request) : Library(request, Source(request.source)) {}
@@ -89,7 +89,7 @@ void Library::read(const OpenedCopy &copy)
     manager.rowLimit = mostRowsOfAPass(copy.file());
     const ReadDatabase database = {database_, adviceToCopyAgain(), manager.rowLimit};
     const int result = [&] {
-        const BusyLine busy(said("reading photos"));
+        const BusyLine busy(translate("reading photos"));
         return manager.GetPhotoAlbumDatas();
     }();
     albums_ = std::move(manager.albums);
@@ -107,8 +107,8 @@ void Library::read(const OpenedCopy &copy)
 std::string Library::assumptions() const
 {
     const std::string when = localTimeText(asOf_.unixTime);
-    return said("reading as {0} and {1}, as of {2}", schema_.iosText(), schema_.productText(),
-                asOf_.why.empty() ? when : said("{0} ({1})", when, asOf_.why));
+    return translate("reading as {0} and {1}, as of {2}", schema_.iosText(), schema_.productText(),
+                     asOf_.why.empty() ? when : translate("{0} ({1})", when, asOf_.why));
 }
 
 void Library::sayHowItWasRead(const std::string &label) const
@@ -117,15 +117,15 @@ void Library::sayHowItWasRead(const std::string &label) const
     if (schema_.isAssumed() || !asOf_.why.empty())
         line = assumptions();
     if (leftOut_ > 0)
-        line +=
-            (line.empty() ? "" : said("; ")) +
-            said("left out since they were in the trash for 30 days: {0} (see --as-of)", leftOut_);
+        line += (line.empty() ? "" : translate("; ")) +
+                translate("left out since they were in the trash for 30 days: {0} (see --as-of)",
+                          leftOut_);
     if (!line.empty())
-        remark(label + line);
+        printInfo(label + line);
     if (!schema_.warning.empty())
-        notice(label + schema_.warning);
+        printWarning(label + schema_.warning);
     for (const std::string &text : missing_)
-        notice(label + text);
+        printWarning(label + text);
 }
 
 } // namespace iosphoto::tool

@@ -2,11 +2,11 @@
 #define IOSPHOTO_TOOL_LIBRARY_H
 
 #include "catalogue/log_changes.h"
-#include "catalogue/moment.h"
 #include "catalogue/trash.h"
-#include "exit_status.h"
 #include "ios_photo.h"
-#include "source/opened_copy.h"
+#include "process/exit_status.h"
+#include "schema/opened_copy.h"
+#include "time/time_text.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "catalogue/log_changes.h"
 
-#include "language/said.h"
-#include "source/file_tree.h"
+#include "input/tree/file_tree.h"
+#include "text/translate.h"
 
 #include <QByteArray>
 

@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_LOG_CHANGES_H
 #define IOSPHOTO_TOOL_LOG_CHANGES_H
 
-#include "source/copy_database.h"
+#include "sqlite/copy_database.h"
 
 #include <string>
 #include <vector>

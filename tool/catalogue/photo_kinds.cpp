@@ -1,9 +1,8 @@
 #include "catalogue/photo_kinds.h"
 
-#include "catalogue/traits.h"
-#include "failure.h"
-#include "language/did_you_mean.h"
-#include "language/said.h"
+#include "process/failure.h"
+#include "text/did_you_mean.h"
+#include "text/translate.h"
 
 #include <fmt/ranges.h>
 
@@ -51,8 +50,8 @@ KindTest kindNamed(const std::string &name)
     for (const PhotoKind &kind : photoKinds())
         if (small == kind.name || small == kind.name + std::string("s"))
             return kind.test;
-    throw Failure(WrongUsage, said("--kind: there is no kind '{0}'; there are {1}", name,
-                                   fmt::join(kindNames(), ", ")) +
+    throw Failure(WrongUsage, translate("--kind: there is no kind '{0}'; there are {1}", name,
+                                        fmt::join(kindNames(), ", ")) +
                                   didYouMean(small, kindNames()));
 }
 

@@ -1,7 +1,7 @@
 #include "catalogue/reading_stop.h"
 
-#include "language/said.h"
-#include "language/sqlite_error.h"
+#include "sqlite/sqlite_error.h"
+#include "text/translate.h"
 
 #include <set>
 
@@ -13,9 +13,9 @@ namespace {
 std::string missingWithout(std::int32_t pass)
 {
     if (pass == Pass::UserAlbums)
-        return said("albums are missing here");
-    return pass == Pass::AlbumContents ? said("photos are missing from albums here")
-                                       : said("photos are missing here");
+        return translate("albums are missing here");
+    return pass == Pass::AlbumContents ? translate("photos are missing from albums here")
+                                       : translate("photos are missing here");
 }
 
 std::string sentenceOf(const CPassReport &stop, const ReadDatabase &database)
@@ -24,14 +24,15 @@ std::string sentenceOf(const CPassReport &stop, const ReadDatabase &database)
     const std::string missing = missingWithout(stop.pass);
     const std::string remedy = remedyFor(stop.extendedCode, database.adviceIfDamaged);
     if (stop.code == SQLITE_ABORT)
-        return said("the tables of '{0}' make more than {1} rows of its photos, as only damage or "
-                    "intent does, and {2}; {3}",
-                    name, database.rowLimit, missing, remedy);
+        return translate(
+            "the tables of '{0}' make more than {1} rows of its photos, as only damage or "
+            "intent does, and {2}; {3}",
+            name, database.rowLimit, missing, remedy);
     const std::string why = sqliteError(stop.extendedCode);
     if (isOfDatabase(stop.code) && stop.code != SQLITE_INTERRUPT)
-        return said("'{0}' is damaged ({1}) and {2}; {3}", name, why, missing, remedy);
-    return said("'{0}' could not be read to its end ({1}) and {2}; {3}", name, why, missing,
-                remedy);
+        return translate("'{0}' is damaged ({1}) and {2}; {3}", name, why, missing, remedy);
+    return translate("'{0}' could not be read to its end ({1}) and {2}; {3}", name, why, missing,
+                     remedy);
 }
 
 } // namespace
@@ -51,9 +52,9 @@ Failure nothingRead(int code, const ReadDatabase &database)
     const std::string remedy = remedyFor(code, database.adviceIfDamaged);
     const std::string why = sqliteError(code);
     if (isOfDatabase(code) && code != SQLITE_INTERRUPT)
-        return {CannotAccess, said("'{0}' is damaged ({1}) and no photo could be read; {2}",
-                                   database.name, why, remedy)};
-    return {CannotAccess, said("cannot read '{0}': {1}; {2}", database.name, why, remedy)};
+        return {CannotAccess, translate("'{0}' is damaged ({1}) and no photo could be read; {2}",
+                                        database.name, why, remedy)};
+    return {CannotAccess, translate("cannot read '{0}': {1}; {2}", database.name, why, remedy)};
 }
 
 } // namespace iosphoto::tool

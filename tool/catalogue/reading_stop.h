@@ -2,8 +2,8 @@
 #ifndef IOSPHOTO_TOOL_READING_STOP_H
 #define IOSPHOTO_TOOL_READING_STOP_H
 
-#include "failure.h"
 #include "ios_photo_report.h"
+#include "process/failure.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #include "catalogue/summary.h"
 
-#include "catalogue/moment.h"
 #include "catalogue/photo_kinds.h"
+#include "time/time_text.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #define IOSPHOTO_TOOL_TRASH_H
 
 #include "ios_photo.h"
-#include "source/copy_database.h"
+#include "sqlite/copy_database.h"
 
 #include <map>
 #include <optional>

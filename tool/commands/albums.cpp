@@ -1,11 +1,11 @@
 #include "commands/command.h"
-#include "commands/help_footer.h"
+#include "commands/help.h"
 #include "commands/library_options.h"
 #include "commands/row_format_options.h"
-#include "language/said.h"
-#include "output/printable.h"
 #include "rows/album_fields.h"
 #include "rows/library_database.h"
+#include "text/printable.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
@@ -31,7 +31,7 @@ ExitStatus showAlbums(const AlbumsRequest &request, std::ostream &out)
     library.sayHowItWasRead();
     if (request.format.sqlite) {
         writeAlbumDatabase(*request.format.sqlite, library);
-        out << said("wrote {0}", printable(*request.format.sqlite)) << '\n';
+        out << translate("wrote {0}", printable(*request.format.sqlite)) << '\n';
     } else {
         const auto writer = makeRowWriter(request.format, out);
         printAlbums({*writer, {"albums", libraryHead(library)}, fields}, library);
@@ -44,7 +44,7 @@ ExitStatus showAlbums(const AlbumsRequest &request, std::ostream &out)
 Command addAlbums(CLI::App &app)
 {
     const auto request = std::make_shared<AlbumsRequest>();
-    CLI::App *command = app.add_subcommand("albums", said("List the albums of a library"));
+    CLI::App *command = app.add_subcommand("albums", translate("List the albums of a library"));
     addLibraryOptions(*command, request->library);
     addRowFormatOptions(*command, request->format);
     command->footer(helpFooter(

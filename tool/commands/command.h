@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_COMMAND_H
 #define IOSPHOTO_TOOL_COMMAND_H
 
-#include "exit_status.h"
+#include "process/exit_status.h"
 
 #include <CLI/CLI.hpp>
 

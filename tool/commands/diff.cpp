@@ -2,11 +2,11 @@
 #include "commands/difference_csv.h"
 #include "commands/difference_document.h"
 #include "commands/difference_table.h"
-#include "commands/help_footer.h"
+#include "commands/help.h"
 #include "commands/library_options.h"
-#include "commands/looks_like.h"
-#include "language/said.h"
-#include "output/notice.h"
+#include "commands/option_values.h"
+#include "terminal/messages.h"
+#include "text/translate.h"
 
 #include <algorithm>
 
@@ -64,15 +64,15 @@ void checkThatTheyAreRelated(const Library &before, const Library &after,
     const int onlyThere = difference.count(Change::Gone);
     const int onlyHere = difference.count(Change::New);
     if (difference.photos.inBoth == 0 && onlyThere > 0 && onlyHere > 0)
-        notice(said("'{0}' and '{1}' have no photo in common; are they of one phone?",
-                    before.name(), after.name()));
+        printWarning(translate("'{0}' and '{1}' have no photo in common; are they of one phone?",
+                               before.name(), after.name()));
 }
 
 ExitStatus statusOf(const Library &before, const Library &after,
                     const LibraryDifference &difference)
 {
     if (before.status() != Good || after.status() != Good) {
-        notice(said("what is missing may look like a difference, or hide one"));
+        printWarning(translate("what is missing may look like a difference, or hide one"));
         return CannotAccess;
     }
     return difference.isNone() ? Good : Different;
@@ -81,7 +81,7 @@ ExitStatus statusOf(const Library &before, const Library &after,
 /// Both libraries are read as of one moment, so that time alone makes no photo leave the trash.
 Moment earlierOf(const Moment &one, const Moment &other)
 {
-    return {std::min(one.unixTime, other.unixTime), said("the earlier of both")};
+    return {std::min(one.unixTime, other.unixTime), translate("the earlier of both")};
 }
 
 ExitStatus showDifference(const DiffRequest &request, std::ostream &out)
@@ -108,28 +108,29 @@ Command addDiff(CLI::App &app)
 {
     const auto request = std::make_shared<DiffRequest>();
     CLI::App *command =
-        app.add_subcommand("diff", said("Compare two snapshots of the library of one phone"));
-    command->add_option("A", request->before, said("the earlier library"))
+        app.add_subcommand("diff", translate("Compare two snapshots of the library of one phone"));
+    command->add_option("A", request->before, translate("the earlier library"))
         ->required()
         ->check(notEmpty());
-    command->add_option("B", request->after, said("the later library"))
+    command->add_option("B", request->after, translate("the later library"))
         ->required()
         ->check(notEmpty());
     addDeviceOptions(*command, request->device);
     CLI::Option *const json =
-        command->add_flag("--json", request->asJson, said("print a JSON document"));
-    CLI::Option *const jsonLines = command->add_flag(
-        "--jsonl", request->asJsonLines, said("print a JSON object a line, for the photos only"));
+        command->add_flag("--json", request->asJson, translate("print a JSON document"));
+    CLI::Option *const jsonLines =
+        command->add_flag("--jsonl", request->asJsonLines,
+                          translate("print a JSON object a line, for the photos only"));
     CLI::Option *const csv =
-        command->add_flag("--csv", request->asCsv, said("print CSV, for the photos only"));
+        command->add_flag("--csv", request->asCsv, translate("print CSV, for the photos only"));
     json->excludes(jsonLines, csv);
     jsonLines->excludes(csv);
-    command->footer(
-        helpFooter({said("Both libraries are read as of the time of the earlier one."),
-                    examples({"iosphoto diff May/Photos.sqlite June/Photos.sqlite",
-                              "iosphoto diff May/Photos.sqlite June/Photos.sqlite --json"}),
-                    said("Exit: 0 same, 1 different, 2 wrong usage, 3 to 6 unusable files; see "
-                         "the README")}));
+    command->footer(helpFooter(
+        {translate("Both libraries are read as of the time of the earlier one."),
+         examples({"iosphoto diff May/Photos.sqlite June/Photos.sqlite",
+                   "iosphoto diff May/Photos.sqlite June/Photos.sqlite --json"}),
+         translate("Exit: 0 same, 1 different, 2 wrong usage, 3 to 6 unusable files; see "
+                   "the README")}));
     return {command, [request](std::ostream &out) { return showDifference(*request, out); }};
 }
 

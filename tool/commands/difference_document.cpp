@@ -1,5 +1,7 @@
 #include "commands/difference_document.h"
 
+#include "rows/library_head.h"
+
 namespace iosphoto::tool {
 
 namespace {

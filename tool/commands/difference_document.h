@@ -1,9 +1,9 @@
 #ifndef IOSPHOTO_TOOL_DIFFERENCE_DOCUMENT_H
 #define IOSPHOTO_TOOL_DIFFERENCE_DOCUMENT_H
 
+#include "catalogue/difference.h"
 #include "catalogue/library.h"
-#include "catalogue/library_difference.h"
-#include "output/json_document.h"
+#include "text/json.h"
 
 namespace iosphoto::tool {
 

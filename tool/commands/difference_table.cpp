@@ -1,10 +1,10 @@
 #include "commands/difference_table.h"
 
 #include "catalogue/album_kinds.h"
-#include "language/said.h"
-#include "output/counted.h"
-#include "output/paragraph.h"
-#include "output/text_table.h"
+#include "terminal/paragraph.h"
+#include "terminal/text_table.h"
+#include "text/numbers.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
@@ -16,36 +16,36 @@ std::string joined(const Words &words)
 {
     std::string line;
     for (const std::string &word : words)
-        line += (line.empty() ? "" : said(", ")) + word;
+        line += (line.empty() ? "" : translate(", ")) + word;
     return line;
 }
 
 template <typename AnyChange>
 std::string changeWord(AnyChange change)
 {
-    return translated(changeName(change));
+    return translateTerm(changeName(change));
 }
 
 std::string fieldWords(ChangedField field, const CPhotoData &before, const CPhotoData &after)
 {
     switch (field) {
     case ChangedField::Favorite:
-        return after.isFavorite ? said("now a favorite") : said("no longer a favorite");
+        return after.isFavorite ? translate("now a favorite") : translate("no longer a favorite");
     case ChangedField::Hidden:
-        return after.isHidden ? said("now hidden") : said("no longer hidden");
+        return after.isHidden ? translate("now hidden") : translate("no longer hidden");
     case ChangedField::FileName:
-        return said("was named {0}", before.fileName.toStdString());
+        return translate("was named {0}", before.fileName.toStdString());
     case ChangedField::Created:
         break;
     }
-    return said("has another time of creation");
+    return translate("has another time of creation");
 }
 
 /// What the edit made of a photo that had one before.
 void addEdit(Words &words, const CPhotoData &before, const CPhotoData &after)
 {
     if (before.isEdited)
-        words.push_back(after.isEdited ? said("edited again") : said("edit undone"));
+        words.push_back(after.isEdited ? translate("edited again") : translate("edit undone"));
 }
 
 /// What the word for the change does not say.
@@ -53,7 +53,7 @@ Words details(const PhotoDifference &photo)
 {
     Words words;
     if (!photo.after && photo.before->facts().isDeleted)
-        words.push_back(said("gone from the trash"));
+        words.push_back(translate("gone from the trash"));
     if (!photo.before || !photo.after)
         return words;
     const CPhotoData before = photo.before->facts();
@@ -62,9 +62,9 @@ Words details(const PhotoDifference &photo)
         if (change == Change::Edited)
             addEdit(words, before, after);
     for (const CAlbumGroup *album : photo.addedTo)
-        words.push_back(said("added to {0}", shownName(*album)));
+        words.push_back(translate("added to {0}", shownName(*album)));
     for (const CAlbumGroup *album : photo.removedFrom)
-        words.push_back(said("removed from {0}", shownName(*album)));
+        words.push_back(translate("removed from {0}", shownName(*album)));
     for (const ChangedField field : photo.changedFields)
         words.push_back(fieldWords(field, before, after));
     return words;
@@ -74,8 +74,8 @@ void addRow(TextTable &table, const AlbumDifference &album)
 {
     const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
     const bool isRenamed = album.change == AlbumChange::Renamed;
-    table.add({said("album {0}", changeWord(album.change)), shownName(latest),
-               isRenamed ? said("was named {0}", shownName(*album.before)) : ""});
+    table.add({translate("album {0}", changeWord(album.change)), shownName(latest),
+               isRenamed ? translate("was named {0}", shownName(*album.before)) : ""});
 }
 
 void addRow(TextTable &table, const PhotoDifference &photo)
@@ -93,7 +93,7 @@ Words counts(const LibraryDifference &difference, const Changes &changes)
     Words words;
     for (const auto change : changes)
         if (const int count = difference.count(change); count > 0)
-            words.push_back(said("{0} {1}", grouped(count), changeWord(change)));
+            words.push_back(translate("{0} {1}", grouped(count), changeWord(change)));
     return words;
 }
 
@@ -102,9 +102,9 @@ std::string summary(const LibraryDifference &difference)
     const Words photos = counts(difference, allChanges);
     const Words albums = counts(difference, allAlbumChanges);
     if (albums.empty())
-        return photos.empty() ? said("no difference") : joined(photos);
-    return (photos.empty() ? "" : joined(photos) + said("; ")) +
-           said("albums: {0}", joined(albums));
+        return photos.empty() ? translate("no difference") : joined(photos);
+    return (photos.empty() ? "" : joined(photos) + translate("; ")) +
+           translate("albums: {0}", joined(albums));
 }
 
 } // namespace
@@ -112,8 +112,9 @@ std::string summary(const LibraryDifference &difference)
 void printDifferenceTable(const LibraryDifference &difference, std::ostream &out)
 {
     if (!difference.isNone()) {
-        TextTable table(
-            {{said("CHANGE")}, {said("FILE"), TextTable::Align::Left, Kept::End}, {said("WHAT")}});
+        TextTable table({{translate("CHANGE")},
+                         {translate("FILE"), TextTable::Align::Left, Elide::Left},
+                         {translate("WHAT")}});
         for (const AlbumDifference &album : difference.albums)
             addRow(table, album);
         for (const PhotoDifference &photo : difference.photos.differences)

@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_DIFFERENCE_TABLE_H
 #define IOSPHOTO_TOOL_DIFFERENCE_TABLE_H
 
-#include "catalogue/library_difference.h"
+#include "catalogue/difference.h"
 
 #include <ostream>
 

@@ -1,10 +1,11 @@
 #include "commands/general_options.h"
 
-#include "commands/help_format.h"
-#include "failure.h"
-#include "language/said.h"
-#include "output/notice.h"
-#include "output/terminal.h"
+#include "commands/help.h"
+#include "commands/option_values.h"
+#include "process/failure.h"
+#include "terminal/messages.h"
+#include "terminal/terminal.h"
+#include "text/translate.h"
 
 #include <algorithm>
 #include <memory>
@@ -56,8 +57,8 @@ Value chosen(const std::string &option, const Choices<Value> &choices,
     const auto found = std::find_if(choices.begin(), choices.end(),
                                     [&](const auto &choice) { return choice.first == *name; });
     if (found == choices.end())
-        throw Failure(WrongUsage, said("{0}: '{1}' is none of {2}; see iosphoto --help", option,
-                                       *name, joined(choices, ", ")));
+        throw Failure(WrongUsage, translate("{0}: '{1}' is none of {2}; see iosphoto --help",
+                                            option, *name, joined(choices, ", ")));
     return found->second;
 }
 
@@ -65,21 +66,21 @@ void addGeneralOptionsTo(CLI::App &command, const std::string &version)
 {
     for (CLI::Option *option : command.get_options())
         if (option->get_group() == "Options")
-            option->group(said("Options"));
-    const std::string group = said("General");
+            option->group(translate("Options"));
+    const std::string group = translate("General");
     const auto obeyed = [](const std::string &) {}; // obeyLookOptions() has done it
-    command.add_option_function<std::string>("--lang", obeyed, said("language of texts"))
+    command.add_option_function<std::string>("--lang", obeyed, translate("language of texts"))
         ->type_name(joined(languages, "|"))
         ->group(group);
-    command.add_option_function<std::string>("--color", obeyed, said("when to use colors"))
+    command.add_option_function<std::string>("--color", obeyed, translate("when to use colors"))
         ->type_name(joined(colors, "|"))
         ->group(group);
     command
         .add_flag_callback(
-            "-q,--quiet", [] { beQuiet(true); }, said("no remarks and no progress"))
+            "-q,--quiet", [] { beQuiet(true); }, translate("no remarks and no progress"))
         ->group(group);
-    command.set_version_flag("--version", version, said("print the version"))->group(group);
-    command.set_help_flag("-h,--help", said("print this help"))->group(group);
+    command.set_version_flag("--version", version, translate("print the version"))->group(group);
+    command.set_help_flag("-h,--help", translate("print this help"))->group(group);
 }
 
 } // namespace
@@ -88,8 +89,8 @@ void obeyLookOptions(int argumentCount, char **arguments)
 {
     const std::vector<std::string> given(arguments + std::min(argumentCount, 1),
                                          arguments + argumentCount);
-    speak(languageOfLocale());
-    speak(chosen("--lang", languages, given, spokenLanguage()));
+    setLanguage(languageOfLocale());
+    setLanguage(chosen("--lang", languages, given, currentLanguage()));
     chooseColor(chosen("--color", colors, given, ColorChoice::Auto));
 }
 
@@ -100,9 +101,19 @@ void addGeneralOptions(CLI::App &app, const std::string &version)
     addGeneralOptionsTo(app, version);
     for (CLI::App *command : app.get_subcommands({})) {
         command->formatter(format);
-        command->group(said("Commands"));
+        command->group(translate("Commands"));
         addGeneralOptionsTo(*command, version);
     }
+}
+
+void addEvidenceOption(CLI::App &command, std::optional<std::string> &file)
+{
+    command
+        .add_option("--evidence", file,
+                    translate("write a JSON file that lists the files read and written, with their "
+                              "SHA-256 hashes"))
+        ->type_name(translate("FILE"))
+        ->check(notEmpty());
 }
 
 } // namespace iosphoto::tool

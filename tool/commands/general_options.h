@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <optional>
 #include <string>
 
 namespace iosphoto::tool {
@@ -15,6 +16,9 @@ void obeyLookOptions(int argumentCount, char **arguments);
 /// the parser speak the language of the rest.
 /// @param version  what --version prints
 void addGeneralOptions(CLI::App &app, const std::string &version);
+
+/// Adds --evidence, which every command has.
+void addEvidenceOption(CLI::App &command, std::optional<std::string> &file);
 
 } // namespace iosphoto::tool
 

@@ -2,17 +2,16 @@
 #include "catalogue/photo_kinds.h"
 #include "catalogue/summary.h"
 #include "commands/command.h"
-#include "commands/help_footer.h"
+#include "commands/help.h"
 #include "commands/info_document.h"
 #include "commands/library_options.h"
-#include "language/said.h"
 #include "model/core_data_time.h"
-#include "output/json_document.h"
-#include "output/paragraph.h"
-#include "output/printable.h"
-#include "output/readable_size.h"
-#include "output/row_blocks.h"
-#include "output/text_table.h"
+#include "terminal/paragraph.h"
+#include "terminal/text_table.h"
+#include "text/json.h"
+#include "text/numbers.h"
+#include "text/printable.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
@@ -32,13 +31,13 @@ std::string localTimeOf(const std::optional<double> &coreDataSeconds)
 
 std::string withMore(const std::string &what, const std::string &more)
 {
-    return more.empty() ? what : what + said(", ") + more;
+    return more.empty() ? what : what + translate(", ") + more;
 }
 
 std::string schemaText(const Library &library)
 {
     const std::optional<std::int64_t> &model = library.schema().metadata.modelVersion;
-    return withMore(library.schema().shownName, model ? said("model {0}", *model) : "");
+    return withMore(library.schema().shownName, model ? translate("model {0}", *model) : "");
 }
 
 void printFacts(const Library &library, const Summary &summary, std::ostream &out)
@@ -49,53 +48,56 @@ void printFacts(const Library &library, const Summary &summary, std::ostream &ou
         labels.push_back(label);
         facts.push_back(printable(fact));
     };
-    add(said("LIBRARY"), library.name());
+    add(translate("LIBRARY"), library.name());
     const ProbedSchema &schema = library.schema();
-    add(said("Device"),
-        schema.productOrigin == DeviceOrigin::Assumption
-            ? said("not recorded; read like {0}, which hides no album", schema.device.productType)
-            : schema.productText());
-    add(said("System"), schema.iosText());
+    add(translate("Device"), schema.productOrigin == DeviceOrigin::Assumption
+                                 ? translate("not recorded; read like {0}, which hides no album",
+                                             schema.device.productType)
+                                 : schema.productText());
+    add(translate("System"), schema.iosText());
     if (schema.iosOrigin != DeviceOrigin::Schema) // which names it already
-        add(said("Build"), schema.iosBuild);
-    add(said("Schema"), schemaText(library));
-    add(said("As of"), localTimeText(library.asOf().unixTime));
-    add(said("Albums"), std::to_string(library.albums().size()));
-    add(said("First taken"), localTimeOf(summary.firstCreated));
-    add(said("Last taken"), localTimeOf(summary.lastCreated));
-    add(said("Left out of the trash"), std::to_string(library.leftOut()));
+        add(translate("Build"), schema.iosBuild);
+    add(translate("Schema"), schemaText(library));
+    add(translate("As of"), localTimeText(library.asOf().unixTime));
+    add(translate("Albums"), std::to_string(library.albums().size()));
+    add(translate("First taken"), localTimeOf(summary.firstCreated));
+    add(translate("Last taken"), localTimeOf(summary.lastCreated));
+    add(translate("Left out of the trash"), std::to_string(library.leftOut()));
     printBlocks(out, labels, {facts}, screenOf(out));
 }
 
 void printCounts(const Summary &summary, std::ostream &out)
 {
     using Align = TextTable::Align;
-    TextTable table({{said("KIND")}, {said("COUNT"), Align::Right}, {said("SIZE"), Align::Right}});
+    TextTable table({{translate("KIND")},
+                     {translate("COUNT"), Align::Right},
+                     {translate("SIZE"), Align::Right}});
     const auto add = [&](const std::string &kind, const Tally &tally) {
         table.add({kind, std::to_string(tally.count), readableSize(tally.bytes)});
     };
-    add(said("all"), summary.all);
+    add(translate("all"), summary.all);
     for (std::size_t i = 0; i < photoKinds().size(); ++i)
         if (summary.byKind[i].count > 0)
-            add(translated(photoKinds()[i].word), summary.byKind[i]);
+            add(translateTerm(photoKinds()[i].word), summary.byKind[i]);
     table.print(out);
 }
 
 void printLog(const Library &library, std::ostream &out)
 {
     if (!library.hasLog()) {
-        printParagraph(out, said("There is no write-ahead log (-wal)."));
+        printParagraph(out, translate("There is no write-ahead log (-wal)."));
         return;
     }
     if (library.logChanges().empty()) {
-        printParagraph(out, said("The write-ahead log (-wal) adds, removes and trashes no photo."));
+        printParagraph(out,
+                       translate("The write-ahead log (-wal) adds, removes and trashes no photo."));
         return;
     }
-    TextTable table({{said("IN THE LOG ONLY")},
-                     {said("FILE"), TextTable::Align::Left, Kept::End},
-                     {said("UUID")}});
+    TextTable table({{translate("IN THE LOG ONLY")},
+                     {translate("FILE"), TextTable::Align::Left, Elide::Left},
+                     {translate("UUID")}});
     for (const LogChange &change : library.logChanges())
-        table.add({translated(machineName(change.kind)), change.path, change.uuid});
+        table.add({translateTerm(machineName(change.kind)), change.path, change.uuid});
     table.print(out);
 }
 
@@ -127,13 +129,14 @@ Command addInfo(CLI::App &app)
     const auto request = std::make_shared<InfoRequest>();
     request->library.comparesLog = true;
     CLI::App *command = app.add_subcommand(
-        "info", said("Show device, iOS, counts, and what the write-ahead log holds"));
+        "info", translate("Show device, iOS, counts, and what the write-ahead log holds"));
     addLibraryOptions(*command, request->library);
     CLI::Option *const json =
-        command->add_flag("--json", request->asJson, said("print a JSON document"));
+        command->add_flag("--json", request->asJson, translate("print a JSON document"));
     command
-        ->add_flag("--jsonl", request->asJsonLine,
-                   said("print the document as one line, to put those of many libraries together"))
+        ->add_flag(
+            "--jsonl", request->asJsonLine,
+            translate("print the document as one line, to put those of many libraries together"))
         ->excludes(json);
     command->footer(
         helpFooter({examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),

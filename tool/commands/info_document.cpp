@@ -1,6 +1,7 @@
 #include "commands/info_document.h"
 
 #include "catalogue/photo_kinds.h"
+#include "rows/library_head.h"
 
 namespace iosphoto::tool {
 

@@ -1,8 +1,9 @@
 #ifndef IOSPHOTO_TOOL_INFO_DOCUMENT_H
 #define IOSPHOTO_TOOL_INFO_DOCUMENT_H
 
+#include "catalogue/library.h"
 #include "catalogue/summary.h"
-#include "output/json_document.h"
+#include "text/json.h"
 
 namespace iosphoto::tool {
 

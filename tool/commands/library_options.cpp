@@ -1,7 +1,7 @@
 #include "commands/library_options.h"
 
-#include "commands/looks_like.h"
-#include "language/said.h"
+#include "commands/option_values.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
@@ -9,7 +9,7 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
 {
     command
         .add_option("SOURCE", request.source,
-                    said("Photos.sqlite, media folder, backup folder, or a zip or tar of one"))
+                    translate("Photos.sqlite, media folder, backup folder, or a zip or tar of one"))
         ->required();
     addDeviceOptions(command, request.device);
     command
@@ -18,23 +18,25 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
             [&request](const std::string &text) {
                 request.asOf = Moment{parseTime(text, "--as-of").first, ""};
             },
-            said("the moment that counts as now, such as 2024-05-01 or now: what had been in the "
-                 "trash for 30 days then is left out (default: when the source was made)"))
-        ->type_name(said("TIME"));
+            translate(
+                "the moment that counts as now, such as 2024-05-01 or now: what had been in the "
+                "trash for 30 days then is left out (default: when the source was made)"))
+        ->type_name(translate("TIME"));
 }
 
 void addDeviceOptions(CLI::App &command, Device &device)
 {
     command
         .add_option("--ios", device.iosVersion,
-                    said("iOS version, such as 17.4 (default: that of the source)"))
-        ->type_name(said("VERSION"))
+                    translate("iOS version, such as 17.4 (default: that of the source)"))
+        ->type_name(translate("VERSION"))
         ->check(looksLike("[0-9]+(\\.[0-9]+)*[a-z]?", "17.4"));
     command
-        .add_option("--product", device.productType,
-                    said("product type, such as iPhone14,2 (default: that of the source, or one "
-                         "that hides no album)"))
-        ->type_name(said("MODEL"))
+        .add_option(
+            "--product", device.productType,
+            translate("product type, such as iPhone14,2 (default: that of the source, or one "
+                      "that hides no album)"))
+        ->type_name(translate("MODEL"))
         ->check(looksLike("[A-Za-z]+[0-9]+,[0-9]+", "iPhone14,2"));
 }
 

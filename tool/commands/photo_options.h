@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_PHOTO_OPTIONS_H
 #define IOSPHOTO_TOOL_PHOTO_OPTIONS_H
 
-#include "catalogue/photo_choice.h"
+#include "catalogue/photo_selection.h"
 
 #include <CLI/CLI.hpp>
 

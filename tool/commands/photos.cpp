@@ -1,13 +1,13 @@
 #include "commands/command.h"
-#include "commands/help_footer.h"
+#include "commands/help.h"
 #include "commands/library_options.h"
 #include "commands/photo_options.h"
 #include "commands/row_format_options.h"
-#include "language/said.h"
-#include "output/counted.h"
-#include "output/notice.h"
-#include "output/printable.h"
 #include "rows/library_database.h"
+#include "terminal/messages.h"
+#include "text/numbers.h"
+#include "text/printable.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
@@ -32,10 +32,10 @@ void sayThatThereAreNone(const AssetList &assets)
 {
     const auto count = static_cast<std::int64_t>(assets.size());
     if (count == 0)
-        remark(counted(count, "the library holds {0} photo", "the library holds {0} photos"));
+        printInfo(counted(count, "the library holds {0} photo", "the library holds {0} photos"));
     else
-        notice(counted(count, "the only photo does not fit; leave out an option to see it",
-                       "none of the {0} photos fits; leave out an option to see more"));
+        printWarning(counted(count, "the only photo does not fit; leave out an option to see it",
+                             "none of the {0} photos fits; leave out an option to see more"));
 }
 
 ExitStatus showPhotos(const PhotosRequest &request, std::ostream &out)
@@ -53,7 +53,7 @@ ExitStatus showPhotos(const PhotosRequest &request, std::ostream &out)
         sayThatThereAreNone(assets);
     if (request.format.sqlite) {
         writePhotoDatabase(*request.format.sqlite, library, photos, rows);
-        out << said("wrote {0}", printable(*request.format.sqlite)) << '\n';
+        out << translate("wrote {0}", printable(*request.format.sqlite)) << '\n';
     } else {
         const auto writer = makeRowWriter(request.format, out);
         printPhotos({*writer, {"photos", libraryHead(library)}, fields}, photos, rows);
@@ -67,7 +67,7 @@ Command addPhotos(CLI::App &app)
 {
     const auto request = std::make_shared<PhotosRequest>();
     CLI::App *command =
-        app.add_subcommand("photos", said("List the photos of a library, each once"));
+        app.add_subcommand("photos", translate("List the photos of a library, each once"));
     addLibraryOptions(*command, request->library);
     addPhotoOptions(*command, request->choice);
     addRowFormatOptions(*command, request->format);

@@ -1,32 +1,34 @@
 #include "commands/row_format_options.h"
 
-#include "commands/comma_list.h"
-#include "commands/looks_like.h"
-#include "language/said.h"
+#include "commands/option_values.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
 void addRowFormatOptions(CLI::App &command, RowFormat &format)
 {
     CLI::Option *const json =
-        command.add_flag("--json", format.json, said("print a JSON document"));
-    CLI::Option *const jsonLines = command.add_flag(
-        "--jsonl", format.jsonLines, said("print JSON Lines: an object a line, with its source"));
+        command.add_flag("--json", format.json, translate("print a JSON document"));
+    CLI::Option *const jsonLines =
+        command.add_flag("--jsonl", format.jsonLines,
+                         translate("print JSON Lines: an object a line, with its source"));
     CLI::Option *const csv = command.add_flag(
         "--csv", format.csv,
-        said("print CSV; an apostrophe stands in front of a text that a spreadsheet would run as "
-             "a formula"));
+        translate(
+            "print CSV; an apostrophe stands in front of a text that a spreadsheet would run as "
+            "a formula"));
     CLI::Option *const sqlite =
         command
-            .add_option("--sqlite", format.sqlite,
-                        said("write a SQLite database; one that iosphoto wrote before is replaced"))
-            ->type_name(said("FILE"))
+            .add_option(
+                "--sqlite", format.sqlite,
+                translate("write a SQLite database; one that iosphoto wrote before is replaced"))
+            ->type_name(translate("FILE"))
             ->check(notEmpty());
-    CLI::Option *const fields =
-        command.add_option("--fields", format.fields,
-                           said("show these fields in this order, such as uuid,path (see FIELDS "
-                                "below); not with --sqlite, which has all"));
-    takeCommaList(*fields).type_name(said("FIELDS"));
+    CLI::Option *const fields = command.add_option(
+        "--fields", format.fields,
+        translate("show these fields in this order, such as uuid,path (see FIELDS "
+                  "below); not with --sqlite, which has all"));
+    takeCommaList(*fields).type_name(translate("FIELDS"));
     json->excludes(jsonLines, csv, sqlite);
     jsonLines->excludes(csv, sqlite);
     csv->excludes(sqlite);

@@ -1,15 +1,15 @@
 #include "commands/command.h"
-#include "commands/help_footer.h"
+#include "commands/help.h"
 #include "commands/library_options.h"
-#include "commands/looks_like.h"
-#include "language/said.h"
-#include "output/json_document.h"
-#include "output/notice.h"
-#include "output/printable.h"
-#include "source/build_statements.h"
-#include "source/device_words.h"
-#include "source/opened_copy.h"
-#include "source/usual_entity_numbers.h"
+#include "commands/option_values.h"
+#include "formats/versions.h"
+#include "schema/opened_copy.h"
+#include "statements/build_statements.h"
+#include "statements/usual_entity_numbers.h"
+#include "terminal/messages.h"
+#include "text/json.h"
+#include "text/printable.h"
+#include "text/translate.h"
 
 #include <algorithm>
 
@@ -43,7 +43,7 @@ Target readTarget(const StatementsRequest &request)
     target.isComplete = copy.missing().empty();
     if (schema.isAssumed())
         target.assumption =
-            said("filled in for {0} and {1}", schema.iosText(), schema.productText());
+            translate("filled in for {0} and {1}", schema.iosText(), schema.productText());
     if (!schema.warning.empty())
         target.warnings.insert(target.warnings.begin(), schema.warning);
     return target;
@@ -52,13 +52,13 @@ Target readTarget(const StatementsRequest &request)
 Target usualTarget(const Device &wanted)
 {
     if (wanted.iosVersion.empty())
-        throw Failure(WrongUsage, said("name a SOURCE, or a version with --ios; see iosphoto "
-                                       "statements --help"));
+        throw Failure(WrongUsage, translate("name a SOURCE, or a version with --ios; see iosphoto "
+                                            "statements --help"));
     constexpr int oldestIos = 6;
     if (firstNumber(wanted.iosVersion) < oldestIos)
-        throw Failure(SchemaDoesNotFit, said("the databases of iOS {0} are not known; name a "
-                                             "version from 6 on",
-                                             wanted.iosVersion));
+        throw Failure(SchemaDoesNotFit, translate("the databases of iOS {0} are not known; name a "
+                                                  "version from 6 on",
+                                                  wanted.iosVersion));
     Device device = wanted;
     if (device.productType.empty())
         device.productType = productThatHidesNoAlbum;
@@ -90,17 +90,19 @@ std::vector<const EntityNumberName *> unknownNumbers(const Target &target,
 std::string origin(const Target &target, const std::vector<BuildStatement> &statements)
 {
     if (target.numbers.areRead)
-        return said("the entity numbers are those of the database");
+        return translate("the entity numbers are those of the database");
     std::string placeholders;
     for (const EntityNumberName *name : unknownNumbers(target, statements))
         placeholders += (placeholders.empty() ? "" : ", ") + std::string(name->placeholder);
     if (placeholders.empty())
-        return said("the entity numbers are those that databases of iOS {0} usually have; compare "
-                    "them with what the first three statements find in yours, or name it as SOURCE",
-                    target.device.iosVersion);
-    return said("not all entity numbers of iOS {0} are known; put what the first three statements "
-                "find in place of {1}, or name a database as SOURCE",
-                target.device.iosVersion, placeholders);
+        return translate(
+            "the entity numbers are those that databases of iOS {0} usually have; compare "
+            "them with what the first three statements find in yours, or name it as SOURCE",
+            target.device.iosVersion);
+    return translate(
+        "not all entity numbers of iOS {0} are known; put what the first three statements "
+        "find in place of {1}, or name a database as SOURCE",
+        target.device.iosVersion, placeholders);
 }
 
 /// A line of a script, whatever a source says of its device.
@@ -112,22 +114,23 @@ std::string comment(const std::string &text)
 std::string numberComment(const EntityNumberName &name, const std::optional<std::int32_t> &number)
 {
     if (number)
-        return comment(said("entity number of {0}: {1}", translated(name.entity), *number));
-    return comment(said("{0}, entity number of {1}: {2} as {3} finds it", name.placeholder,
-                        translated(name.entity), name.column, name.lookup->name));
+        return comment(translate("entity number of {0}: {1}", translateTerm(name.entity), *number));
+    return comment(translate("{0}, entity number of {1}: {2} as {3} finds it", name.placeholder,
+                             translateTerm(name.entity), name.column, name.lookup->name));
 }
 
 void printScript(const Target &target, const std::vector<BuildStatement> &statements,
                  std::ostream &out)
 {
-    out << comment(said("iOS {0}, {1}: the statements of a build, in the order in which it runs "
-                        "them",
-                        target.device.iosVersion, target.device.productType))
+    out << comment(
+               translate("iOS {0}, {1}: the statements of a build, in the order in which it runs "
+                         "them",
+                         target.device.iosVersion, target.device.productType))
         << comment(origin(target, statements));
     for (const BuildStatement &statement : statements) {
         out << '\n'
-            << comment(said("pass {0}, statement {1}.sql: {2}", statement.pass, statement.name,
-                            statement.variant));
+            << comment(translate("pass {0}, statement {1}.sql: {2}", statement.pass, statement.name,
+                                 statement.variant));
         for (const EntityNumberName *name : statement.numbers)
             out << numberComment(*name, target.numbers[*name]);
         out << statement.sql << ";\n";
@@ -162,11 +165,11 @@ ExitStatus showStatements(const StatementsRequest &request, std::ostream &out)
         request.source.empty() ? usualTarget(request.device) : readTarget(request);
     const std::vector<BuildStatement> statements = statementsOfBuild(target.device, target.numbers);
     if (!target.numbers.areRead)
-        remark(origin(target, statements));
+        printInfo(origin(target, statements));
     if (!target.assumption.empty())
-        remark(target.assumption);
+        printInfo(target.assumption);
     for (const std::string &warning : target.warnings)
-        notice(warning);
+        printWarning(warning);
     (request.asJson ? printAsJson : printScript)(target, statements, out);
     return target.isComplete ? Good : Incomplete;
 }
@@ -177,14 +180,16 @@ Command addStatements(CLI::App &app)
 {
     const auto request = std::make_shared<StatementsRequest>();
     CLI::App *command = app.add_subcommand(
-        "statements", said("Print the SQL that reads a library, to run it in the sqlite3 shell"));
+        "statements",
+        translate("Print the SQL that reads a library, to run it in the sqlite3 shell"));
     command
-        ->add_option("SOURCE", request->source,
-                     said("library whose version and entity numbers to fill in; without it --ios "
-                          "is needed and the numbers are the usual ones"))
+        ->add_option(
+            "SOURCE", request->source,
+            translate("library whose version and entity numbers to fill in; without it --ios "
+                      "is needed and the numbers are the usual ones"))
         ->check(notEmpty());
     addDeviceOptions(*command, request->device);
-    command->add_flag("--json", request->asJson, said("print a JSON document"));
+    command->add_flag("--json", request->asJson, translate("print a JSON document"));
     command->footer(
         helpFooter({examples({"iosphoto statements Photos.sqlite > passes.sql",
                               "sqlite3 -readonly Photos.sqlite < passes.sql",

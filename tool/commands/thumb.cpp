@@ -1,16 +1,19 @@
 #include "commands/command.h"
-#include "commands/help_footer.h"
-#include "commands/looks_like.h"
-#include "language/said.h"
-#include "output/counted.h"
-#include "output/file_use_observer.h"
-#include "output/json_document.h"
-#include "output/notice.h"
-#include "output/paragraph.h"
-#include "output/printable.h"
-#include "output/protected_sources.h"
-#include "output/text_table.h"
+#include "commands/help.h"
+#include "commands/option_values.h"
+#include "files/file_use_observer.h"
+#include "files/protected_sources.h"
+#include "process/failure.h"
+#include "terminal/messages.h"
+#include "terminal/paragraph.h"
+#include "terminal/text_table.h"
+#include "text/json.h"
+#include "text/numbers.h"
+#include "text/printable.h"
+#include "text/translate.h"
 #include "thumbnails/export.h"
+
+#include <QString>
 
 #include <limits>
 #include <optional>
@@ -40,9 +43,9 @@ void printList(const ThumbCache &cache, std::ostream &out)
                                 cache.format().code, grouped(cache.format().recordSize),
                                 grouped(static_cast<int>(cache.thumbnails().size()))));
     out << '\n';
-    TextTable table({{said("INDEX"), Align::Right},
-                     {said("PIXELS"), Align::Right},
-                     {said("BMP BYTES"), Align::Right}});
+    TextTable table({{translate("INDEX"), Align::Right},
+                     {translate("PIXELS"), Align::Right},
+                     {translate("BMP BYTES"), Align::Right}});
     for (const Thumbnail &thumbnail : cache.thumbnails())
         table.add({std::to_string(thumbnail.index),
                    std::to_string(thumbnail.width) + "x" + std::to_string(thumbnail.height),
@@ -54,9 +57,9 @@ void printWritten(const WrittenFiles &files, std::ostream &out)
 {
     const std::string first = printable(files.begin()->second);
     const std::string last = printable(files.rbegin()->second);
-    out << (files.size() == 1 ? said("wrote {0}", first)
-                              : said("wrote {0} files, {1} to {2}",
-                                     grouped(static_cast<int>(files.size())), first, last))
+    out << (files.size() == 1 ? translate("wrote {0}", first)
+                              : translate("wrote {0} files, {1} to {2}",
+                                          grouped(static_cast<int>(files.size())), first, last))
         << '\n';
 }
 
@@ -98,7 +101,8 @@ WrittenFiles writePictures(const ThumbCache &cache, const ThumbRequest &request)
 ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
 {
     if (request.output && !request.index && !request.all)
-        throw Failure(WrongUsage, said("--output requires --index or --all; see iosphoto --help"));
+        throw Failure(WrongUsage,
+                      translate("--output requires --index or --all; see iosphoto --help"));
     protectFiles({request.cache});
     FileUseObserver::announceReading({request.cache});
     const ThumbCache cache(request.cache);
@@ -114,7 +118,7 @@ ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
     // Who asked for one thumbnail has all of it.
     if (request.index || cache.missing().empty())
         return Good;
-    notice(cache.missing());
+    printWarning(cache.missing());
     return Incomplete;
 }
 
@@ -124,46 +128,48 @@ Command addThumb(CLI::App &app)
 {
     const auto request = std::make_shared<ThumbRequest>();
     CLI::App &thumb =
-        *app.add_subcommand("thumb", said("List or write the pictures of a thumbnail cache"));
+        *app.add_subcommand("thumb", translate("List or write the pictures of a thumbnail cache"));
     thumb
         .add_option("CACHE", request->cache,
-                    said("thumbnail cache, such as .../Thumbnails/120x120.ithmb"))
+                    translate("thumbnail cache, such as .../Thumbnails/120x120.ithmb"))
         ->required()
         ->check(notEmpty());
     CLI::Option *output = thumb.add_option("-o,--output", request->output,
-                                           said("file (--index) or folder (--all) to write"));
+                                           translate("file (--index) or folder (--all) to write"));
     // As text: files are named "0010.bmp", and a zero in front must not make the index octal.
     const auto takeIndex = [request](const std::string &digits) {
         bool isInt = false;
         const int index = QString::fromStdString(digits).toInt(&isInt);
         request->index = isInt ? index : std::numeric_limits<int>::max();
     };
-    CLI::Option *index =
-        thumb
-            .add_option_function<std::string>(
-                "--index", takeIndex, said("write this thumbnail to --output, as .bmp or .png"))
-            ->type_name(said("NUMBER"))
-            ->check(looksLike("[0-9]+", "7"))
-            ->needs(output);
+    CLI::Option *index = thumb
+                             .add_option_function<std::string>(
+                                 "--index", takeIndex,
+                                 translate("write this thumbnail to --output, as .bmp or .png"))
+                             ->type_name(translate("NUMBER"))
+                             ->check(looksLike("[0-9]+", "7"))
+                             ->needs(output);
     CLI::Option *all =
-        thumb.add_flag("--all", request->all, said("write all thumbnails into --output"))
+        thumb.add_flag("--all", request->all, translate("write all thumbnails into --output"))
             ->needs(output)
             ->excludes(index);
-    thumb.add_flag("--png", request->asPng, said("with --all: write PNG files instead of BMP"))
+    thumb
+        .add_flag("--png", request->asPng, translate("with --all: write PNG files instead of BMP"))
         ->needs(all);
-    CLI::Option *sheet = thumb.add_option("--sheet", request->sheet,
-                                          said("draw all on a contact sheet, a .png file; from "
-                                               "501 on also on FILE-2.png and so on"));
+    CLI::Option *sheet =
+        thumb.add_option("--sheet", request->sheet,
+                         translate("draw all on a contact sheet, a .png file; from "
+                                   "501 on also on FILE-2.png and so on"));
     sheet->excludes(index, all, output);
-    output->type_name(said("FILE") + "|" + said("FOLDER"))->check(notEmpty());
-    sheet->type_name(said("FILE"))->check(notEmpty());
-    thumb.add_flag("--json", request->asJson, said("print a JSON document"));
+    output->type_name(translate("FILE") + "|" + translate("FOLDER"))->check(notEmpty());
+    sheet->type_name(translate("FILE"))->check(notEmpty());
+    thumb.add_flag("--json", request->asJson, translate("print a JSON document"));
     thumb.footer(helpFooter(
         {examples({"iosphoto thumb 120x120.ithmb",
                    "iosphoto thumb 120x120.ithmb --index 7 -o photo.png",
                    "iosphoto thumb 120x120.ithmb --all -o thumbnails",
                    "iosphoto thumb 120x120.ithmb --sheet sheet.png"}),
-         said(
+         translate(
              "Exit: 0 good, 1 incomplete, 2 wrong usage, 3 or 4 unusable files; see the README")}));
     return {&thumb, [request](std::ostream &out) { return showThumbnails(*request, out); }};
 }

@@ -1,6 +1,6 @@
 #include "commands/wrong_usage.h"
 
-#include "language/said.h"
+#include "text/translate.h"
 
 #include <optional>
 
@@ -41,7 +41,7 @@ std::string inOurWords(const CLI::ParseError &error)
         const std::size_t at = text.find(words);
         if (error.get_exit_code() != static_cast<int>(wording.error) || at == std::string::npos)
             continue;
-        return said(wording.english, text.substr(0, at), text.substr(at + words.size()));
+        return translate(wording.english, text.substr(0, at), text.substr(at + words.size()));
     }
     return text;
 }
@@ -50,7 +50,7 @@ std::string inOurWords(const CLI::ParseError &error)
 std::string unexpected(const CLI::App &app)
 {
     constexpr bool withCommands = true;
-    return said("not expected: {0}", CLI::detail::join(app.remaining(withCommands), " "));
+    return translate("not expected: {0}", CLI::detail::join(app.remaining(withCommands), " "));
 }
 
 /// The parser says only that a command is missing where the first word is none.
@@ -58,9 +58,9 @@ std::string wrongCommand(const CLI::App &app)
 {
     const std::vector<std::string> left = app.remaining();
     if (left.empty())
-        return said("a command is required");
+        return translate("a command is required");
     return left.front().compare(0, 1, "-") == 0 ? unexpected(app)
-                                                : said("'{0}' is not a command", left.front());
+                                                : translate("'{0}' is not a command", left.front());
 }
 
 std::string textOf(const CLI::App &app, const CLI::ParseError &error)
@@ -77,7 +77,7 @@ std::string textOf(const CLI::App &app, const CLI::ParseError &error)
 
 Failure wrongUsage(const CLI::App &app, const CLI::ParseError &error)
 {
-    return {WrongUsage, said("{0}; see iosphoto --help", textOf(app, error))};
+    return {WrongUsage, translate("{0}; see iosphoto --help", textOf(app, error))};
 }
 
 } // namespace iosphoto::tool

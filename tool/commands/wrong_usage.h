@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_WRONG_USAGE_H
 #define IOSPHOTO_TOOL_WRONG_USAGE_H
 
-#include "failure.h"
+#include "process/failure.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,14 +1,16 @@
 #include "evidence/evidence.h"
 
-#include "evidence/hashing_progress.h"
-#include "evidence/time_of_day.h"
-#include "failure.h"
-#include "language/said.h"
-#include "output/output_file.h"
-#include "output/protected_sources.h"
+#include "evidence/file_state.h"
+#include "files/output_file.h"
+#include "files/protected_sources.h"
+#include "process/failure.h"
+#include "terminal/messages.h"
+#include "text/translate.h"
+#include "time/time_text.h"
 
 #include <algorithm>
 #include <functional>
+#include <iostream>
 #include <sstream>
 #include <utility>
 
@@ -42,6 +44,35 @@ Json asJson(const InputFile &input)
     return entry;
 }
 
+/// What goes wrong here must not hide why the command failed.
+void finishAfterFailure(Evidence &evidence, ExitStatus status)
+{
+    try {
+        if (std::cout)
+            std::cout.flush();
+        evidence.finish(status);
+    } catch (const std::exception &failure) {
+        printWarning(failure.what());
+    }
+}
+
+int runAndFinish(Evidence &evidence, const std::function<int()> &command)
+{
+    int status = Good;
+    try {
+        status = command();
+        std::cout.flush();
+    } catch (const Failure &failure) {
+        finishAfterFailure(evidence, failure.status());
+        throw;
+    } catch (const std::exception &) {
+        finishAfterFailure(evidence, CannotAccess);
+        throw;
+    }
+    evidence.finish(status);
+    return status;
+}
+
 } // namespace
 
 Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
@@ -49,9 +80,10 @@ Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
 {
     std::error_code ignored;
     if (fs::exists(file_, ignored))
-        throw Failure(WrongUsage, said("'{0}' is there already, and evidence replaces no file; "
-                                       "choose another name",
-                                       file_.string()));
+        throw Failure(WrongUsage,
+                      translate("'{0}' is there already, and evidence replaces no file; "
+                                "choose another name",
+                                file_.string()));
     requireWritable(file_);
 }
 
@@ -85,9 +117,10 @@ void Evidence::finish(int exitStatus)
     print(document(status), text);
     writeOutput(file_, QByteArray::fromStdString(text.str()), fs::path());
     if (!isAllUnchanged)
-        throw Failure(CannotAccess,
-                      said("'{0}' changed while the command ran, as '{1}' shows; copy it first",
-                           changed->path.string(), file_.string()));
+        throw Failure(
+            CannotAccess,
+            translate("'{0}' changed while the command ran, as '{1}' shows; copy it first",
+                      changed->path.string(), file_.string()));
 }
 
 void Evidence::readInputsAgain()
@@ -107,9 +140,10 @@ void Evidence::readInputsAgain()
 void Evidence::willWrite(const fs::path &file)
 {
     if (FileSet(file_).contains(file))
-        throw Failure(WrongUsage, said("'{0}' is where the evidence goes; choose another place for "
-                                       "the output",
-                                       file.string()));
+        throw Failure(WrongUsage,
+                      translate("'{0}' is where the evidence goes; choose another place for "
+                                "the output",
+                                file.string()));
     requireOther(file, sources_);
 }
 
@@ -125,8 +159,9 @@ void Evidence::wroteWhole(const fs::path &file)
     HashingProgress progress({file});
     const FileState state = stateOf(file, progress);
     if (!state.size)
-        throw Failure(CannotAccess, said("cannot read '{0}': {1}", file.string(),
-                                         said("it is not there any more; check the path")));
+        throw Failure(CannotAccess,
+                      translate("cannot read '{0}': {1}", file.string(),
+                                translate("it is not there any more; check the path")));
     outputs_[file.string()] = {*state.size, *state.sha256};
 }
 
@@ -159,6 +194,15 @@ Json Evidence::document(int exitStatus) const
             {{"path", path}, {"size", output.size}, {"sha256", output.sha256}});
     document["exitStatus"] = exitStatus;
     return document;
+}
+
+int withEvidence(const std::optional<std::string> &file,
+                 const std::vector<std::string> &commandLine, const std::function<int()> &command)
+{
+    if (!file)
+        return command();
+    Evidence evidence(*file, commandLine);
+    return runAndFinish(evidence, command);
 }
 
 } // namespace iosphoto::tool

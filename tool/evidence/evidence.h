@@ -3,11 +3,12 @@
 
 #include "evidence/file_state.h"
 #include "evidence/sha256.h"
-#include "output/file_set.h"
-#include "output/file_use_observer.h"
-#include "output/json_document.h"
+#include "files/file_set.h"
+#include "files/file_use_observer.h"
+#include "text/json.h"
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -71,6 +72,11 @@ private:
     std::map<std::string, Output> outputs_; ///< by path; the last content of each
     std::optional<PrintedOutput> printed_;
 };
+
+/// Runs a command and returns its exit status. Where a file for it is named, writes evidence, of a
+/// command that fails as well.
+int withEvidence(const std::optional<std::string> &file,
+                 const std::vector<std::string> &commandLine, const std::function<int()> &command);
 
 } // namespace iosphoto::tool
 

@@ -1,13 +1,14 @@
 #include "evidence/file_state.h"
 
 #include "evidence/sha256.h"
-#include "evidence/time_of_day.h"
-#include "failure.h"
-#include "language/said.h"
-#include "language/system_error.h"
-#include "source/source_file.h"
-#include "source/stat_times.h"
+#include "files/source_file.h"
+#include "files/stat_times.h"
+#include "process/failure.h"
+#include "text/system_error.h"
+#include "text/translate.h"
+#include "time/time_text.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -69,6 +70,24 @@ private:
     int descriptor_;
 };
 
+/// Rounded up, and never 0.
+int mebibytes(std::uint64_t bytes)
+{
+    constexpr std::uint64_t one = std::uint64_t{1024} * 1024;
+    return static_cast<int>(std::max<std::uint64_t>(1, (bytes + one - 1) / one));
+}
+
+std::uint64_t totalSize(const std::vector<fs::path> &files)
+{
+    std::uint64_t total = 0;
+    for (const fs::path &file : files) {
+        std::error_code error;
+        const std::uintmax_t size = fs::file_size(file, error);
+        total += error ? 0 : size;
+    }
+    return total;
+}
+
 } // namespace
 
 FileState stateOf(const fs::path &file, HashingProgress &progress)
@@ -86,11 +105,22 @@ FileState stateOf(const fs::path &file, HashingProgress &progress)
         hashed += size;
     }
     if (hashed != static_cast<std::uint64_t>(status->st_size))
-        throw Failure(
-            CannotAccess,
-            said("cannot read '{0}': it changed while it was read; copy it first", file.string()));
+        throw Failure(CannotAccess,
+                      translate("cannot read '{0}': it changed while it was read; copy it first",
+                                file.string()));
     return {static_cast<std::uint64_t>(status->st_size), utcText(modifiedAt(*status)),
             hash.digits()};
+}
+
+HashingProgress::HashingProgress(const std::vector<fs::path> &files)
+    : total_(mebibytes(totalSize(files))), bar_(translate("hashing (MiB)"), total_)
+{
+}
+
+void HashingProgress::add(std::uint64_t bytes)
+{
+    done_ += bytes;
+    bar_.show(std::min(mebibytes(done_), total_)); // a file may grow meanwhile
 }
 
 } // namespace iosphoto::tool

@@ -1,14 +1,30 @@
 #ifndef IOSPHOTO_TOOL_FILE_STATE_H
 #define IOSPHOTO_TOOL_FILE_STATE_H
 
-#include "evidence/hashing_progress.h"
+#include "terminal/progress_bar.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace iosphoto::tool {
+
+/// How far the hashing of files is, on stderr.
+class HashingProgress
+{
+public:
+    explicit HashingProgress(const std::vector<std::filesystem::path> &files);
+
+    /// Says that so many more bytes are hashed.
+    void add(std::uint64_t bytes);
+
+private:
+    std::uint64_t done_ = 0;
+    int total_; ///< MiB
+    ProgressBar bar_;
+};
 
 /// What tells whether a file changed. Without any of it: no file is there.
 struct FileState

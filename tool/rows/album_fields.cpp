@@ -1,9 +1,9 @@
 #include "rows/album_fields.h"
 
 #include "catalogue/album_kinds.h"
-#include "catalogue/moment.h"
-#include "language/said.h"
-#include "rows/photo_values.h"
+#include "rows/values.h"
+#include "text/translate.h"
+#include "time/time_text.h"
 
 #include <limits>
 
@@ -33,20 +33,21 @@ Value ownName(const Row &row)
 std::vector<Field<Row>> facts()
 {
     return {
-        {{"index", Type::Number, said("#")},
+        {{"index", Type::Number, translate("#")},
          [](const Row &row) { return number(row.album.albumIndex); }},
         {{"kind", Type::Text}, [](const Row &row) { return text(kindName(row.album)); }},
         {{"kindCode", Type::Number}, [](const Row &row) { return number(row.album.albumKind); }},
         {{"englishKind", Type::Text}, [](const Row &row) { return text(englishKind(row.album)); }},
         {{"name", Type::Text},
          [](const Row &row) { return text(row.album.albumName.toStdString()); }},
-        {{"uuid", Type::Text, said("UUID")},
+        {{"uuid", Type::Text, translate("UUID")},
          [](const Row &row) { return knownText(row.album.albumUuid); }},
-        {{"count", Type::Number, said("COUNT")},
+        {{"count", Type::Number, translate("COUNT")},
          [](const Row &row) { return number(row.album.albumCount); }},
         {{"photoCount", Type::Number},
          [](const Row &row) { return number(std::int64_t(row.album.photos.size())); }},
-        {{"bytes", Type::Bytes, said("SIZE")}, [](const Row &row) { return number(row.bytes); }},
+        {{"bytes", Type::Bytes, translate("SIZE")},
+         [](const Row &row) { return number(row.bytes); }},
         {{"firstCreated", Type::Time},
          [](const Row &row) { return row.first ? utcTimeValue(row.first->createdTime) : Value(); }},
         {{"lastCreated", Type::Time},
@@ -61,14 +62,14 @@ std::vector<Field<Row>> viewsForPeople()
 {
     constexpr bool isFact = false;
     return {
-        {{"shownKind", Type::Text, said("KIND")},
+        {{"shownKind", Type::Text, translate("KIND")},
          [](const Row &row) { return text(shownKind(row.album)); },
          isFact},
-        {{"ownName", Type::Text, said("NAME")}, ownName, isFact},
-        {{"firstDay", Type::Text, said("FIRST")},
+        {{"ownName", Type::Text, translate("NAME")}, ownName, isFact},
+        {{"firstDay", Type::Text, translate("FIRST")},
          [](const Row &row) { return row.first ? localDayValue(*row.first) : Value(); },
          isFact},
-        {{"lastDay", Type::Text, said("LAST")},
+        {{"lastDay", Type::Text, translate("LAST")},
          [](const Row &row) { return row.last ? localDayValue(*row.last) : Value(); },
          isFact},
     };

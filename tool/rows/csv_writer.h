@@ -4,6 +4,7 @@
 #include "rows/row_writer.h"
 
 #include <ostream>
+#include <string>
 
 namespace iosphoto::tool {
 
@@ -22,6 +23,9 @@ private:
     std::ostream &out_;
     std::string buffer_;
 };
+
+/// Appends a text as a cell of CSV: guarded against running as a formula, and quoted where needed.
+void appendCsvCell(std::string &line, const std::string &text);
 
 } // namespace iosphoto::tool
 

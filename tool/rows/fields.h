@@ -1,10 +1,18 @@
 #ifndef IOSPHOTO_TOOL_FIELDS_H
 #define IOSPHOTO_TOOL_FIELDS_H
 
-#include "rows/field_choice.h"
 #include "rows/row_format.h"
 
+#include <cstddef>
+#include <string>
+#include <vector>
+
 namespace iosphoto::tool {
+
+/// Where in `all` the `chosen` keys are, each once. Throws Failure when one is unknown, naming
+/// those that are known.
+std::vector<std::size_t> placesOfKeys(const std::vector<std::string> &all,
+                                      const std::vector<std::string> &chosen);
 
 /// Something that every row of a kind has: the only place that says so.
 template <typename Row>

@@ -1,7 +1,7 @@
 #include "rows/library_database.h"
 
 #include "rows/album_fields.h"
-#include "rows/sqlite_rows.h"
+#include "rows/sqlite_output.h"
 
 #include <algorithm>
 

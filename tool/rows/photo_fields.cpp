@@ -1,10 +1,11 @@
 #include "rows/photo_fields.h"
 
+#include "catalogue/album_kinds.h"
 #include "catalogue/photo_kinds.h"
-#include "catalogue/traits.h"
-#include "language/said.h"
-#include "rows/photo_values.h"
-#include "rows/photo_words.h"
+#include "rows/library_head.h"
+#include "rows/values.h"
+#include "text/json.h"
+#include "text/translate.h"
 
 #include <cmath>
 #include <iterator>
@@ -49,7 +50,7 @@ std::vector<Field<Row>> fieldsOfTheFile()
          }},
         {{"mediaKind", Type::Text},
          [](const Row &row) { return Value(std::string(isVideo(row.asset) ? "video" : "photo")); }},
-        {{"path", Type::Path, said("FILE")},
+        {{"path", Type::Path, translate("FILE")},
          [](const Row &row) { return Value(row.asset.path()); }},
         {{"directory", Type::Text}, [](const Row &row) { return text(row.facts.directory); }},
         {{"fileName", Type::Text}, [](const Row &row) { return text(row.facts.fileName); }},
@@ -57,7 +58,7 @@ std::vector<Field<Row>> fieldsOfTheFile()
          [](const Row &row) { return knownText(row.facts.sourceFileName); }},
         {{"width", Type::Number}, [](const Row &row) { return number(row.facts.width); }},
         {{"height", Type::Number}, [](const Row &row) { return number(row.facts.height); }},
-        {{"fileSize", Type::Bytes, said("SIZE")},
+        {{"fileSize", Type::Bytes, translate("SIZE")},
          [](const Row &row) { return number(row.facts.fileSize); }},
         {{"duration", Type::Real}, duration},
     };
@@ -66,20 +67,20 @@ std::vector<Field<Row>> fieldsOfTheFile()
 std::vector<Field<Row>> fieldsOfTimes()
 {
     return {
-        {{"created", Type::Time, said("TAKEN")},
+        {{"created", Type::Time, translate("TAKEN")},
          [](const Row &row) { return utcTimeValue(row.facts.createdTime); }},
         {{"modified", Type::Time},
          [](const Row &row) { return utcTimeValue(row.facts.modifiedTime); }},
         {{"added", Type::Time}, [](const Row &row) { return utcTimeValue(row.facts.addedTime); }},
         {{"createdSince2001", Type::Real},
          [](const Row &row) { return Value(row.facts.createdTime); }},
-        {{"localDay", Type::Text, said("DAY")},
+        {{"localDay", Type::Text, translate("DAY")},
          [](const Row &row) { return localDayValue(row.facts); }},
         {{"trashed", Type::Time},
          [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->trashed}) : Value(); }},
-        {{"goes", Type::Time, said("GOES")},
+        {{"goes", Type::Time, translate("GOES")},
          [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->goes}) : Value(); }},
-        {{"daysLeft", Type::Number, said("DAYS LEFT")},
+        {{"daysLeft", Type::Number, translate("DAYS LEFT")},
          [](const Row &row) { return row.trash ? number(row.trash->daysLeft) : Value(); }},
     };
 }
@@ -110,17 +111,69 @@ std::vector<Field<Row>> fieldsOfTraits(std::index_sequence<indices...> /*all*/)
     return {{{traits[indices].key, Type::Flag}, traitOf<indices>}...};
 }
 
+std::string wordsForTrash(const TrashStay &stay)
+{
+    const std::string day = localDayText(stay.goes);
+    return stay.daysLeft == 1 ? translate("deleted, 1 day left, goes {0}", day)
+                              : translate("deleted, {0} days left, goes {1}", stay.daysLeft, day);
+}
+
+std::string wordsForTrait(const Trait &trait, const PhotoRow &row)
+{
+    if (!(row.facts.*trait.flag))
+        return "";
+    if (trait.flag == &CPhotoData::isBurst && row.burstFrames > 0)
+        return translate("burst of {0}", row.burstFrames);
+    return translateTerm(trait.word);
+}
+
+std::string wordOrStay(const Trait &trait, const PhotoRow &row)
+{
+    if (trait.flag == &CPhotoData::isDeleted && row.trash)
+        return wordsForTrash(*row.trash);
+    return wordsForTrait(trait, row);
+}
+
+template <typename WordFor>
+std::string joinedWords(const PhotoRow &row, WordFor wordFor)
+{
+    std::string words;
+    for (const Trait &trait : traits)
+        if (const std::string word = wordFor(trait, row); !word.empty())
+            words += (words.empty() ? "" : translate(", ")) + word;
+    return words;
+}
+
+/// "4032x3024"
+std::string pixelsOf(const CPhotoData &photo)
+{
+    return std::to_string(photo.width) + "x" + std::to_string(photo.height);
+}
+
+/// What is special about a photo, as "burst of 10, favorite" or "deleted, 12 days left, goes
+/// 2024-05-03", in the user's language.
+std::string wordsFor(const PhotoRow &row)
+{
+    return joinedWords(row, wordOrStay);
+}
+
+/// The same without its stay in the trash: "favorite, deleted".
+std::string kindsOf(const PhotoRow &row)
+{
+    return joinedWords(row, wordsForTrait);
+}
+
 std::vector<Field<Row>> viewsForPeople()
 {
     constexpr bool isFact = false;
     return {
-        {{"pixels", Type::Text, said("PIXELS"), Align::Right},
+        {{"pixels", Type::Text, translate("PIXELS"), Align::Right},
          [](const Row &row) { return Value(pixelsOf(row.facts)); },
          isFact},
-        {{"what", Type::Text, said("WHAT")},
+        {{"what", Type::Text, translate("WHAT")},
          [](const Row &row) { return Value(wordsFor(row)); },
          isFact},
-        {{"kinds", Type::Text, said("WHAT")},
+        {{"kinds", Type::Text, translate("WHAT")},
          [](const Row &row) { return Value(kindsOf(row)); },
          isFact},
     };
@@ -130,8 +183,8 @@ std::vector<Field<Row>> viewsForPeople()
 
 FieldTable<PhotoRow> photoFields()
 {
-    const std::vector<Field<Row>> albums = {
-        {{"albums", Type::List, said("ALBUMS")}, [](const Row &row) { return Value(row.albums); }}};
+    const std::vector<Field<Row>> albums = {{{"albums", Type::List, translate("ALBUMS")},
+                                             [](const Row &row) { return Value(row.albums); }}};
     FieldTable<PhotoRow> table;
     for (const auto &part :
          {fieldsOfTheFile(), fieldsOfTimes(), fieldsOfBursts(),
@@ -147,6 +200,20 @@ FieldTable<PhotoRow> photoFieldsOfTheTrash()
     table.inTables = {"created", "path",     "pixels", "fileSize",
                       "kinds",   "daysLeft", "goes",   "albums"};
     return table;
+}
+
+AlbumItems::AlbumItems(const std::vector<CAlbumGroup> &catalogue) : catalogue_(catalogue)
+{
+    for (const CAlbumGroup &album : catalogue)
+        items_.push_back({oneLine(albumReference(album)), englishName(album), shownName(album)});
+}
+
+Items AlbumItems::of(const Asset &asset) const
+{
+    Items items;
+    for (const CAlbumGroup *album : asset.albums())
+        items.push_back(&items_[static_cast<std::size_t>(album - catalogue_.data())]);
+    return items;
 }
 
 } // namespace iosphoto::tool

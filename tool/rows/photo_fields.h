@@ -1,12 +1,28 @@
 #ifndef IOSPHOTO_TOOL_PHOTO_FIELDS_H
 #define IOSPHOTO_TOOL_PHOTO_FIELDS_H
 
+#include "catalogue/assets.h"
 #include "catalogue/burst_frames.h"
 #include "catalogue/trash_stay.h"
-#include "rows/album_items.h"
 #include "rows/fields.h"
+#include "rows/values.h"
 
 namespace iosphoto::tool {
+
+/// The albums of a catalogue as items of the lists that rows have.
+class AlbumItems
+{
+public:
+    /// @param catalogue  has to outlive the items
+    explicit AlbumItems(const std::vector<CAlbumGroup> &catalogue);
+
+    /// The albums that show an asset, each once.
+    Items of(const Asset &asset) const;
+
+private:
+    const std::vector<CAlbumGroup> &catalogue_;
+    std::vector<ListItem> items_; // of each album
+};
 
 /// A photo of a library with all that its fields are made of.
 struct PhotoRow

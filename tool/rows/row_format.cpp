@@ -1,8 +1,7 @@
 #include "rows/row_format.h"
 
 #include "rows/csv_writer.h"
-#include "rows/json_lines_writer.h"
-#include "rows/json_writer.h"
+#include "rows/json_writers.h"
 #include "rows/table_writer.h"
 
 namespace iosphoto::tool {

@@ -1,9 +1,10 @@
 #ifndef IOSPHOTO_TOOL_ROW_WRITER_H
 #define IOSPHOTO_TOOL_ROW_WRITER_H
 
-#include "output/json_document.h"
-#include "output/text_table.h"
-#include "rows/value.h"
+#include "rows/library_head.h"
+#include "rows/values.h"
+#include "terminal/text_table.h"
+#include "text/json.h"
 
 #include <string>
 #include <vector>

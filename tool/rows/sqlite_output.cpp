@@ -1,15 +1,94 @@
 #include "rows/sqlite_output.h"
 
-#include "language/said.h"
-#include "language/sqlite_error.h"
-#include "output/file_use_observer.h"
-#include "output/output_file.h"
-#include "rows/own_database.h"
-#include "rows/sqlite_insert.h"
+#include "files/file_use_observer.h"
+#include "files/output_file.h"
+#include "process/failure.h"
+#include "sqlite/sqlite_error.h"
+#include "text/printable.h"
+#include "text/translate.h"
+#include "time/time_text.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <string>
 
 namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// Reads the header of a SQLite file: nothing is opened that could lock or change it.
+bool isOwn(const fs::path &file)
+{
+    constexpr std::size_t idOffset = 68;
+    std::array<char, idOffset + 4> header = {};
+    std::ifstream in(file, std::ios::binary);
+    if (!in.read(header.data(), header.size()))
+        return false;
+    std::uint32_t id = 0;
+    for (std::size_t i = idOffset; i < header.size(); ++i)
+        id = id << 8 | static_cast<unsigned char>(header.at(i));
+    const std::string magic("SQLite format 3\0", 16);
+    return magic.compare(0, magic.size(), header.data(), magic.size()) == 0 &&
+           id == std::uint32_t(ownApplicationId);
+}
+
+/// Binds a value to a place of a statement. Text is not copied, so it stays until the step.
+struct Bind
+{
+    sqlite3_stmt *statement;
+    int place;
+    std::string &made; ///< keeps a text that is made here
+
+    void operator()(std::monostate) const { sqlite3_bind_null(statement, place); }
+    void operator()(bool flag) const { sqlite3_bind_int(statement, place, flag ? 1 : 0); }
+    void operator()(std::int64_t number) const { sqlite3_bind_int64(statement, place, number); }
+    void operator()(double number) const { sqlite3_bind_double(statement, place, number); }
+    void operator()(const std::string &text) const
+    {
+        const bool isWhole = isUtf8(text);
+        if (!isWhole)
+            made = asUtf8(text);
+        bindText(isWhole ? text : made);
+    }
+    void operator()(UtcTime time) const
+    {
+        made = utcTimeText(time.unixTime);
+        made.empty() ? (*this)(std::monostate()) : bindText(made);
+    }
+    void operator()(const Items &items) const
+    {
+        made = "[";
+        for (const ListItem *item : items)
+            made += (made.size() > 1 ? "," : "") + item->json;
+        made += "]";
+        bindText(made);
+    }
+
+    void bindText(const std::string &text) const
+    {
+        sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()),
+                          SQLITE_STATIC);
+    }
+};
+
+const char *sqlType(Type type)
+{
+    switch (type) {
+    case Type::Flag:
+    case Type::Number:
+    case Type::Bytes:
+        return "integer";
+    case Type::Real:
+        return "real";
+    default:
+        return "text";
+    }
+}
+
+} // namespace
 
 std::string quotedName(const std::string &name)
 {
@@ -24,9 +103,9 @@ SqliteOutput::SqliteOutput(const fs::path &file, const fs::path &source, const J
 {
     const fs::path place = outputPlace(file, source);
     checkMayReplace(place);
-    unfinished_ = std::make_unique<UnfinishedFile>(place);
+    file_ = std::make_unique<AtomicFile>(place);
     sqlite3 *connection = nullptr;
-    const int result = sqlite3_open_v2(unfinished_->passingName().c_str(), &connection,
+    const int result = sqlite3_open_v2(file_->temporaryName().c_str(), &connection,
                                        SQLITE_OPEN_READWRITE, nullptr);
     connection_.reset(connection);
     if (result != SQLITE_OK)
@@ -71,15 +150,87 @@ void SqliteOutput::finish()
 {
     execute("commit");
     connection_.reset();
-    unfinished_->finish();
+    file_->finish();
     if (FileUseObserver *const observer = FileUseObserver::current())
         observer->wroteWhole(shownFile_);
 }
 
 Failure SqliteOutput::unwritable() const
 {
-    return cannotWrite(shownFile_, said("{0}; choose another place for the output",
-                                        sqliteError(connection_.get())));
+    return cannotWrite(shownFile_, translate("{0}; choose another place for the output",
+                                             sqliteError(connection_.get())));
+}
+
+void checkMayReplace(const fs::path &file)
+{
+    std::error_code ignored;
+    for (const char *suffix : {"-wal", "-journal"})
+        if (const fs::path log = file.string() + suffix; fs::exists(log, ignored))
+            throw Failure(CannotAccess,
+                          translate("cannot write '{0}': '{1}' lies beside it; close what "
+                                    "uses it, or choose another name",
+                                    file.string(), log.string()));
+    if (fs::exists(file, ignored) && !isOwn(file))
+        throw Failure(
+            CannotAccess,
+            translate("'{0}' is there and was not written by iosphoto --sqlite, so it is not "
+                      "replaced; choose another name",
+                      file.string()));
+}
+
+SqliteInsert::SqliteInsert(SqliteOutput &output, const std::string &table, std::size_t columns)
+    : output_(output), columns_(columns)
+{
+    std::string places;
+    for (std::size_t i = 0; i < columns; ++i)
+        places += i == 0 ? "?" : ", ?";
+    const std::string sql = "insert into " + quotedName(table) + " values (" + places + ")";
+    sqlite3_stmt *statement = nullptr;
+    const int result =
+        sqlite3_prepare_v2(output_.connection_.get(), sql.c_str(), -1, &statement, nullptr);
+    statement_.reset(statement);
+    if (result != SQLITE_OK)
+        throw output_.unwritable();
+}
+
+void SqliteInsert::row(const std::vector<Value> &values)
+{
+    made_.resize(values.size());
+    const int firstPlace = 1 + static_cast<int>(columns_ - values.size());
+    for (std::size_t i = 0; i < values.size(); ++i)
+        std::visit(Bind{statement_.get(), firstPlace + static_cast<int>(i), made_[i]}, values[i]);
+    const int result = sqlite3_step(statement_.get());
+    sqlite3_reset(statement_.get());
+    if (result != SQLITE_DONE)
+        throw output_.unwritable();
+}
+
+SqliteRows::SqliteRows(SqliteOutput &output, std::string key)
+    : output_(output), key_(std::move(key))
+{
+}
+
+void SqliteRows::begin(const RowsHead &head, const std::vector<Column> &columns)
+{
+    const bool isCounting = std::none_of(columns.begin(), columns.end(),
+                                         [&](const Column &column) { return column.key == key_; });
+    std::string definitions = isCounting ? quotedName(key_) + " integer primary key" : "";
+    for (const Column &column : columns)
+        definitions += (definitions.empty() ? "" : ", ") + quotedName(column.key) + " " +
+                       sqlType(column.type) + (column.key == key_ ? " primary key" : "");
+    output_.execute("create table " + quotedName(head.rows) + " (" + definitions + ")");
+    insert_ =
+        std::make_unique<SqliteInsert>(output_, head.rows, columns.size() + (isCounting ? 1 : 0));
+}
+
+void SqliteRows::row(const std::vector<Value> &values)
+{
+    insert_->row(values);
+}
+
+void SqliteRows::end()
+{
+    insert_.reset();
 }
 
 } // namespace iosphoto::tool

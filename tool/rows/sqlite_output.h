@@ -1,14 +1,18 @@
 #ifndef IOSPHOTO_TOOL_SQLITE_OUTPUT_H
 #define IOSPHOTO_TOOL_SQLITE_OUTPUT_H
 
-#include "output/json_document.h"
-#include "output/unfinished_file.h"
+#include "files/atomic_file.h"
+#include "rows/row_writer.h"
+#include "rows/values.h"
+#include "text/json.h"
 
 #include <sqlite3.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -42,12 +46,55 @@ private:
     Failure unwritable() const;
 
     std::filesystem::path shownFile_;
-    std::unique_ptr<UnfinishedFile> unfinished_;
+    std::unique_ptr<AtomicFile> file_;
     std::unique_ptr<sqlite3, Close> connection_;
 };
 
 /// A name as SQL has it, whatever it is made of.
 std::string quotedName(const std::string &name);
+
+/// SQLite's application_id of the databases that the tool writes: "iPho".
+constexpr std::int32_t ownApplicationId = 0x6950686F;
+
+/// Throws Failure when there is a file that the tool did not write, so that nobody loses one, or
+/// one that is in use.
+void checkMayReplace(const std::filesystem::path &file);
+
+/// Inserts rows into a table of an output, which outlives it and is finished after it is gone.
+class SqliteInsert
+{
+public:
+    SqliteInsert(SqliteOutput &output, const std::string &table, std::size_t columns);
+
+    /// @param values  of the last columns; those in front of them stay null, as which a primary key
+    ///                counts
+    void row(const std::vector<Value> &values);
+
+private:
+    SqliteOutput &output_;
+    std::size_t columns_;
+    std::unique_ptr<sqlite3_stmt, SqliteOutput::Close> statement_;
+    std::vector<std::string> made_; ///< texts of the row that are not the values themselves
+};
+
+/// Writes rows into a table of an output that is named as RowsHead::rows says. The output's
+/// finish() comes after end().
+class SqliteRows : public RowWriter
+{
+public:
+    /// @param key  the column that is the primary key; one that the rows do not have is added in
+    ///             front and counts them from 1
+    explicit SqliteRows(SqliteOutput &output, std::string key = "id");
+
+    void begin(const RowsHead &head, const std::vector<Column> &columns) override;
+    void row(const std::vector<Value> &values) override;
+    void end() override;
+
+private:
+    SqliteOutput &output_;
+    std::string key_;
+    std::unique_ptr<SqliteInsert> insert_;
+};
 
 } // namespace iosphoto::tool
 

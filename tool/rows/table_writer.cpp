@@ -1,8 +1,8 @@
 #include "rows/table_writer.h"
 
-#include "catalogue/moment.h"
-#include "language/said.h"
-#include "output/readable_size.h"
+#include "text/numbers.h"
+#include "text/translate.h"
+#include "time/time_text.h"
 
 namespace iosphoto::tool {
 
@@ -14,7 +14,7 @@ struct ShownValue
     Type type;
 
     std::string operator()(std::monostate) const { return ""; }
-    std::string operator()(bool flag) const { return flag ? said("yes") : ""; }
+    std::string operator()(bool flag) const { return flag ? translate("yes") : ""; }
     std::string operator()(std::int64_t number) const
     {
         return type == Type::Bytes ? readableSize(number) : std::to_string(number);
@@ -26,7 +26,7 @@ struct ShownValue
     {
         std::string text;
         for (const ListItem *item : items)
-            text += (text.empty() ? "" : said(", ")) + item->shown;
+            text += (text.empty() ? "" : translate(", ")) + item->shown;
         return text;
     }
 };
@@ -40,7 +40,7 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
     shown.reserve(columns.size());
     for (const Column &column : columns)
         shown.push_back({column.heading, column.align,
-                         column.type == Type::Path ? Kept::End : Kept::Beginning,
+                         column.type == Type::Path ? Elide::Left : Elide::Right,
                          column.align == Align::Left && column.type != Type::Time});
     table_.emplace(std::move(shown));
 }

@@ -1,8 +1,8 @@
 #ifndef IOSPHOTO_TOOL_TABLE_WRITER_H
 #define IOSPHOTO_TOOL_TABLE_WRITER_H
 
-#include "output/text_table.h"
 #include "rows/row_writer.h"
+#include "terminal/text_table.h"
 
 #include <optional>
 #include <ostream>

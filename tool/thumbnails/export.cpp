@@ -1,9 +1,9 @@
 #include "thumbnails/export.h"
 
-#include "failure.h"
-#include "language/said.h"
-#include "output/output_file.h"
-#include "output/progress_bar.h"
+#include "files/output_file.h"
+#include "process/failure.h"
+#include "terminal/progress_bar.h"
+#include "text/translate.h"
 #include "thumbnails/contact_sheet.h"
 #include "thumbnails/picture.h"
 
@@ -52,9 +52,9 @@ WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail, cons
 {
     const QString suffix = lowerSuffix(file);
     if (!suffix.isEmpty() && suffix != "bmp" && suffix != "png")
-        throw Failure(WrongUsage, said("cannot write '{0}': thumbnails are written as .bmp or "
-                                       ".png; name such a file",
-                                       file));
+        throw Failure(WrongUsage, translate("cannot write '{0}': thumbnails are written as .bmp or "
+                                            ".png; name such a file",
+                                            file));
     writeOutput(file, content(cache, thumbnail, suffix == "png"), cache.file());
     return {{thumbnail.index, file}};
 }
@@ -63,7 +63,7 @@ WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool 
 {
     makeOutputFolder(folder);
     const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
-    ProgressBar progress(said("writing thumbnails"), static_cast<int>(thumbnails.size()));
+    ProgressBar progress(translate("writing thumbnails"), static_cast<int>(thumbnails.size()));
     WrittenFiles written;
     for (const Thumbnail &thumbnail : thumbnails) {
         const std::string name =
@@ -80,10 +80,10 @@ WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file)
 {
     if (lowerSuffix(file) != "png")
         throw Failure(WrongUsage,
-                      said("cannot write '{0}': a contact sheet is a PNG file; name one "
-                           "that ends in .png",
-                           file));
-    ProgressBar progress(said("drawing sheets"), sheetCount(cache));
+                      translate("cannot write '{0}': a contact sheet is a PNG file; name one "
+                                "that ends in .png",
+                                file));
+    ProgressBar progress(translate("drawing sheets"), sheetCount(cache));
     WrittenFiles written;
     for (int sheet = 0; sheet < sheetCount(cache); ++sheet) {
         const fs::path name = sheetName(file, sheet);

@@ -1,5 +1,5 @@
-#ifndef IOSPHOTO_TOOL_THUMBNAIL_EXPORT_H
-#define IOSPHOTO_TOOL_THUMBNAIL_EXPORT_H
+#ifndef IOSPHOTO_TOOL_EXPORT_H
+#define IOSPHOTO_TOOL_EXPORT_H
 
 #include "thumbnails/thumb_cache.h"
 
@@ -25,4 +25,4 @@ WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file);
 
 } // namespace iosphoto::tool
 
-#endif // IOSPHOTO_TOOL_THUMBNAIL_EXPORT_H
+#endif // IOSPHOTO_TOOL_EXPORT_H

@@ -1,10 +1,10 @@
 #include "thumbnails/thumb_cache.h"
 
-#include "failure.h"
+#include "files/source_file.h"
 #include "ithmb/thumb_decode.h"
-#include "language/said.h"
-#include "output/counted.h"
-#include "source/source_file.h"
+#include "process/failure.h"
+#include "text/numbers.h"
+#include "text/translate.h"
 #include "thumbnails/cache_format.h"
 #include "thumbnails/unsupported_cache.h"
 
@@ -15,8 +15,8 @@
 namespace iosphoto::tool {
 
 ThumbCache::ThumbCache(const std::string &path)
-    : path_(path), file_(sourceFile(path, said("a cache in it, such as 120x120.ithmb of "
-                                               "PhotoData/Thumbnails"))),
+    : path_(path), file_(sourceFile(path, translate("a cache in it, such as 120x120.ithmb of "
+                                                    "PhotoData/Thumbnails"))),
       reader_(file_.c_str())
 {
     requireReadable(file_);
@@ -56,18 +56,21 @@ const Thumbnail &ThumbCache::at(int index) const
         return *found;
     const int last = recordCount_ - 1;
     if (index > last && isBeyondReach_)
-        throw Failure(WrongUsage, said("'{0}' has no thumbnail {1}: the last within 2 GiB is {2}",
-                                       path_, index, last));
+        throw Failure(WrongUsage,
+                      translate("'{0}' has no thumbnail {1}: the last within 2 GiB is {2}", path_,
+                                index, last));
     if (index > last)
-        throw Failure(WrongUsage, said("'{0}' has no thumbnail {1}: its last record is {2}", path_,
-                                       index, last));
+        throw Failure(WrongUsage, translate("'{0}' has no thumbnail {1}: its last record is {2}",
+                                            path_, index, last));
     if (recordState(reader_, format_->recordSize, index) == RecordState::Empty)
-        throw Failure(WrongUsage, said("'{0}' has no thumbnail {1}: that record is empty; leave "
-                                       "out --index to see which are not",
-                                       path_, index));
-    throw Failure(CannotAccess, said("'{0}' has no thumbnail {1}: that record is damaged; copy "
-                                     "the file from the device again",
-                                     path_, index));
+        throw Failure(WrongUsage,
+                      translate("'{0}' has no thumbnail {1}: that record is empty; leave "
+                                "out --index to see which are not",
+                                path_, index));
+    throw Failure(CannotAccess,
+                  translate("'{0}' has no thumbnail {1}: that record is damaged; copy "
+                            "the file from the device again",
+                            path_, index));
 }
 
 QByteArray ThumbCache::image(const Thumbnail &thumbnail) const
@@ -78,7 +81,7 @@ QByteArray ThumbCache::image(const Thumbnail &thumbnail) const
         again.bytes != thumbnail.bytes)
         throw Failure(
             CannotAccess,
-            said("cannot read '{0}': it changed while it was read; copy it first", path_));
+            translate("cannot read '{0}': it changed while it was read; copy it first", path_));
     return image;
 }
 
@@ -95,16 +98,16 @@ std::string ThumbCache::missing() const
 {
     std::string what;
     const auto add = [&](const std::string &part) {
-        what = what.empty() ? part : said("{0}, and {1}", what, part);
+        what = what.empty() ? part : translate("{0}, and {1}", what, part);
     };
     if (damagedCount_ > 0)
         add(counted(damagedCount_, "{0} damaged record (copy it from the device again)",
                     "{0} damaged records (copy it from the device again)"));
     if (isCutOff_)
-        add(said("a last record that is cut off (copy it from the device again)"));
+        add(translate("a last record that is cut off (copy it from the device again)"));
     if (isBeyondReach_)
-        add(said("the records beyond 2 GiB, which are not reached"));
-    return what.empty() ? what : said("'{0}' has more than is shown here: {1}", path_, what);
+        add(translate("the records beyond 2 GiB, which are not reached"));
+    return what.empty() ? what : translate("'{0}' has more than is shown here: {1}", path_, what);
 }
 
 } // namespace iosphoto::tool

@@ -1,7 +1,7 @@
 #include "thumbnails/unsupported_cache.h"
 
-#include "language/said.h"
-#include "output/counted.h"
+#include "text/numbers.h"
+#include "text/translate.h"
 #include "thumbnails/cache_format.h"
 #include "thumbnails/newer_kinds.h"
 
@@ -33,8 +33,8 @@ std::string describe(const std::vector<NewerKind> &kinds)
     std::string text;
     for (const NewerKind &kind : kinds) {
         const std::string pixels =
-            said("{0}x{0} at {1} bits per pixel", kind.side, kind.bitsPerPixel);
-        text = text.empty() ? pixels : said("{0} or {1}", text, pixels);
+            translate("{0}x{0} at {1} bits per pixel", kind.side, kind.bitsPerPixel);
+        text = text.empty() ? pixels : translate("{0} or {1}", text, pixels);
     }
     return text;
 }
@@ -50,20 +50,23 @@ bool isNamedLike(const std::string &path, const char *pattern)
 std::string whatItIs(ifile &file, const std::string &path)
 {
     if (isNamedLike(path, "F[0-9]{4}_[0-9]+\\.ithmb"))
-        return said("'{0}' is named like a cache of an iPod or of iPhone OS 1 to 3, which is not "
-                    "supported",
-                    path);
+        return translate(
+            "'{0}' is named like a cache of an iPod or of iPhone OS 1 to 3, which is not "
+            "supported",
+            path);
     if (isNamedLike(path, "T[0-9]{2,}\\.ithmb"))
-        return said("'{0}' is named like a picture of an iPod Photo Cache of a computer, which is "
-                    "not supported",
-                    path);
+        return translate(
+            "'{0}' is named like a picture of an iPod Photo Cache of a computer, which is "
+            "not supported",
+            path);
     if (file.getlength() == 0)
-        return said("'{0}' is empty, not a thumbnail cache", path);
+        return translate("'{0}' is empty, not a thumbnail cache", path);
     if (holdsOnlyZeros(file))
-        return said("'{0}' holds nothing but zeros, and which format its thumbnails would have "
-                    "cannot be told",
-                    path);
-    return said("'{0}' is not a thumbnail cache of a known format", path);
+        return translate(
+            "'{0}' holds nothing but zeros, and which format its thumbnails would have "
+            "cannot be told",
+            path);
+    return translate("'{0}' is not a thumbnail cache of a known format", path);
 }
 
 } // namespace
@@ -84,12 +87,13 @@ Failure unsupportedCache(ifile &file, const std::string &path)
     const std::vector<NewerKind> kinds = newerKindsOf(file, path);
     if (!kinds.empty())
         return {WrongKindOfFile,
-                said("'{0}' is a thumbnail cache of a newer kind (records of {1} bytes, {2}), "
-                     "which cannot be decoded; the pictures of such a device are in "
-                     "PhotoData/Thumbnails/V2 as JPEG files",
-                     path, grouped(kinds.front().recordSize), describe(kinds))};
-    return {WrongKindOfFile, said("{0}; name one, such as 120x120.ithmb of PhotoData/Thumbnails",
-                                  whatItIs(file, path))};
+                translate("'{0}' is a thumbnail cache of a newer kind (records of {1} bytes, {2}), "
+                          "which cannot be decoded; the pictures of such a device are in "
+                          "PhotoData/Thumbnails/V2 as JPEG files",
+                          path, grouped(kinds.front().recordSize), describe(kinds))};
+    return {WrongKindOfFile,
+            translate("{0}; name one, such as 120x120.ithmb of PhotoData/Thumbnails",
+                      whatItIs(file, path))};
 }
 
 } // namespace iosphoto::tool

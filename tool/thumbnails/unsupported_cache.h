@@ -1,9 +1,9 @@
 #ifndef IOSPHOTO_TOOL_UNSUPPORTED_CACHE_H
 #define IOSPHOTO_TOOL_UNSUPPORTED_CACHE_H
 
-#include "failure.h"
 #include "ithmb/ithmb.h"
 #include "ithmb/thumb_formats.h"
+#include "process/failure.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "catalogue/library_difference.h"
+#include "catalogue/difference.h"
 #include "support/hand_made_catalogue.h"
 
 #include <gtest/gtest.h>

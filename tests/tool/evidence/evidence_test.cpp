@@ -1,7 +1,7 @@
 #include "evidence/evidence.h"
 
-#include "failure.h"
-#include "output/output_file.h"
+#include "files/output_file.h"
+#include "process/failure.h"
 #include "support/sha256_of.h"
 #include "support/temporary_folder.h"
 

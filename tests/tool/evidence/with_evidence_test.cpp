@@ -1,8 +1,8 @@
-#include "evidence/with_evidence.h"
+#include "evidence/evidence.h"
 
-#include "output/file_use_observer.h"
+#include "files/file_use_observer.h"
 
-#include "failure.h"
+#include "process/failure.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 #include "rows/csv_writer.h"
-#include "rows/json_lines_writer.h"
+#include "rows/json_writers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "thumbnails/thumb_cache.h"
 
-#include "failure.h"
+#include "process/failure.h"
 #include "support/sample_thumb_cache.h"
 #include "support/temporary_folder.h"
 

@@ -1,0 +1,126 @@
+#include "model/passes/asset_row_decoder.h"
+
+#include "model/core_data_time.h"
+#include "model/model_devicephoto_dbmgr.h"
+
+#include <limits>
+#include <utility>
+
+namespace iosphoto {
+
+namespace {
+
+/// The columns that stand in the same place in the rows of all passes.
+namespace shared {
+constexpr const char *names[] = {"ZTHUMBNAILINDEX",   "ZFILENAME", "ZDIRECTORY",
+                                 "ZORIGINALFILENAME", "ZWIDTH",    "ZHEIGHT",
+                                 "ZORIGINALFILESIZE"};
+static_assert(startsWith(cameraRollColumns, names));
+static_assert(startsWith(photoLibraryColumns, names));
+static_assert(startsWith(albumContentsColumns, names));
+
+constexpr int thumbnailIndex = column(names, "ZTHUMBNAILINDEX");
+constexpr int fileName = column(names, "ZFILENAME");
+constexpr int directory = column(names, "ZDIRECTORY");
+constexpr int originalFileName = column(names, "ZORIGINALFILENAME");
+constexpr int width = column(names, "ZWIDTH");
+constexpr int height = column(names, "ZHEIGHT");
+constexpr int originalFileSize = column(names, "ZORIGINALFILESIZE");
+} // namespace shared
+
+constexpr int edited = 1;      // ZHASADJUSTMENTS
+constexpr int editedState = 2; // ZADJUSTMENTSSTATE
+
+/// Sizes from 2 GiB on were stored as 32 bits with a sign; this gives them back, up to 4 GiB.
+std::int64_t repairedSize(std::int64_t size)
+{
+    return size < 0 ? static_cast<std::uint32_t>(size) : size;
+}
+
+float toFloat(double value)
+{
+    static_assert(std::numeric_limits<float>::is_iec559, "too large a value becomes infinite");
+    return static_cast<float>(value);
+}
+
+} // namespace
+
+AssetRowDecoder::AssetRowDecoder(const AssetRowLayout &layout, const DeviceProfile &device,
+                                 QString albumName)
+    : layout_(layout), ios_(device.ios), albumName_(std::move(albumName)),
+      unknownDate_(QDevPhotoDbMgr::tr("未知"))
+{
+}
+
+std::unique_ptr<CPhotoData> AssetRowDecoder::decode(const Row &row)
+{
+    auto photo = std::make_unique<CPhotoData>();
+    readFile(*photo, row);
+    readTimes(*photo, row);
+    readIdentifiers(*photo, row);
+    photo->isEdited = isEdited(row);
+    if (ios_ >= IosGeneration::Ios9)
+        photo->isLivePhoto = row.int32(layout_.livePhoto) != 0;
+    photo->albumName = albumName_;
+    photo->dateText = dateText(*photo);
+    return photo;
+}
+
+void AssetRowDecoder::readFile(CPhotoData &photo, const Row &row)
+{
+    photo.thumbnailIndex = row.int32(shared::thumbnailIndex);
+    photo.fileName = row.text(shared::fileName);
+    photo.directory = directory_.of(row.cString(shared::directory));
+    photo.sourceFileName = row.haveSameText(shared::fileName, shared::originalFileName)
+                               ? photo.fileName
+                               : row.text(shared::originalFileName);
+    photo.width = row.int32(shared::width);
+    photo.height = row.int32(shared::height);
+    photo.fileSize = repairedSize(row.int64(shared::originalFileSize));
+    photo.duration = toFloat(row.real(layout_.duration));
+}
+
+void AssetRowDecoder::readTimes(CPhotoData &photo, const Row &row) const
+{
+    photo.createdTime = seconds(row, layout_.created);
+    photo.modifiedTime = seconds(row, layout_.modified);
+    photo.addedTime = ios_ >= IosGeneration::Ios8 ? seconds(row, layout_.added) : photo.createdTime;
+}
+
+double AssetRowDecoder::seconds(const Row &row, int column) const
+{
+    return layout_.fractionalDates ? row.real(column) : static_cast<double>(row.int64(column));
+}
+
+void AssetRowDecoder::readIdentifiers(CPhotoData &photo, const Row &row) const
+{
+    if (ios_ >= IosGeneration::Ios8) {
+        photo.uuid = row.bytes(layout_.uuid);
+        photo.albumUuid = row.bytes(layout_.albumUuid);
+        return;
+    }
+    photo.uuid = row.hex(layout_.uuid);
+    photo.albumUuid = row.hex(layout_.albumUuid);
+    if (photo.albumUuid.empty())
+        photo.albumUuid = layout_.missingAlbumUuid;
+}
+
+bool AssetRowDecoder::isEdited(const Row &row) const
+{
+    if (ios_ >= IosGeneration::Ios18)
+        return row.int32(layout_.adjustmentsState) == editedState;
+    if (ios_ >= IosGeneration::Ios8)
+        return row.int32(layout_.hasAdjustments) == edited;
+    return ios_ >= IosGeneration::Ios7 && row.hasText(layout_.editorBundle);
+}
+
+QString AssetRowDecoder::dateText(const CPhotoData &photo)
+{
+    const double time = photo.createdTime < 0 ? photo.addedTime : photo.createdTime;
+    const std::int64_t unixTime = wholeSeconds(time + static_cast<double>(coreDataEpoch));
+    if (unixTime < layout_.firstKnownDate)
+        return unknownDate_;
+    return day_.of(unixTime);
+}
+
+} // namespace iosphoto

@@ -1,0 +1,105 @@
+#include "support/case_name.h"
+#include "support/library_builder.h"
+#include "support/run_tool.h"
+#include "support/sample_thumb_cache.h"
+#include "terminal/display_width.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace iosphoto::test;
+using iosphoto::tool::displayWidth;
+using testing::HasSubstr;
+
+namespace {
+
+struct ListingOnTerminal
+{
+    std::string command;
+    std::vector<std::string> options;
+    std::string shown; ///< of its text, whatever the width
+
+    std::string name() const { return command + (options.empty() ? "" : options.front()); }
+};
+
+std::ostream &operator<<(std::ostream &stream, const ListingOnTerminal &listing)
+{
+    return stream << listing.name();
+}
+
+const ListingOnTerminal listings[] = {
+    {"albums", {}, "Camera Roll"},
+    {"photos", {}, "IMG_0003.JPG"},
+    {"photos", {"--deleted"}, "IMG_0004.JPG"},
+    {"info", {}, "IMG_0003.JPG"},
+    {"diff", {}, "IMG_0003.JPG"},
+    {"thumb", {}, "80x60"},
+};
+
+/// A library with names that are long and wide.
+void fill(LibraryBuilder &library)
+{
+    const AlbumRow trip =
+        library.album("A journey around the whole world 环游世界 👨‍👩‍👧‍👦");
+    library.asset("IMG_0001_with_a_name_that_goes_on_and_on.JPG").in(trip).set("ZFAVORITE", 1);
+    library.asset("照片照片照片照片照片照片照片照片照片照片.JPG").in(trip);
+}
+
+} // namespace
+
+class NarrowTerminal : public testing::TestWithParam<std::tuple<ListingOnTerminal, std::size_t>>
+{
+protected:
+    NarrowTerminal()
+    {
+        fill(before_);
+        fill(after_);
+        after_.execute("pragma journal_mode = wal; pragma wal_autocheckpoint = 0");
+        after_.asset("IMG_0003.JPG");
+        after_.asset("IMG_0004.JPG").trashedAt(600'000'000);
+        writeFile(cache_, sampleThumbCache(120).bytes());
+    }
+
+    std::vector<std::string> sources() const
+    {
+        const std::string &command = std::get<0>(GetParam()).command;
+        if (command == "thumb")
+            return {cache_};
+        if (command == "diff")
+            return {before_.path(), after_.path()};
+        return {after_.path(), "--as-of", "2020-01-10"};
+    }
+
+    LibraryBuilder before_{ios15};
+    LibraryBuilder after_{ios15};
+    TemporaryFolder folder_;
+    std::string cache_ = (folder_ / "120x120.ithmb").string();
+};
+
+TEST_P(NarrowTerminal, HasNoLineThatIsWiderAndWholeNamesOfFiles)
+{
+    const auto &[listing, columns] = GetParam();
+    std::vector<std::string> arguments = sources();
+    arguments.insert(arguments.begin(), listing.command);
+    arguments.insert(arguments.end(), listing.options.begin(), listing.options.end());
+    arguments.insert(arguments.end(), {"--color", "never"});
+    const ToolRun run = runToolOnTerminal(arguments, static_cast<int>(columns));
+
+    EXPECT_EQ(run.status, listing.command == "diff" ? 1 : 0) << run;
+    std::istringstream lines(run.out);
+    int count = 0;
+    for (std::string line; std::getline(lines, line); ++count)
+        EXPECT_LE(displayWidth(line), columns) << line;
+    EXPECT_GE(count, 2) << run;
+    EXPECT_THAT(run.out, HasSubstr(listing.shown));
+}
+
+INSTANTIATE_TEST_SUITE_P(Listings, NarrowTerminal,
+                         testing::Combine(testing::ValuesIn(listings),
+                                          testing::Values(40U, 60U, 80U, 100U)),
+                         [](const auto &tested) {
+                             return caseName(std::get<0>(tested.param).name() + " " +
+                                             std::to_string(std::get<1>(tested.param)));
+                         });

@@ -1,0 +1,210 @@
+#include "catalogue/photo_selection.h"
+
+#include "catalogue/album_kinds.h"
+#include "catalogue/burst_frames.h"
+#include "catalogue/trash_stay.h"
+#include "process/failure.h"
+#include "terminal/messages.h"
+#include "text/translate.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <limits>
+
+namespace iosphoto::tool {
+
+namespace {
+
+bool isShownBy(const Asset &asset, const std::vector<const CAlbumGroup *> &albums)
+{
+    return std::any_of(asset.begin(), asset.end(), [&](const Appearance &appearance) {
+        return std::find(albums.begin(), albums.end(), appearance.album) != albums.end();
+    });
+}
+
+bool matchesTime(const PhotoFilter &filter, const Asset &asset)
+{
+    if (!filter.since && !filter.until)
+        return true;
+    const auto created = unixTimeOf(asset.begin()->record->createdTime);
+    return created && (!filter.since || *created >= *filter.since) &&
+           (!filter.until || *created <= *filter.until);
+}
+
+bool matchesKinds(const PhotoFilter &filter, const Asset &asset)
+{
+    return filter.kinds.empty() || std::any_of(filter.kinds.begin(), filter.kinds.end(),
+                                               [&](const KindTest &test) { return test(asset); });
+}
+
+bool matchesFlags(const PhotoFilter &filter, const Asset &asset)
+{
+    return (!filter.isDeleted || asset.has(&CPhotoData::isDeleted)) &&
+           (!filter.isHidden || asset.has(&CPhotoData::isHidden)) &&
+           (!filter.isFavorite || asset.has(&CPhotoData::isFavorite)) &&
+           (!filter.isEdited || asset.has(&CPhotoData::isEdited));
+}
+
+bool matchesTrash(const PhotoFilter &filter, const Library &library, const Asset &asset)
+{
+    if (!filter.trashedWithinDays)
+        return true;
+    constexpr std::int64_t day = std::int64_t(24) * 60 * 60;
+    const auto stay = trashStay(library, asset);
+    return stay && stay->trashed >= library.asOf().unixTime - *filter.trashedWithinDays * day;
+}
+
+struct OrderName
+{
+    const char *name;
+    PhotoOrder order;
+};
+
+constexpr OrderName orderNames[] = {
+    {"date", PhotoOrder::Date},       {"name", PhotoOrder::Name},
+    {"size", PhotoOrder::Size},       {"duration", PhotoOrder::Duration},
+    {"added", PhotoOrder::Added},     {"modified", PhotoOrder::Modified},
+    {"deleted", PhotoOrder::Deleted},
+};
+
+constexpr double none = -std::numeric_limits<double>::infinity();
+
+double longest(const Asset &asset)
+{
+    double duration = 0;
+    for (const Appearance &appearance : asset)
+        duration = std::max<double>(duration, appearance.record->duration);
+    return duration;
+}
+
+double rank(const Asset &asset, PhotoOrder order, const Library &library)
+{
+    const CPhotoData &record = *asset.begin()->record;
+    switch (order) {
+    case PhotoOrder::Size:
+        return static_cast<double>(record.fileSize);
+    case PhotoOrder::Duration:
+        return longest(asset);
+    case PhotoOrder::Added:
+        return record.addedTime;
+    case PhotoOrder::Modified:
+        return record.modifiedTime;
+    case PhotoOrder::Deleted: {
+        const auto stay = trashStay(library, asset);
+        return stay ? static_cast<double>(stay->trashed) : none;
+    }
+    default:
+        return record.createdTime;
+    }
+}
+
+/// Sorts by a key that is made once for each photo.
+template <typename KeyOf, typename Before>
+void sortBy(std::vector<Asset> &photos, KeyOf keyOf, Before before)
+{
+    std::vector<std::pair<decltype(keyOf(photos.front())), Asset>> keyed;
+    keyed.reserve(photos.size());
+    for (const Asset &photo : photos)
+        keyed.emplace_back(keyOf(photo), photo);
+    std::stable_sort(keyed.begin(), keyed.end(), [&](const auto &left, const auto &right) {
+        return before(left.first, right.first);
+    });
+    std::transform(keyed.begin(), keyed.end(), photos.begin(),
+                   [](const auto &entry) { return entry.second; });
+}
+
+bool matches(const CAlbumGroup &album, const QString &wanted)
+{
+    const QString names[] = {album.albumName,
+                             QString::fromStdString(kindName(album)),
+                             QString::fromStdString(englishKind(album)),
+                             QString::fromStdString(shownKind(album)),
+                             QString::number(album.albumKind),
+                             QString::fromStdString(album.albumUuid)};
+    return std::any_of(std::begin(names), std::end(names), [&](const QString &name) {
+        return !name.isEmpty() && name.compare(wanted, Qt::CaseInsensitive) == 0;
+    });
+}
+
+} // namespace
+
+std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &library,
+                                  const AssetList &assets)
+{
+    std::vector<const CAlbumGroup *> albums;
+    if (filter.album)
+        albums = selectAlbums(library, *filter.album);
+    std::vector<Asset> matching;
+    for (std::size_t i = 0; i < assets.size(); ++i) {
+        const Asset asset = assets[i];
+        if ((!filter.album || isShownBy(asset, albums)) && matchesTime(filter, asset) &&
+            matchesKinds(filter, asset) && matchesFlags(filter, asset) &&
+            matchesTrash(filter, library, asset))
+            matching.push_back(asset);
+    }
+    return matching;
+}
+
+PhotoOrder orderNamed(const std::string &name)
+{
+    std::string known;
+    for (const OrderName &row : orderNames) {
+        if (name == row.name)
+            return row.order;
+        known += (known.empty() ? "" : ", ") + std::string(row.name);
+    }
+    throw Failure(WrongUsage,
+                  translate("--sort: there is no order '{0}'; there are {1}", name, known));
+}
+
+void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &library)
+{
+    if (order == PhotoOrder::Name) {
+        sortBy(
+            photos,
+            [](const Asset &asset) { return asset.begin()->record->fileName.toCaseFolded(); },
+            std::less<>());
+        return;
+    }
+    const auto key = [&](const Asset &asset) {
+        const double number = rank(asset, order, library);
+        return std::isnan(number) ? none : number;
+    };
+    sortBy(photos, key, std::greater<>());
+}
+
+std::vector<Asset> choosePhotos(const PhotoChoice &choice, const Library &library,
+                                const AssetList &assets)
+{
+    std::vector<Asset> chosen = matchingPhotos(choice.filter, library, assets);
+    if (!choice.hasFrames)
+        chosen = BurstFrames::oneOfEach(chosen);
+    sortPhotos(chosen, choice.order, library);
+    if (choice.isReversed)
+        std::reverse(chosen.begin(), chosen.end());
+    if (choice.limit && *choice.limit < chosen.size())
+        chosen.erase(chosen.begin() + static_cast<std::ptrdiff_t>(*choice.limit), chosen.end());
+    return chosen;
+}
+
+std::vector<const CAlbumGroup *> selectAlbums(const Library &library, const std::string &wanted)
+{
+    std::vector<const CAlbumGroup *> selected;
+    std::string listed;
+    for (const CAlbumGroup &album : library.albums()) {
+        if (!matches(album, QString::fromStdString(wanted)))
+            continue;
+        listed += (selected.empty() ? "" : translate(", ")) + shownName(album);
+        selected.push_back(&album);
+    }
+    if (selected.empty())
+        throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
+                                            wanted, library.name()));
+    if (selected.size() > 1)
+        printInfo(translate("'{0}' fits {1} albums, all are shown: {2}", wanted, selected.size(),
+                            listed));
+    return selected;
+}
+
+} // namespace iosphoto::tool

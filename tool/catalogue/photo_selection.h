@@ -1,0 +1,60 @@
+#ifndef IOSPHOTO_TOOL_PHOTO_SELECTION_H
+#define IOSPHOTO_TOOL_PHOTO_SELECTION_H
+
+#include "catalogue/assets.h"
+#include "catalogue/library.h"
+#include "catalogue/photo_kinds.h"
+
+namespace iosphoto::tool {
+
+/// Which photos are asked for. One that is asked for fits all that is said.
+struct PhotoFilter
+{
+    std::optional<std::string> album;  ///< see selectAlbums()
+    std::optional<std::int64_t> since; ///< Unix time of its creation
+    std::optional<std::int64_t> until;
+    std::vector<KindTest> kinds; ///< any of them, if there are some
+    bool isDeleted = false;
+    std::optional<int> trashedWithinDays; ///< before the library's moment; needs isDeleted
+    bool isHidden = false;
+    bool isFavorite = false;
+    bool isEdited = false;
+};
+
+/// The photos that match, in the order of the list. Throws Failure when there is no such album.
+std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &library,
+                                  const AssetList &assets);
+
+/// What photos are sorted by. Names from A to Z; times from the newest, numbers from the largest,
+/// those that have none last.
+enum class PhotoOrder { Date, Name, Size, Duration, Added, Modified, Deleted };
+
+/// The order that somebody names, such as "date". Throws Failure for an unknown one, naming those
+/// that are known.
+PhotoOrder orderNamed(const std::string &name);
+
+/// Sorts photos; those that are alike stay in their order.
+void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &library);
+
+/// Which photos to show, and in which order.
+struct PhotoChoice
+{
+    PhotoFilter filter;
+    PhotoOrder order = PhotoOrder::Date;
+    bool isReversed = false;
+    bool hasFrames = false; ///< every frame of a burst, not one for all
+    std::optional<std::size_t> limit;
+};
+
+/// Of the photos of a library those that are chosen.
+std::vector<Asset> choosePhotos(const PhotoChoice &choice, const Library &library,
+                                const AssetList &assets);
+
+/// The albums that fit `wanted`, in the catalogue's order: by their own name, by their kind (its
+/// machine name, name in English or in the language spoken, or number) or by their uuid, letter
+/// case aside. Says on stderr when there are several. Throws Failure when there is none.
+std::vector<const CAlbumGroup *> selectAlbums(const Library &library, const std::string &wanted);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_PHOTO_SELECTION_H

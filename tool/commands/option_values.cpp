@@ -1,0 +1,32 @@
+#include "commands/option_values.h"
+
+#include "text/translate.h"
+
+#include <QRegularExpression>
+
+namespace iosphoto::tool {
+
+CLI::Validator looksLike(const char *pattern, const std::string &example)
+{
+    const QRegularExpression expression(QRegularExpression::anchoredPattern(pattern));
+    return {[=](const std::string &text) {
+                return expression.match(QString::fromStdString(text)).hasMatch()
+                           ? std::string()
+                           : translate("'{0}' should look like {1}", text, example);
+            },
+            std::string()};
+}
+
+CLI::Validator notEmpty()
+{
+    return {[](const std::string &text) { return text.empty() ? translate("names no file") : ""; },
+            std::string()};
+}
+
+CLI::Option &takeCommaList(CLI::Option &option)
+{
+    const auto trimmed = [](const std::string &value) { return CLI::detail::trim_copy(value); };
+    return *option.delimiter(',')->allow_extra_args(false)->transform(trimmed, "");
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,45 @@
+#ifndef IOSPHOTO_TOOL_ATOMIC_FILE_H
+#define IOSPHOTO_TOOL_ATOMIC_FILE_H
+
+#include "process/failure.h"
+#include "process/temporary_path.h"
+
+#include <QByteArray>
+
+#include <filesystem>
+#include <string>
+
+namespace iosphoto::tool {
+
+/// A file under a passing name beside the one that it becomes. Gone with the object otherwise.
+/// Throws Failure when the disk does not let it.
+class AtomicFile
+{
+public:
+    explicit AtomicFile(const std::filesystem::path &file);
+    ~AtomicFile();
+    AtomicFile(const AtomicFile &) = delete;
+    AtomicFile &operator=(const AtomicFile &) = delete;
+
+    std::string temporaryName() const { return temporary_.path().string(); }
+
+    void write(const QByteArray &content);
+
+    /// Gives it its name, with the rights of the file that it replaces.
+    void finish();
+
+private:
+    std::filesystem::path make();
+    [[noreturn]] void fail(int error) const;
+
+    std::filesystem::path file_;
+    int descriptor_ = -1;
+    TemporaryPath temporary_; // behind the descriptor that it sets
+};
+
+/// That a file cannot be written, and why.
+Failure cannotWrite(const std::filesystem::path &file, const std::string &reason);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_ATOMIC_FILE_H

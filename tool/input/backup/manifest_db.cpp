@@ -1,0 +1,74 @@
+#include "input/backup/manifest_db.h"
+
+#include "input/backup/stored_names.h"
+#include "process/failure.h"
+#include "text/translate.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr const char *lookupStatement =
+    "select fileID from Files where domain = ? and relativePath = ? "
+    "and flags is not 2 and flags is not 4 limit 1"; // neither folders nor links
+
+/// The log's index is made anew by whoever opens the database.
+constexpr const char *listStatement =
+    "select fileID from Files where domain = ? and relativePath like 'Media/%' "
+    "and relativePath not like '%-shm' and flags is not 2 and flags is not 4";
+
+/// Anything else could lead out of the backup.
+bool isStoredName(const std::string &name)
+{
+    constexpr std::size_t digits = 40;
+    return name.size() == digits && name.find_first_not_of("0123456789abcdef") == std::string::npos;
+}
+
+} // namespace
+
+ManifestDb::ManifestDb(const std::filesystem::path &copy, std::string shownName)
+    : database_(copy.string(), std::move(shownName), translate("copy the whole backup again"))
+{
+    if (!database_.isDatabase())
+        throw Failure(CannotAccess,
+                      translate("cannot read '{0}': it is not a SQLite database, or it is "
+                                "encrypted; copy the whole backup again",
+                                database_.shownName()));
+    if (!database_.areRealTables({"Files"}, ""))
+        throw Failure(
+            WrongKindOfFile,
+            translate("'{0}' is a SQLite database whose tables are not those of a backup; "
+                      "copy the whole backup again",
+                      database_.shownName()));
+    if (!database_.prepares(lookupStatement) || !database_.prepares(listStatement))
+        throw database_.unreadable();
+}
+
+std::optional<std::string> ManifestDb::locate(const std::string &mediaPath) const
+{
+    std::optional<std::string> name;
+    database_.forEachRow(lookupStatement, [&](const QueryRow &row) { name = row.text(0); },
+                         {mediaDomain, pathInDomain(mediaPath)});
+    if (!name)
+        return std::nullopt;
+    if (!isStoredName(*name))
+        throw Failure(CannotAccess,
+                      translate("'{0}' names a stored file '{1}', which no backup has; "
+                                "copy the whole backup again",
+                                database_.shownName(), *name));
+    return inItsFolder(*name);
+}
+
+std::vector<std::string> ManifestDb::storedFiles() const
+{
+    std::vector<std::string> files;
+    database_.forEachRow(listStatement,
+                         [&](const QueryRow &row) {
+                             if (const std::string name = row.text(0); isStoredName(name))
+                                 files.push_back(inItsFolder(name));
+                         },
+                         {mediaDomain});
+    return files;
+}
+
+} // namespace iosphoto::tool

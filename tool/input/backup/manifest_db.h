@@ -1,0 +1,29 @@
+#ifndef IOSPHOTO_TOOL_MANIFEST_DB_H
+#define IOSPHOTO_TOOL_MANIFEST_DB_H
+
+#include "input/backup/backup_index.h"
+#include "sqlite/copy_database.h"
+
+#include <filesystem>
+
+namespace iosphoto::tool {
+
+/// The index of a backup since iOS 10: a database.
+class ManifestDb : public BackupIndex
+{
+public:
+    /// Throws Failure when it cannot be read, or is no index.
+    /// @param copy       a private copy, as SQLite may change it
+    /// @param shownName  the file in the backup, for messages
+    ManifestDb(const std::filesystem::path &copy, std::string shownName);
+
+    std::optional<std::string> locate(const std::string &mediaPath) const override;
+    std::vector<std::string> storedFiles() const override;
+
+private:
+    CopyDatabase database_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_MANIFEST_DB_H

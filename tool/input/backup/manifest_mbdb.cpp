@@ -1,0 +1,138 @@
+#include "input/backup/manifest_mbdb.h"
+
+#include "input/backup/stored_names.h"
+#include "process/failure.h"
+#include "text/translate.h"
+
+#include <array>
+#include <fstream>
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr std::array<char, 6> magic = {'m', 'b', 'd', 'b', 5, 0};
+
+/// Reads the numbers and texts of the format, the most significant byte first. At the end of the
+/// file they are zero and empty, and isCutOff().
+class MbdbStream
+{
+public:
+    explicit MbdbStream(const std::filesystem::path &file) : in_(file, std::ios::binary) {}
+
+    bool hasMagic()
+    {
+        std::array<char, magic.size()> begin = {};
+        in_.read(begin.data(), begin.size());
+        return in_ && begin == magic;
+    }
+    bool isAtEnd() { return in_.peek() == std::ifstream::traits_type::eof(); }
+    bool isCutOff() const { return in_.fail(); }
+
+    unsigned number(int bytes)
+    {
+        unsigned value = 0;
+        for (int i = 0; i < bytes; ++i) {
+            char byte = 0;
+            in_.get(byte);
+            value = value << 8U | static_cast<unsigned char>(byte);
+        }
+        return in_ ? value : 0;
+    }
+
+    std::string text()
+    {
+        constexpr unsigned none = 0xffff;
+        const unsigned size = number(2);
+        std::string value(size == none ? 0 : size, '\0');
+        in_.read(value.data(), static_cast<std::streamsize>(value.size()));
+        return value;
+    }
+
+    void skip(int bytes)
+    {
+        // Unlike seeking, this notices the end.
+        for (int i = 0; i < bytes; ++i)
+            in_.get();
+    }
+
+private:
+    std::ifstream in_;
+};
+
+struct Record
+{
+    std::string domain;
+    std::string path;
+    unsigned mode;
+};
+
+Record readRecord(MbdbStream &stream)
+{
+    Record record;
+    record.domain = stream.text();
+    record.path = stream.text();
+    stream.text(); // target of a link
+    stream.text(); // hash of the content
+    stream.text(); // encryption key
+    record.mode = stream.number(2);
+    constexpr int inode = 8;
+    constexpr int owner = 4 + 4;
+    constexpr int times = 3 * 4;
+    constexpr int size = 8;
+    constexpr int protectionClass = 1;
+    stream.skip(inode + owner + times + size + protectionClass);
+    for (unsigned properties = stream.number(1); properties > 0; --properties) {
+        stream.text();
+        stream.text();
+    }
+    return record;
+}
+
+bool isFile(const Record &record)
+{
+    constexpr unsigned typeMask = 0170000;
+    constexpr unsigned regular = 0100000;
+    return (record.mode & typeMask) == regular;
+}
+
+Failure unreadable(const std::string &shownName, const std::string &reason)
+{
+    return {CannotAccess,
+            translate("cannot read '{0}': {1}; copy the whole backup again", shownName, reason)};
+}
+
+} // namespace
+
+ManifestMbdb::ManifestMbdb(const std::filesystem::path &file, const std::string &shownName)
+{
+    MbdbStream stream(file);
+    if (!stream.hasMagic())
+        throw unreadable(shownName, translate("it is not the index of a backup"));
+    while (!stream.isAtEnd()) {
+        Record record = readRecord(stream);
+        if (stream.isCutOff())
+            throw unreadable(shownName, translate("it is cut short"));
+        if (record.domain == mediaDomain && isFile(record))
+            paths_.insert(std::move(record.path));
+    }
+}
+
+std::optional<std::string> ManifestMbdb::locate(const std::string &mediaPath) const
+{
+    if (paths_.count(pathInDomain(mediaPath)) == 0)
+        return std::nullopt;
+    return storedName(mediaPath);
+}
+
+std::vector<std::string> ManifestMbdb::storedFiles() const
+{
+    std::vector<std::string> files;
+    const std::string media = pathInDomain("");
+    for (const std::string &path : paths_)
+        if (path.rfind(media, 0) == 0)
+            files.push_back(storedName(path.substr(media.size())));
+    return files;
+}
+
+} // namespace iosphoto::tool

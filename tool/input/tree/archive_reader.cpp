@@ -1,0 +1,185 @@
+#include "input/tree/archive_reader.h"
+
+#include "files/new_file.h"
+#include "files/source_file.h"
+#include "input/tree/file_tree.h"
+#include "text/translate.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Only what is an archive beyond doubt: a format that takes any file would take a database.
+void supportFormats(archive *reader)
+{
+    archive_read_support_format_zip(reader);
+    archive_read_support_format_tar(reader);
+    archive_read_support_format_7zip(reader);
+}
+
+/// Not those that run another program.
+void supportFilters(archive *reader)
+{
+    archive_read_support_filter_gzip(reader);
+    archive_read_support_filter_bzip2(reader);
+    archive_read_support_filter_xz(reader);
+    archive_read_support_filter_lzma(reader);
+    archive_read_support_filter_lzip(reader);
+    archive_read_support_filter_lz4(reader);
+    archive_read_support_filter_zstd(reader);
+    archive_read_support_filter_compress(reader);
+}
+
+using Reader = std::unique_ptr<archive, int (*)(archive *)>;
+
+Reader newReader()
+{
+    Reader reader(archive_read_new(), archive_read_free);
+    supportFormats(reader.get());
+    supportFilters(reader.get());
+    return reader;
+}
+
+int open(archive *reader, const fs::path &file)
+{
+    constexpr std::size_t blockSize = 1 << 16;
+    requireReadable(file);
+    return archive_read_open_filename(reader, file.c_str(), blockSize);
+}
+
+/// The path made of its names; empty when it leads upwards.
+std::string normalized(const std::string &path)
+{
+    std::string result;
+    for (std::size_t begin = 0; begin < path.size();) {
+        const std::size_t end = std::min(path.find('/', begin), path.size());
+        const std::string name = path.substr(begin, end - begin);
+        if (name == "..")
+            return {};
+        if (!name.empty() && name != ".")
+            result += (result.empty() ? "" : "/") + name;
+        begin = end + 1;
+    }
+    return result;
+}
+
+bool startsWith(const fs::path &file, const std::string &bytes)
+{
+    std::string begin(bytes.size(), '\0');
+    std::ifstream(file, std::ios::binary)
+        .read(begin.data(), static_cast<std::streamsize>(begin.size()));
+    return begin == bytes;
+}
+
+bool isDatabase(const fs::path &file)
+{
+    return startsWith(file, "SQLite format 3");
+}
+
+} // namespace
+
+ArchiveReader::ArchiveReader(const fs::path &file) : file_(file), archive_(newReader())
+{
+    if (open(archive_.get(), file) != ARCHIVE_OK)
+        throw damaged();
+}
+
+ArchiveReader::~ArchiveReader() = default;
+
+bool ArchiveReader::next()
+{
+    const int result = archive_read_next_header(archive_.get(), &entry_);
+    if (result != ARCHIVE_OK && result != ARCHIVE_WARN && result != ARCHIVE_EOF)
+        throw damaged();
+    return result != ARCHIVE_EOF;
+}
+
+std::string ArchiveReader::path() const
+{
+    const char *name = archive_entry_pathname_utf8(entry_);
+    if (name == nullptr)
+        name = archive_entry_pathname(entry_);
+    return name != nullptr ? normalized(name) : "";
+}
+
+bool ArchiveReader::isFile() const
+{
+    return archive_entry_filetype(entry_) == AE_IFREG || isHardLink();
+}
+
+bool ArchiveReader::isHardLink() const
+{
+    return archive_entry_hardlink(entry_) != nullptr;
+}
+
+bool ArchiveReader::isEncrypted() const
+{
+    return archive_entry_is_data_encrypted(entry_) != 0;
+}
+
+std::optional<std::uint64_t> ArchiveReader::size() const
+{
+    if (archive_entry_size_is_set(entry_) == 0)
+        return std::nullopt;
+    return static_cast<std::uint64_t>(std::max<std::int64_t>(0, archive_entry_size(entry_)));
+}
+
+std::int64_t ArchiveReader::modified() const
+{
+    return archive_entry_mtime(entry_);
+}
+
+void ArchiveReader::copyTo(const fs::path &target, std::uint64_t most)
+{
+    constexpr std::size_t bufferSize = 1 << 16;
+    std::array<char, bufferSize> buffer = {};
+    NewFile file(target, size());
+    la_ssize_t count = 0;
+    while ((count = archive_read_data(archive_.get(), buffer.data(), buffer.size())) > 0) {
+        requireNotLarger(joined(file_.string(), path()),
+                         file.written() + static_cast<std::uint64_t>(count), most);
+        if (!file.append({buffer.data(), static_cast<std::size_t>(count)}))
+            throw damaged();
+    }
+    if (count < 0 || !file.isComplete())
+        throw damaged();
+    file.close(modified());
+}
+
+Failure ArchiveReader::damaged() const
+{
+    if (archive_read_has_encrypted_entries(archive_.get()) == 1)
+        return {CannotAccess,
+                translate("'{0}' is an encrypted archive; unpack it with its password and "
+                          "name the folder",
+                          file_.string())};
+    const char *const reason = archive_error_string(archive_.get());
+    return {
+        CannotAccess,
+        reason == nullptr
+            ? translate("the archive '{0}' is damaged or cut short; copy it again", file_.string())
+            : translate("the archive '{0}' is damaged or cut short ({1}); copy it again",
+                        file_.string(), reason)};
+}
+
+bool isArchive(const fs::path &file)
+{
+    if (isDatabase(file))
+        return false;
+    const Reader reader = newReader();
+    if (open(reader.get(), file) == ARCHIVE_OK)
+        return true;
+    // Without a filter it met a compressed file that is damaged from the start.
+    return archive_filter_count(reader.get()) == 0;
+}
+
+} // namespace iosphoto::tool

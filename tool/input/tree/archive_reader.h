@@ -1,0 +1,62 @@
+#ifndef IOSPHOTO_TOOL_ARCHIVE_READER_H
+#define IOSPHOTO_TOOL_ARCHIVE_READER_H
+
+#include "process/failure.h"
+#include "process/utf8_locale.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+struct archive;
+struct archive_entry;
+
+namespace iosphoto::tool {
+
+/// Reads a zip, tar or 7zip archive from its beginning, one entry after the other. What it holds is
+/// not to be trusted: names and sizes may be made up.
+class ArchiveReader
+{
+public:
+    /// Throws Failure when the file cannot be read.
+    explicit ArchiveReader(const std::filesystem::path &file);
+    ~ArchiveReader();
+    ArchiveReader(const ArchiveReader &) = delete;
+    ArchiveReader &operator=(const ArchiveReader &) = delete;
+
+    /// Goes to the next entry; false after the last. Throws Failure when the archive is damaged.
+    bool next();
+
+    /// The path of the entry without "." and slashes in front; empty when it leads out of the
+    /// archive.
+    std::string path() const;
+    bool isFile() const;
+    /// Whether the content is that of another entry.
+    bool isHardLink() const;
+    bool isEncrypted() const;
+    std::optional<std::uint64_t> size() const;
+    std::int64_t modified() const;
+
+    /// Writes the content of the entry, which must be a file, to a new file for the owner only.
+    /// Throws Failure when it is damaged, larger than the archive says or than `most` bytes, or
+    /// finds no room.
+    void copyTo(const std::filesystem::path &target, std::uint64_t most);
+
+private:
+    Failure damaged() const;
+
+    std::filesystem::path file_;
+    Utf8Locale locale_;
+    std::unique_ptr<archive, int (*)(archive *)> archive_;
+    archive_entry *entry_ = nullptr;
+};
+
+/// Whether a file is an archive, whole or damaged: its content tells, not its name. A database is
+/// none. Throws Failure when the file cannot be read.
+bool isArchive(const std::filesystem::path &file);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_ARCHIVE_READER_H

@@ -1,0 +1,132 @@
+#include "input/tree/archive_tree.h"
+
+#include "files/new_file.h"
+#include "files/source_file.h"
+#include "input/tree/archive_reader.h"
+#include "process/failure.h"
+#include "text/translate.h"
+
+#include <algorithm>
+#include <set>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// No phone has paths beyond these, and the folders of one that is far beyond fill the memory.
+bool isOfAPhone(const std::string &path)
+{
+    constexpr std::size_t longest = 4096;
+    constexpr std::ptrdiff_t deepest = 64;
+    return !path.empty() && path.size() <= longest &&
+           std::count(path.begin(), path.end(), '/') < deepest;
+}
+
+} // namespace
+
+ArchiveTree::ArchiveTree(fs::path archive) : archive_(std::move(archive)), state_(archive_)
+{
+    ArchiveReader reader(archive_);
+    while (reader.next()) {
+        const std::string path = reader.path();
+        if (!isOfAPhone(path) || !reader.isFile())
+            continue;
+        const Entry entry = {{reader.size().value_or(0), reader.modified()},
+                             reader.isHardLink(),
+                             reader.isEncrypted(),
+                             false};
+        const auto [at, isNew] = entries_.emplace(path, entry);
+        at->second.isTwice = !isNew;
+    }
+}
+
+std::optional<FileFacts> ArchiveTree::find(const std::string &path) const
+{
+    const auto found = entries_.find(path);
+    return found != entries_.end() ? std::make_optional(found->second.facts) : std::nullopt;
+}
+
+std::vector<std::string> ArchiveTree::searchedFolders() const
+{
+    std::set<std::string> folders = {""};
+    for (const auto &[path, entry] : entries_)
+        for (std::size_t slash = path.rfind('/');
+             slash != std::string::npos && folders.insert(path.substr(0, slash)).second;
+             slash = path.rfind('/', slash - 1)) {
+        }
+    return {folders.begin(), folders.end()};
+}
+
+std::vector<std::string> ArchiveTree::loneFiles() const
+{
+    std::vector<std::string> files;
+    for (const auto &[path, entry] : entries_) {
+        const fs::path name = fs::path(path).filename();
+        // A Mac packs notes of its own on a file as "._" and its name.
+        if (name.extension() == ".sqlite" && name.string().compare(0, 2, "._") != 0)
+            files.push_back(path);
+    }
+    return files;
+}
+
+std::string ArchiveTree::shown(const std::string &path) const
+{
+    return joined(archive_.string(), path);
+}
+
+std::string ArchiveTree::howToNameOne() const
+{
+    return translate("unpack it and name one of them");
+}
+
+void ArchiveTree::requirePlain(const std::string &path, const Entry &entry) const
+{
+    std::string reason;
+    if (entry.isEncrypted)
+        reason =
+            translate("it is encrypted; unpack the archive with its password and name the folder");
+    else if (entry.isHardLink)
+        reason = translate("it is a link to another entry; unpack the archive and name the folder");
+    else if (entry.isTwice)
+        reason = translate("the archive holds it more than once; unpack it and name the folder");
+    if (!reason.empty())
+        throw Failure(CannotAccess, translate("cannot read '{0}': {1}", shown(path), reason));
+}
+
+void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
+{
+    std::map<std::string, Target> targets;
+    std::uint64_t bytes = 0;
+    for (const FileToCopy &file : files) {
+        const auto found = entries_.find(file.path);
+        if (found == entries_.end())
+            continue;
+        requirePlain(file.path, found->second);
+        requireNotLarger(shown(file.path), found->second.facts.size, file.most);
+        targets[file.path] = {file.target, file.most};
+        bytes += found->second.facts.size;
+    }
+    if (!targets.empty()) {
+        requireRoom(targets.begin()->second.path, bytes);
+        extract(std::move(targets));
+    }
+    if (!(FileStamp(archive_) == state_))
+        throw Failure(CannotAccess, translate("'{0}' changes while it is read; copy it first",
+                                              archive_.string()));
+}
+
+void ArchiveTree::extract(std::map<std::string, Target> targets) const
+{
+    ArchiveReader reader(archive_);
+    while (!targets.empty() && reader.next()) {
+        const auto wanted = targets.find(reader.path());
+        if (wanted == targets.end() || !reader.isFile())
+            continue;
+        reader.copyTo(wanted->second.path, wanted->second.most);
+        targets.erase(wanted);
+    }
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,52 @@
+#ifndef IOSPHOTO_TOOL_ARCHIVE_TREE_H
+#define IOSPHOTO_TOOL_ARCHIVE_TREE_H
+
+#include "files/consistent_copy.h"
+#include "input/tree/file_tree.h"
+
+#include <map>
+
+namespace iosphoto::tool {
+
+/// What a zip, tar or 7zip archive holds. Its index is read once, its content at each copyOut().
+class ArchiveTree : public FileTree
+{
+public:
+    /// Reads the index. Throws Failure when the archive is damaged.
+    explicit ArchiveTree(std::filesystem::path archive);
+
+    std::optional<FileFacts> find(const std::string &path) const override;
+    std::vector<std::string> searchedFolders() const override;
+    std::vector<std::string> loneFiles() const override;
+    void copyOut(const std::vector<FileToCopy> &files) const override;
+    std::filesystem::path onDisk(const std::string & /*path*/) const override { return archive_; }
+    std::string shown(const std::string &path) const override;
+    std::string howToNameOne() const override;
+
+private:
+    struct Entry
+    {
+        FileFacts facts;
+        bool isHardLink;
+        bool isEncrypted;
+        bool isTwice;
+    };
+
+    struct Target
+    {
+        std::filesystem::path path;
+        std::uint64_t most; ///< bytes
+    };
+
+    /// Throws Failure when an entry is not simply a file.
+    void requirePlain(const std::string &path, const Entry &entry) const;
+    void extract(std::map<std::string, Target> targets) const;
+
+    std::filesystem::path archive_;
+    FileStamp state_;
+    std::map<std::string, Entry> entries_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_ARCHIVE_TREE_H

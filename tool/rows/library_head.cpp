@@ -1,0 +1,42 @@
+#include "rows/library_head.h"
+
+#include "catalogue/album_kinds.h"
+
+namespace iosphoto::tool {
+
+Json libraryHead(const Library &library)
+{
+    const ProbedSchema &schema = library.schema();
+    const std::optional<std::int64_t> &model = schema.metadata.modelVersion;
+    return {{"source", library.name()},
+            {"sourceKind", machineName(library.kind())},
+            {"isArchive", library.isArchive()},
+            {"database", library.database()},
+            {"iosVersion", library.device().iosVersion},
+            {"iosVersionFrom", machineName(schema.iosOrigin)},
+            {"build", textOrNull(schema.iosBuild)},
+            {"productType", library.device().productType},
+            {"productTypeFrom", machineName(schema.productOrigin)},
+            {"schema", schema.name},
+            {"modelVersion", model ? Json(*model) : Json()},
+            {"asOf", textOrNull(utcTimeText(library.asOf().unixTime))},
+            {"leftOut", library.leftOut()},
+            {"isComplete", library.status() == Good}};
+}
+
+Json albumReference(const CAlbumGroup &album)
+{
+    return {{"index", album.albumIndex},
+            {"kind", kindName(album)},
+            {"kindCode", album.albumKind},
+            {"englishKind", englishKind(album)},
+            {"name", album.albumName.toStdString()},
+            {"uuid", textOrNull(album.albumUuid)}};
+}
+
+Json utcTime(double coreDataSeconds)
+{
+    return textOrNull(utcTimeOf(coreDataSeconds));
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,48 @@
+#ifndef IOSPHOTO_TOOL_VALUES_H
+#define IOSPHOTO_TOOL_VALUES_H
+
+#include "ios_photo.h"
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace iosphoto::tool {
+
+/// A moment: UTC in documents, local in tables.
+struct UtcTime
+{
+    std::int64_t unixTime;
+};
+
+/// An item of a list, such as an album, made once for all the rows that have it.
+struct ListItem
+{
+    std::string json;  ///< as a JSON value, UTF-8
+    std::string plain; ///< in CSV
+    std::string shown; ///< in tables
+};
+
+/// The items belong to somebody who outlives the rows.
+using Items = std::vector<const ListItem *>;
+
+/// What a row has in one field. The first is for what is unknown: null.
+using Value = std::variant<std::monostate, bool, std::int64_t, double, std::string, UtcTime, Items>;
+
+/// The text, or nothing where it is empty.
+inline Value knownText(std::string text)
+{
+    return text.empty() ? Value() : Value(std::move(text));
+}
+
+/// A time of the database; nothing beyond all calendars.
+Value utcTimeValue(double coreDataSeconds);
+
+/// The local day on which a photo was created, as the library found it; nothing where it cannot
+/// tell, for which it has a word, or where its time is beyond all calendars.
+Value localDayValue(const CPhotoData &photo);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_VALUES_H

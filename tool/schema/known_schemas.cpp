@@ -1,0 +1,96 @@
+#include "schema/known_schemas.h"
+
+#include "formats/versions.h"
+#include "text/translate.h"
+
+#include <algorithm>
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr char withoutIos7SubTypes[] = "iPhone3,1";
+
+constexpr KnownSchema newestFirst[] = {
+    {18, 18, "18", productThatHidesNoAlbum},
+    {15, 17, "17", productThatHidesNoAlbum, "ZCREATORBUNDLEID"},
+    {14, 14, "14", productThatHidesNoAlbum},
+    {11, 13, "13", productThatHidesNoAlbum},
+    {9, 10, "10", productThatHidesNoAlbum},
+    {8, 8, "8", productThatHidesNoAlbum},
+    {7, 7, "7", productThatHidesNoAlbum},
+    {7, 7, "7", withoutIos7SubTypes},
+    {6, 6, "6", productThatHidesNoAlbum},
+};
+
+std::int32_t lastNumber(const CopyDatabase &database, const Statement &lookup, int column)
+{
+    std::int32_t found = 0;
+    database.forEachRow(lookup.text, [&](const QueryRow &row) { found = row.int32(column); });
+    return found;
+}
+
+} // namespace
+
+std::string KnownSchema::name() const
+{
+    return firstIos == lastIos ? fmt::format("iOS {}", firstIos)
+                               : fmt::format("iOS {} to {}", firstIos, lastIos);
+}
+
+std::string KnownSchema::shownName() const
+{
+    return firstIos == lastIos ? name() : translate("iOS {0} to {1}", firstIos, lastIos);
+}
+
+const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers &numbers)
+{
+    for (const KnownSchema &schema : newestFirst) {
+        const bool isOlder = schema.goneColumn != nullptr &&
+                             database.hasColumn("ZADDITIONALASSETATTRIBUTES", schema.goneColumn);
+        if (!isOlder && statementsFit(database, numbers, {schema.iosVersion, schema.productType}))
+            return &schema;
+    }
+    return nullptr;
+}
+
+const KnownSchema &newestSchema()
+{
+    return newestFirst[0];
+}
+
+std::string warningOfNewer(const std::string &iosVersion)
+{
+    const int newest = newestSchema().lastIos;
+    if (firstNumber(iosVersion) <= newest)
+        return {};
+    return translate(
+        "iOS {0} is newer than all that are known, so it is read like iOS {1}; check a few "
+        "photos against the device",
+        iosVersion, newest);
+}
+
+EntityNumbers readEntityNumbers(const CopyDatabase &database)
+{
+    return {lastNumber(database, albumEntityStatement, 0),
+            lastNumber(database, photoStreamAlbumEntityStatement, 0),
+            lastNumber(database, assetEntityStatement, 0),
+            lastNumber(database, assetEntityStatement, 1)};
+}
+
+std::array<const StatementVariant *, 4> statementsFor(const Device &device)
+{
+    const DeviceProfile profile(device.iosVersion, QString::fromStdString(device.productType));
+    return {&choose(cameraRollStatements, profile), &choose(photoLibraryStatements, profile),
+            &choose(userAlbumStatements, profile), &choose(albumContentsStatements, profile)};
+}
+
+bool statementsFit(const CopyDatabase &database, const EntityNumbers &numbers, const Device &device)
+{
+    const auto statements = statementsFor(device);
+    return std::all_of(statements.begin(), statements.end(), [&](const StatementVariant *variant) {
+        return database.prepares(filledIn(*variant, numbers).toStdString());
+    });
+}
+
+} // namespace iosphoto::tool

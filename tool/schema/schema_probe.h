@@ -1,0 +1,49 @@
+#ifndef IOSPHOTO_TOOL_SCHEMA_PROBE_H
+#define IOSPHOTO_TOOL_SCHEMA_PROBE_H
+
+#include "input/library_layout.h"
+#include "schema/device.h"
+#include "schema/known_schemas.h"
+#include "schema/store_metadata.h"
+#include "sqlite/copy_database.h"
+
+#include <string>
+
+namespace iosphoto::tool {
+
+/// Who says what the device is.
+enum class DeviceOrigin { User, Source, Schema, Assumption };
+
+/// The origin's name for machines, such as "source".
+const char *machineName(DeviceOrigin origin);
+
+/// What a probe found out about a photo database.
+struct ProbedSchema
+{
+    Device device;        ///< to read it as; complete
+    std::string iosBuild; ///< of the system, or of the one that made the schema; may be empty
+    DeviceOrigin iosOrigin = DeviceOrigin::User;
+    DeviceOrigin productOrigin = DeviceOrigin::User;
+    std::string iosWhy;    ///< where the version comes from; empty if the user named it
+    std::string deviceWhy; ///< likewise the product type
+    std::string warning;   ///< that version and schema disagree; empty if they do not
+    std::string name;      ///< of the schema, such as "iOS 15 to 17", for machines in English
+    std::string shownName; ///< the same for people
+    StoreMetadata metadata;
+    EntityNumbers numbers;
+
+    /// Whether the user left anything of the device open.
+    bool isAssumed() const { return !(iosWhy.empty() && deviceWhy.empty()); }
+    std::string iosText() const;     ///< such as "iOS 15.7 (Info.plist)"
+    std::string productText() const; ///< such as "iPhone14,2 (hides no album)"
+};
+
+/// Makes sure that a database is a photo database whose statements run, and decides which device
+/// to read it as: what the user wants, else what the source says, else what the schema says.
+///
+/// Throws Failure when the database is something else or does not fit the device.
+ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const RecordedDevice &says);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_SCHEMA_PROBE_H

@@ -1,0 +1,16 @@
+#include "schema/table_damage.h"
+
+namespace iosphoto::tool {
+
+bool areAssetTablesDamaged(const CopyDatabase &database)
+{
+    bool areDamaged = false;
+    for (const std::string &table :
+         {database.assetTable(), std::string("ZADDITIONALASSETATTRIBUTES")})
+        database.forEachRow("pragma integrity_check(" + table + ")", [&](const QueryRow &row) {
+            areDamaged = areDamaged || row.text(0) != "ok";
+        });
+    return areDamaged;
+}
+
+} // namespace iosphoto::tool

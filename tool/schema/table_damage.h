@@ -1,0 +1,14 @@
+#ifndef IOSPHOTO_TOOL_TABLE_DAMAGE_H
+#define IOSPHOTO_TOOL_TABLE_DAMAGE_H
+
+#include "sqlite/copy_database.h"
+
+namespace iosphoto::tool {
+
+/// Whether the tables of the assets do not agree with their indices, or are damaged in another way.
+/// A query meets no error where pages have turned into others that look well but hold nothing.
+bool areAssetTablesDamaged(const CopyDatabase &database);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_TABLE_DAMAGE_H

@@ -1,0 +1,89 @@
+#include "standard_output.h"
+
+#include "files/file_use_observer.h"
+#include "process/interruption_lock.h"
+#include "text/translate.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <iostream>
+#include <unistd.h>
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr std::size_t bufferSize = std::size_t{64} * 1024;
+
+void writeAll(const char *bytes, std::size_t size)
+{
+    stopIfInterrupted();
+    while (size > 0) {
+        const ssize_t step = ::write(STDOUT_FILENO, bytes, size);
+        if (step < 0 && errno == EINTR)
+            continue;
+        if (step < 0 && errno == EPIPE)
+            throw OutputClosed();
+        if (step < 0)
+            throw Failure(CannotAccess, translate("cannot write the output; is the disk full?"));
+        const auto written = static_cast<std::size_t>(step);
+        if (FileUseObserver *const observer = FileUseObserver::current())
+            observer->printed(bytes, written);
+        bytes += written;
+        size -= written;
+    }
+}
+
+} // namespace
+
+OutputClosed::OutputClosed()
+    : Failure(static_cast<ExitStatus>(Interrupted + SIGPIPE), translate("nobody reads the output"))
+{
+}
+
+StandardOutput::StandardOutput()
+    : buffer_(bufferSize), isTerminal_(isatty(STDOUT_FILENO) == 1), before_(std::cout.rdbuf(this))
+{
+    setp(buffer_.data(), buffer_.data() + buffer_.size());
+    std::cout.exceptions(std::ios::badbit);
+}
+
+StandardOutput::~StandardOutput()
+{
+    std::cout.exceptions(std::ios::goodbit);
+    std::cout.flush(); // nothing after an error, which has been told
+    std::cout.rdbuf(before_);
+}
+
+StandardOutput::int_type StandardOutput::overflow(int_type character)
+{
+    write();
+    return traits_type::eq_int_type(character, traits_type::eof())
+               ? traits_type::not_eof(character)
+               : sputc(traits_type::to_char_type(character));
+}
+
+std::streamsize StandardOutput::xsputn(const char *text, std::streamsize size)
+{
+    const std::streamsize taken = std::streambuf::xsputn(text, size);
+    // On a terminal, lines stand in the order in which they and notices were said.
+    if (isTerminal_ && std::memchr(text, '\n', static_cast<std::size_t>(size)) != nullptr)
+        write();
+    return taken;
+}
+
+int StandardOutput::sync()
+{
+    write();
+    return 0;
+}
+
+void StandardOutput::write()
+{
+    const auto size = static_cast<std::size_t>(pptr() - pbase());
+    setp(buffer_.data(), buffer_.data() + buffer_.size());
+    writeAll(buffer_.data(), size);
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,42 @@
+#ifndef IOSPHOTO_TOOL_STANDARD_OUTPUT_H
+#define IOSPHOTO_TOOL_STANDARD_OUTPUT_H
+
+#include "process/failure.h"
+
+#include <streambuf>
+#include <vector>
+
+namespace iosphoto::tool {
+
+/// Whoever reads the standard output has seen enough, as `head` does. Nothing to be said.
+class OutputClosed : public Failure
+{
+public:
+    OutputClosed();
+};
+
+/// While it lives, what is printed on std::cout is written in large blocks, and printing throws
+/// when that fails: OutputClosed where SIGPIPE is ignored and nobody reads any more, else Failure.
+class StandardOutput : private std::streambuf
+{
+public:
+    StandardOutput();
+    /// Writes what is left, if it can.
+    ~StandardOutput() override;
+    StandardOutput(const StandardOutput &) = delete;
+    StandardOutput &operator=(const StandardOutput &) = delete;
+
+private:
+    int_type overflow(int_type character) override;
+    std::streamsize xsputn(const char *text, std::streamsize size) override;
+    int sync() override;
+    void write();
+
+    std::vector<char> buffer_;
+    bool isTerminal_;
+    std::streambuf *before_;
+};
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_STANDARD_OUTPUT_H

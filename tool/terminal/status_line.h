@@ -1,0 +1,35 @@
+#ifndef IOSPHOTO_TOOL_STATUS_LINE_H
+#define IOSPHOTO_TOOL_STATUS_LINE_H
+
+#include <string>
+
+namespace iosphoto::tool {
+
+/// A line on stderr that is written over and over, and cleared when the object goes. Only on a
+/// terminal, and not for who wants it quiet.
+class StatusLine
+{
+public:
+    StatusLine();
+    ~StatusLine();
+    StatusLine(const StatusLine &) = delete;
+    StatusLine &operator=(const StatusLine &) = delete;
+
+    /// Whether somebody sees it; otherwise show() is not to be called.
+    bool isSeen() const { return isSeen_; }
+    /// The columns that it may take. The last one of a terminal stays free.
+    static std::size_t columns();
+
+    void show(const std::string &text);
+
+private:
+    bool isSeen_;
+    bool isShown_ = false;
+};
+
+/// Clears whatever such a line shows now, before last words.
+void clearStatusLine();
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_STATUS_LINE_H

@@ -1,0 +1,69 @@
+#ifndef IOSPHOTO_TOOL_TEXT_TABLE_H
+#define IOSPHOTO_TOOL_TEXT_TABLE_H
+
+#include "terminal/display_width.h"
+#include "terminal/terminal.h"
+
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace iosphoto::tool {
+
+/// A table with aligned columns for a terminal.
+class TextTable
+{
+public:
+    enum class Align { Left, Right };
+    struct Column
+    {
+        std::string heading;
+        Align align = Align::Left;
+        Elide elide = Elide::Right;        ///< of cells that are cut; the end of paths tells more
+        bool isCut = align == Align::Left; ///< where there is little room; numbers never are
+    };
+
+    explicit TextTable(std::vector<Column> columns);
+
+    /// Adds a row, a cell for each column. Cells may hold any text; they are made printable.
+    void add(const std::vector<std::string> &cells);
+
+    /// On a terminal that is too narrow, long cells are cut; where that does not help, each row is
+    /// a block of lines, a cell after the other.
+    void print(std::ostream &out) const { print(out, screenOf(out)); }
+    void print(std::ostream &out, const Screen &screen) const;
+
+private:
+    using Row = std::vector<std::string>;
+
+    void printRows(std::ostream &out, const Screen &screen,
+                   const std::vector<std::size_t> &widths) const;
+    std::string line(const Row &row, const std::vector<std::size_t> &widths) const;
+    Row headings() const;
+
+    std::vector<Column> columns_;
+    std::vector<Row> rows_;
+    std::vector<std::size_t> widths_;
+};
+
+inline constexpr const char *columnGap = "  ";
+
+/// The width below which a column that may be cut is of no use: of a path, as much as shows the
+/// name of its file.
+std::size_t leastWidth(std::size_t headingWidth, Elide elide);
+
+/// The widths of columns that fit, gaps between them, into `columns`: the widest were made
+/// narrower, down to `least`. Nothing where even that does not fit.
+std::optional<std::vector<std::size_t>> narrowedWidths(std::vector<std::size_t> widths,
+                                                       const std::vector<std::size_t> &least,
+                                                       std::size_t columns);
+
+/// Prints the rows of a table, such as one that is too wide for a terminal: each as a block of
+/// lines "HEADING  value", without those that have no value. Long values go on in further lines.
+void printBlocks(std::ostream &out, const std::vector<std::string> &headings,
+                 const std::vector<std::vector<std::string>> &rows, const Screen &screen);
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_TEXT_TABLE_H
