@@ -51,7 +51,7 @@ ChildRun runChild(const std::vector<std::string> &command, Output output)
     std::fflush(nullptr);
     const pid_t child = fork();
     if (child == 0)
-        become(command, output == Output::Elide ? ends[1] : open("/dev/null", O_WRONLY));
+        become(command, output == Output::Kept ? ends[1] : open("/dev/null", O_WRONLY));
     close(ends[1]);
     if (child < 0)
         throw std::runtime_error("cannot run " + command.front());

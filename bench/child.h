@@ -6,7 +6,7 @@
 
 namespace iosphoto::bench {
 
-enum class Output { Elide, Dropped };
+enum class Output { Kept, Dropped };
 
 /// What a program left when it ended.
 struct ChildRun

@@ -30,7 +30,7 @@ double heldBytes()
 std::optional<MemoryUse> memoryUse(const std::filesystem::path &database)
 {
     const std::string self = std::filesystem::read_symlink("/proc/self/exe").string();
-    const ChildRun child = runChild({self, memoryOption, database.string()}, Output::Elide);
+    const ChildRun child = runChild({self, memoryOption, database.string()}, Output::Kept);
     MemoryUse use = {};
     if (child.status != 0 || !(std::istringstream(child.output) >> use.held >> use.peak))
         throw std::runtime_error("cannot measure the memory for " + database.string());

@@ -22,7 +22,7 @@ for statement in statements:
 std::string interpreter()
 {
     const ChildRun asked =
-        runChild({"python3", "-c", "import sys; print(sys.executable, end='')"}, Output::Elide);
+        runChild({"python3", "-c", "import sys; print(sys.executable, end='')"}, Output::Kept);
     return asked.status == 0 ? asked.output : "";
 }
 

@@ -3,6 +3,7 @@
 #include "child.h"
 #include "device.h"
 #include "process_memory.h"
+#include "rows/library_head.h"
 #include "rows/photo_fields.h"
 
 #include <fstream>
@@ -15,12 +16,11 @@ namespace {
 void writePhotos(const tool::Library &library, const tool::AssetList &assets,
                  const tool::PhotoRows &rows, const std::string &format)
 {
-    tool::RowFormat rowFormat;
-    (format == "csv" ? rowFormat.csv : rowFormat.jsonLines) = true;
+    const auto rowFormat = format == "csv" ? tool::Format::Csv : tool::Format::JsonLines;
     std::ofstream nowhere("/dev/null");
-    const auto writer = tool::makeRowWriter(rowFormat, nowhere);
-    tool::RowStream<tool::PhotoRow> stream(*writer, {"photos", tool::libraryHead(library)},
-                                           tool::fieldsToShow(tool::photoFields(), rowFormat));
+    const auto writer = tool::makeRowWriter(rowFormat, nowhere, {});
+    tool::RowStream<tool::PhotoRow> stream(*writer, tool::rowsHead("photos", library),
+                                           tool::factsOf(tool::photoFields()));
     for (std::size_t i = 0; i < assets.size(); ++i)
         stream.write(rows.of(assets[i]));
     stream.end();
@@ -31,8 +31,9 @@ void writePhotos(const tool::Library &library, const tool::AssetList &assets,
 void printOutputBytes(const std::filesystem::path &database, const std::string &format,
                       std::ostream &out)
 {
+    tool::Session session;
     const tool::Library library(
-        tool::LibraryRequest{database.string(), {iosVersion, productType}, {}, false});
+        session, tool::LibraryRequest{database.string(), {iosVersion, productType}, {}, false});
     const tool::AssetList assets(library.albums());
     const tool::BurstFrames bursts(assets);
     const tool::PhotoRows rows(library, bursts);
@@ -47,7 +48,7 @@ void printOutputBytes(const std::filesystem::path &database, const std::string &
 std::optional<double> outputBytes(const std::filesystem::path &database, const std::string &format)
 {
     const std::string self = std::filesystem::read_symlink("/proc/self/exe").string();
-    const ChildRun child = runChild({self, outputOption, database.string(), format}, Output::Elide);
+    const ChildRun child = runChild({self, outputOption, database.string(), format}, Output::Kept);
     if (child.status != 0)
         throw std::runtime_error("cannot measure the memory for " + database.string());
     return std::stod(child.output);

@@ -99,7 +99,7 @@ void printToolCosts(const std::vector<CaseResult> &results, std::ostream &out)
         for (const ToolCost &cost : result.tool)
             table.add(cells(result, cost));
     out << '\n';
-    table.print(out);
+    table.print(out, tool::Terminal().screenOf(out));
 }
 
 } // namespace
@@ -120,7 +120,7 @@ void printResults(const std::vector<CaseResult> &results, std::ostream &out)
                            {"peak/record", right}});
     for (const CaseResult &result : results)
         table.add(cells(result));
-    table.print(out);
+    table.print(out, tool::Terminal().screenOf(out));
     for (const Flatness &group : flatness(results))
         out << fmt::format("{}: ratios differ by {:.2f}, goal {:.2f}, {}\n", group.group,
                            group.spread, flat, verdict(group.isFlat()));

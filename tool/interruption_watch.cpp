@@ -3,7 +3,6 @@
 #include "process/exit_status.h"
 #include "process/interruption_lock.h"
 #include "process/temporary_path.h"
-#include "terminal/messages.h"
 #include "terminal/status_line.h"
 #include "text/translate.h"
 
@@ -32,7 +31,7 @@ sigset_t setOf(const std::vector<int> &signals)
 
 } // namespace
 
-InterruptionWatch::InterruptionWatch()
+InterruptionWatch::InterruptionWatch(const Terminal &terminal) : terminal_(terminal)
 {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         if (!isIgnored(signal))
@@ -65,8 +64,8 @@ void InterruptionWatch::waitForSignal() const
     if (isOver_)
         return;
     removeTemporaryPaths();
-    clearStatusLine();
-    printError(translate("interrupted; every file that was written is complete"));
+    clearStatusLine(terminal_);
+    terminal_.printError(translate("interrupted; every file that was written is complete"));
     _exit(Interrupted + signal);
 }
 

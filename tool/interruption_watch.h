@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_INTERRUPTION_WATCH_H
 #define IOSPHOTO_TOOL_INTERRUPTION_WATCH_H
 
+#include "terminal/terminal.h"
+
 #include <thread>
 #include <vector>
 
@@ -14,7 +16,8 @@ namespace iosphoto::tool {
 class InterruptionWatch
 {
 public:
-    InterruptionWatch();
+    /// @param terminal  has to outlive the watch
+    explicit InterruptionWatch(const Terminal &terminal);
     /// Does not return where an interruption has begun.
     ~InterruptionWatch();
     InterruptionWatch(const InterruptionWatch &) = delete;
@@ -23,6 +26,7 @@ public:
 private:
     void waitForSignal() const;
 
+    const Terminal &terminal_;
     std::vector<int> signals_;
     bool isOver_ = false; ///< guarded by InterruptionLock
     std::thread thread_;

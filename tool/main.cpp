@@ -1,11 +1,12 @@
 #include "commands/command.h"
 #include "commands/general_options.h"
+#include "commands/problem_words.h"
 #include "commands/wrong_usage.h"
 #include "evidence/evidence.h"
 #include "interruption_watch.h"
 #include "process/failure.h"
+#include "session/session.h"
 #include "standard_output.h"
-#include "terminal/messages.h"
 #include "text/translate.h"
 
 #include <CLI/CLI.hpp>
@@ -23,9 +24,9 @@ namespace {
 using namespace iosphoto::tool;
 
 /// Parses and runs a command.
-int run(int argumentCount, char **arguments)
+int run(Session &session, int argumentCount, char **arguments)
 {
-    obeyLookOptions(argumentCount, arguments);
+    obeyLookOptions(session.terminal, argumentCount, arguments);
     CLI::App app(translate("Reads the photo libraries of iOS devices. The files are only read."),
                  "iosphoto");
     app.require_subcommand(1);
@@ -35,7 +36,7 @@ int run(int argumentCount, char **arguments)
     std::optional<std::string> evidence;
     for (const Command &command : commands)
         addEvidenceOption(*command.options, evidence);
-    addGeneralOptions(app, "iosphoto " IOSPHOTO_VERSION);
+    addGeneralOptions(app, session.terminal, "iosphoto " IOSPHOTO_VERSION);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {
@@ -47,7 +48,9 @@ int run(int argumentCount, char **arguments)
         std::find_if(std::begin(commands), std::end(commands),
                      [](const Command &command) { return command.options->parsed(); });
     const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
-    return withEvidence(evidence, commandLine, [&] { return wanted->run(std::cout); });
+    return withEvidence(session, evidence, commandLine, [&] {
+        return runWithWords([&] { return wanted->run(session, std::cout); });
+    });
 }
 
 } // namespace
@@ -56,19 +59,20 @@ int main(int argumentCount, char **arguments)
 {
     for (const int signal : {SIGXFSZ, SIGPIPE}) // a write that fails is an error like others
         std::signal(signal, SIG_IGN);
+    Session session;
     try {
-        const InterruptionWatch watch;
-        const StandardOutput output;
-        const int status = run(argumentCount, arguments);
+        const InterruptionWatch watch(session.terminal);
+        const StandardOutput output(session.files);
+        const int status = run(session, argumentCount, arguments);
         std::cout.flush();
         return status;
     } catch (const OutputClosed &closed) {
         return closed.status();
     } catch (const Failure &failure) {
-        printError(failure.what());
+        session.terminal.printError(failure.what());
         return failure.status();
     } catch (const std::exception &error) { // lack of memory, a temporary folder that vanished
-        printError(error.what());
+        session.terminal.printError(error.what());
         return CannotAccess;
     }
 }

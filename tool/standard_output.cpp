@@ -1,6 +1,5 @@
 #include "standard_output.h"
 
-#include "files/file_use_observer.h"
 #include "process/interruption_lock.h"
 #include "text/translate.h"
 
@@ -16,25 +15,6 @@ namespace {
 
 constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 
-void writeAll(const char *bytes, std::size_t size)
-{
-    stopIfInterrupted();
-    while (size > 0) {
-        const ssize_t step = ::write(STDOUT_FILENO, bytes, size);
-        if (step < 0 && errno == EINTR)
-            continue;
-        if (step < 0 && errno == EPIPE)
-            throw OutputClosed();
-        if (step < 0)
-            throw Failure(CannotAccess, translate("cannot write the output; is the disk full?"));
-        const auto written = static_cast<std::size_t>(step);
-        if (FileUseObserver *const observer = FileUseObserver::current())
-            observer->printed(bytes, written);
-        bytes += written;
-        size -= written;
-    }
-}
-
 } // namespace
 
 OutputClosed::OutputClosed()
@@ -42,8 +22,9 @@ OutputClosed::OutputClosed()
 {
 }
 
-StandardOutput::StandardOutput()
-    : buffer_(bufferSize), isTerminal_(isatty(STDOUT_FILENO) == 1), before_(std::cout.rdbuf(this))
+StandardOutput::StandardOutput(FileUse &files)
+    : files_(files), buffer_(bufferSize), isTerminal_(isatty(STDOUT_FILENO) == 1),
+      before_(std::cout.rdbuf(this))
 {
     setp(buffer_.data(), buffer_.data() + buffer_.size());
     std::cout.exceptions(std::ios::badbit);
@@ -84,6 +65,24 @@ void StandardOutput::write()
     const auto size = static_cast<std::size_t>(pptr() - pbase());
     setp(buffer_.data(), buffer_.data() + buffer_.size());
     writeAll(buffer_.data(), size);
+}
+
+void StandardOutput::writeAll(const char *bytes, std::size_t size)
+{
+    stopIfInterrupted();
+    while (size > 0) {
+        const ssize_t step = ::write(STDOUT_FILENO, bytes, size);
+        if (step < 0 && errno == EINTR)
+            continue;
+        if (step < 0 && errno == EPIPE)
+            throw OutputClosed();
+        if (step < 0)
+            throw Failure(CannotAccess, translate("cannot write the output; is the disk full?"));
+        const auto written = static_cast<std::size_t>(step);
+        files_.printed(bytes, written);
+        bytes += written;
+        size -= written;
+    }
 }
 
 } // namespace iosphoto::tool

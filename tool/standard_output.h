@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_STANDARD_OUTPUT_H
 #define IOSPHOTO_TOOL_STANDARD_OUTPUT_H
 
+#include "files/file_use.h"
 #include "process/failure.h"
 
 #include <streambuf>
@@ -20,7 +21,8 @@ public:
 class StandardOutput : private std::streambuf
 {
 public:
-    StandardOutput();
+    /// @param files  is told of what is printed; has to outlive this
+    explicit StandardOutput(FileUse &files);
     /// Writes what is left, if it can.
     ~StandardOutput() override;
     StandardOutput(const StandardOutput &) = delete;
@@ -31,7 +33,9 @@ private:
     std::streamsize xsputn(const char *text, std::streamsize size) override;
     int sync() override;
     void write();
+    void writeAll(const char *bytes, std::size_t size);
 
+    FileUse &files_;
     std::vector<char> buffer_;
     bool isTerminal_;
     std::streambuf *before_;

@@ -105,10 +105,10 @@ TEST(UserAlbums, TrashedAlbumsAreLeftOutFromIos8On)
     library.album("Dated").set("ZTRASHEDDATE", 600000000);
     library.album("Stateless").set("ZTRASHEDSTATE", nullptr);
     library.album("Zero").set("ZTRASHEDDATE", 0);
-    library.album("Elide");
+    library.album("Kept");
     library.photoStream().set("ZTRASHEDSTATE", 1);
 
-    EXPECT_EQ(UserAlbumsRead(library, "8.0").names(), (AlbumNames{"Zero", "Elide"}));
+    EXPECT_EQ(UserAlbumsRead(library, "8.0").names(), (AlbumNames{"Zero", "Kept"}));
     EXPECT_EQ(UserAlbumsRead(library, "7.9.9").size(), 6U);
 }
 

@@ -2,8 +2,8 @@
 
 #include "files/output_file.h"
 #include "process/temporary_path.h"
+#include "session/session.h"
 #include "support/temporary_folder.h"
-#include "terminal/messages.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +20,7 @@ namespace fs = std::filesystem;
 class InterruptionWatchDeathTest : public testing::Test
 {
 protected:
+    Session session_;
     TemporaryFolder folder_;
     static constexpr const char *lastWords =
         "^iosphoto: interrupted; every file that was written is complete\n$";
@@ -28,7 +29,7 @@ protected:
 TEST_F(InterruptionWatchDeathTest, RemovesWhatACommandStillWorksOn)
 {
     const auto work = [this] {
-        const InterruptionWatch watch;
+        const InterruptionWatch watch(session_.terminal);
         const TemporaryPath folder([this] {
             fs::create_directory(folder_ / "passing");
             return folder_ / "passing";
@@ -45,7 +46,7 @@ TEST_F(InterruptionWatchDeathTest, LeavesOnlyWholeFiles)
 {
     const QByteArray content(3000000, 'x');
     const auto work = [&] {
-        const InterruptionWatch watch;
+        const InterruptionWatch watch(session_.terminal);
         std::atomic<bool> isUnderWay = false;
         std::thread user([&] {
             while (!isUnderWay)
@@ -53,7 +54,7 @@ TEST_F(InterruptionWatchDeathTest, LeavesOnlyWholeFiles)
             kill(getpid(), SIGINT);
         });
         for (;;) {
-            writeOutput(folder_ / "out", content, folder_ / "source");
+            writeOutput(session_.files, folder_ / "out", content, folder_ / "source");
             isUnderWay = true;
         }
     };
@@ -67,7 +68,7 @@ TEST_F(InterruptionWatchDeathTest, LeavesOnlyWholeFiles)
 TEST_F(InterruptionWatchDeathTest, KeepsItsConsequencesFromBeingSaid)
 {
     const auto work = [this] {
-        const InterruptionWatch watch;
+        const InterruptionWatch watch(session_.terminal);
         const TemporaryPath file([this] {
             writeFile(folder_ / "passing", "content");
             return folder_ / "passing";
@@ -75,7 +76,7 @@ TEST_F(InterruptionWatchDeathTest, KeepsItsConsequencesFromBeingSaid)
         kill(getpid(), SIGHUP);
         while (exists(file.path()))
             std::this_thread::yield();
-        printWarning("a file is missing");
+        session_.terminal.printWarning("a file is missing");
         std::_Exit(1);
     };
     EXPECT_EXIT(work(), testing::ExitedWithCode(128 + SIGHUP), lastWords);
@@ -83,9 +84,9 @@ TEST_F(InterruptionWatchDeathTest, KeepsItsConsequencesFromBeingSaid)
 
 TEST_F(InterruptionWatchDeathTest, EndsWithTheCommand)
 {
-    const auto work = [] {
+    const auto work = [this] {
         {
-            const InterruptionWatch watch;
+            const InterruptionWatch watch(session_.terminal);
         }
         kill(getpid(), SIGTERM);
         std::_Exit(7);

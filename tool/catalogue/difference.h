@@ -23,6 +23,9 @@ const char *changeName(Change change);
 /// What a person cares about beside trash, edits and albums.
 enum class ChangedField { Favorite, Hidden, FileName, Created };
 
+constexpr ChangedField allChangedFields[] = {ChangedField::Favorite, ChangedField::Hidden,
+                                             ChangedField::FileName, ChangedField::Created};
+
 /// As the key of the fact, such as "isFavorite".
 const char *fieldName(ChangedField field);
 

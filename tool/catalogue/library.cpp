@@ -1,15 +1,12 @@
 #include "catalogue/library.h"
 
-#include "catalogue/reading_stop.h"
 #include "model/clock.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/store/database_path.h"
 #include "model/store/stored_bytes.h"
-#include "process/failure.h"
 #include "records/record_ownership.h"
-#include "schema/table_damage.h"
+#include "schema/asset_tables.h"
 #include "terminal/busy_line.h"
-#include "terminal/messages.h"
 #include "text/translate.h"
 
 #include <algorithm>
@@ -26,10 +23,10 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
 }
 
 /// The clock that the library reads counts 32 bits.
-std::uint32_t clockTime(std::int64_t unixTime)
+std::uint32_t clockTime(UnixTime time)
 {
     return static_cast<std::uint32_t>(
-        std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
+        std::clamp<std::int64_t>(time.seconds, 0, std::numeric_limits<std::uint32_t>::max()));
 }
 
 /// Generously: in a sound database each row of a pass is an asset, an album or a membership, and
@@ -51,19 +48,23 @@ Moment ownTimeOf(const Source &source)
     return {source.lastChange(), translate("its last change")};
 }
 
-Library::Library(const LibraryRequest &request) : Library(request, Source(request.source)) {}
-
-Library::Library(const LibraryRequest &request, const Source &source) : request_(request)
+Library::Library(Session &session, const LibraryRequest &request)
+    : Library(session, request, Source(session, request.source))
 {
-    const OpenedCopy copy(source, request.device);
+}
+
+Library::Library(Session &session, const LibraryRequest &request, const Source &source)
+    : request_(request)
+{
+    const OpenedCopy copy(session, source, request.device);
     database_ = source.databaseName();
     kind_ = source.kind();
     isArchive_ = source.isArchive();
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);
-    const StoppedClock asOf(clockTime(asOf_.unixTime));
-    read(copy);
-    leftOut_ = trash_.leftOutOf(albums_, asOf_.unixTime);
+    const StoppedClock asOf(clockTime(asOf_.time));
+    read(session, copy);
+    leftOut_ = trash_.leftOutOf(albums_);
 }
 
 void Library::inspect(const OpenedCopy &copy)
@@ -72,7 +73,7 @@ void Library::inspect(const OpenedCopy &copy)
     missing_ = copy.missing();
     hasLog_ = copy.hasLog();
     const CopyDatabase database = copy.connect();
-    trash_ = Trash(database);
+    trash_ = Trash(database, asOf_.time);
     if (hasLog_ && request_.comparesLog)
         logChanges_ = readLogChanges(database);
 }
@@ -82,50 +83,24 @@ Library::~Library()
     destroyRecords(albums_);
 }
 
-void Library::read(const OpenedCopy &copy)
+void Library::read(const Session &session, const OpenedCopy &copy)
 {
     QDevPhotoDbMgr manager(device().iosVersion, device().productType);
     manager.SetDataPath(pathFromBytes(copy.file()));
-    manager.rowLimit = mostRowsOfAPass(copy.file());
-    const ReadDatabase database = {database_, adviceToCopyAgain(), manager.rowLimit};
+    rowLimit_ = manager.rowLimit = mostRowsOfAPass(copy.file());
     const int result = [&] {
-        const BusyLine busy(translate("reading photos"));
+        const BusyLine busy(session.terminal, translate("reading photos"));
         return manager.GetPhotoAlbumDatas();
     }();
     albums_ = std::move(manager.albums);
-    const CPassReport *const stop = manager.report.firstStopped();
+    report_ = std::move(manager.report);
+    const CPassReport *const stop = report_.firstStopped();
     if (result != 0 || (stop != nullptr && isWithoutPhotos(albums_))) {
         destroyRecords(albums_);
-        throw nothingRead(stop != nullptr ? stop->extendedCode : -result, database);
+        throw NothingRead(database_, stop != nullptr ? stop->extendedCode : -result);
     }
     if (stop == nullptr && isWithoutPhotos(albums_) && areAssetTablesDamaged(copy.connect()))
-        throw nothingRead(SQLITE_CORRUPT, database);
-    for (const std::string &sentence : sentencesOf(manager.report, database))
-        missing_.push_back(sentence);
-}
-
-std::string Library::assumptions() const
-{
-    const std::string when = localTimeText(asOf_.unixTime);
-    return translate("reading as {0} and {1}, as of {2}", schema_.iosText(), schema_.productText(),
-                     asOf_.why.empty() ? when : translate("{0} ({1})", when, asOf_.why));
-}
-
-void Library::sayHowItWasRead(const std::string &label) const
-{
-    std::string line;
-    if (schema_.isAssumed() || !asOf_.why.empty())
-        line = assumptions();
-    if (leftOut_ > 0)
-        line += (line.empty() ? "" : translate("; ")) +
-                translate("left out since they were in the trash for 30 days: {0} (see --as-of)",
-                          leftOut_);
-    if (!line.empty())
-        printInfo(label + line);
-    if (!schema_.warning.empty())
-        printWarning(label + schema_.warning);
-    for (const std::string &text : missing_)
-        printWarning(label + text);
+        throw NothingRead(database_, SQLITE_CORRUPT);
 }
 
 } // namespace iosphoto::tool

@@ -4,15 +4,24 @@
 #include "catalogue/log_changes.h"
 #include "catalogue/trash.h"
 #include "ios_photo.h"
-#include "process/exit_status.h"
+#include "ios_photo_report.h"
 #include "schema/opened_copy.h"
-#include "time/time_text.h"
+#include "session/session.h"
+#include "time/epochs.h"
 
+#include <exception>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace iosphoto::tool {
+
+/// The moment that a library is read as of.
+struct Moment
+{
+    UnixTime time;
+    std::string why; ///< such as "Last Backup Date"; empty if the user named it
+};
 
 /// Which library to read, and as what.
 struct LibraryRequest
@@ -26,15 +35,30 @@ struct LibraryRequest
 /// The time that a source is of: when the backup was made, else when it last changed.
 Moment ownTimeOf(const Source &source);
 
+/// That no photo of a library could be read.
+class NothingRead : public std::exception
+{
+public:
+    NothingRead(std::string database, int code) : database_(std::move(database)), code_(code) {}
+
+    const std::string &database() const { return database_; }
+    int code() const { return code_; } ///< of SQLite, extended
+    const char *what() const noexcept override { return "no photo could be read"; }
+
+private:
+    std::string database_;
+    int code_;
+};
+
 /// A photo library that was read, with the records of its catalogue.
 class Library
 {
 public:
-    /// Reads the database through a private copy, which is gone when this returns. Throws Failure
-    /// when the library cannot be read.
-    explicit Library(const LibraryRequest &request);
+    /// Reads the database through a private copy, which is gone when this returns. Throws when the
+    /// library cannot be read: NothingRead, and what Source and OpenedCopy throw.
+    Library(Session &session, const LibraryRequest &request);
     /// The same of a source that was opened before.
-    Library(const LibraryRequest &request, const Source &source);
+    Library(Session &session, const LibraryRequest &request, const Source &source);
     ~Library();
     Library(const Library &) = delete;
     Library &operator=(const Library &) = delete;
@@ -56,18 +80,18 @@ public:
     bool hasLog() const { return hasLog_; }
     const std::vector<LogChange> &logChanges() const { return logChanges_; }
 
-    /// Good, or Incomplete when something is missing from what was read.
-    ExitStatus status() const { return missing_.empty() ? Good : Incomplete; }
-
-    /// Says on stderr in one line what was assumed and what is left out, and in others what does
-    /// not agree and what is missing.
-    /// @param label  put before each line where there are several libraries, such as "A: "
-    void sayHowItWasRead(const std::string &label = {}) const;
+    /// What of the source is missing.
+    const std::vector<SourceFinding> &missing() const { return missing_; }
+    /// How far the database was read.
+    const CReadReport &report() const { return report_; }
+    /// The most rows that a pass was to read.
+    std::int64_t rowLimit() const { return rowLimit_; }
+    /// Whether nothing is missing from what was read.
+    bool isComplete() const { return missing_.empty() && report_.firstStopped() == nullptr; }
 
 private:
     void inspect(const OpenedCopy &copy);
-    void read(const OpenedCopy &copy);
-    std::string assumptions() const;
+    void read(const Session &session, const OpenedCopy &copy);
 
     LibraryRequest request_;
     std::string database_;
@@ -80,7 +104,9 @@ private:
     std::vector<LogChange> logChanges_;
     std::vector<CAlbumGroup> albums_;
     int leftOut_ = 0;
-    std::vector<std::string> missing_;
+    std::vector<SourceFinding> missing_;
+    CReadReport report_;
+    std::int64_t rowLimit_ = 0;
 };
 
 } // namespace iosphoto::tool

@@ -1,6 +1,7 @@
 #include "catalogue/log_changes.h"
 
 #include "input/tree/file_tree.h"
+#include "schema/asset_tables.h"
 #include "text/translate.h"
 
 #include <QByteArray>
@@ -47,7 +48,7 @@ LogChange changeOf(Kind kind, const QueryRow &row)
     const std::string uuid = row.text(0);
     const bool isBlob = row.text(3) == "blob";
     return {kind, isBlob ? QByteArray::fromStdString(uuid).toHex().toStdString() : uuid,
-            joined(row.text(1), row.text(2))};
+            joinedPath(row.text(1), row.text(2))};
 }
 
 } // namespace
@@ -70,7 +71,7 @@ const char *machineName(LogChangeKind kind)
 std::vector<LogChange> readLogChanges(const CopyDatabase &database)
 {
     std::vector<LogChange> changes;
-    const std::string table = database.assetTable();
+    const std::string table = assetTableOf(database);
     const auto collect = [&](Kind kind, const std::string &query) {
         database.forEachRow(query,
                             [&](const QueryRow &row) { changes.push_back(changeOf(kind, row)); });

@@ -1,10 +1,6 @@
 #include "catalogue/photo_kinds.h"
 
-#include "process/failure.h"
-#include "text/did_you_mean.h"
 #include "text/translate.h"
-
-#include <fmt/ranges.h>
 
 namespace iosphoto::tool {
 
@@ -44,15 +40,13 @@ std::vector<std::string> kindNames()
     return names;
 }
 
-KindTest kindNamed(const std::string &name)
+const PhotoKind *findKind(const std::string &name)
 {
     const std::string small = QString::fromStdString(name).toLower().toStdString();
     for (const PhotoKind &kind : photoKinds())
         if (small == kind.name || small == kind.name + std::string("s"))
-            return kind.test;
-    throw Failure(WrongUsage, translate("--kind: there is no kind '{0}'; there are {1}", name,
-                                        fmt::join(kindNames(), ", ")) +
-                                  didYouMean(small, kindNames()));
+            return &kind;
+    return nullptr;
 }
 
 } // namespace iosphoto::tool

@@ -31,9 +31,9 @@ const std::vector<PhotoKind> &photoKinds();
 
 std::vector<std::string> kindNames();
 
-/// The test of the kind that somebody names, in any case of letters, one or many: "screenshot" or
-/// "Screenshots". Throws Failure for an unknown one, naming those that are known.
-KindTest kindNamed(const std::string &name);
+/// The kind that somebody names, in any case of letters, one or many: "screenshot" or
+/// "Screenshots"; null for an unknown one.
+const PhotoKind *findKind(const std::string &name);
 
 /// Something that a photo is or has: its flag in the record, its key in documents, its name in
 /// options, and the word for it in tables. Those two are empty for what albums say.

@@ -2,10 +2,6 @@
 
 #include "catalogue/album_kinds.h"
 #include "catalogue/burst_frames.h"
-#include "catalogue/trash_stay.h"
-#include "process/failure.h"
-#include "terminal/messages.h"
-#include "text/translate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,9 +23,9 @@ bool matchesTime(const PhotoFilter &filter, const Asset &asset)
 {
     if (!filter.since && !filter.until)
         return true;
-    const auto created = unixTimeOf(asset.begin()->record->createdTime);
-    return created && (!filter.since || *created >= *filter.since) &&
-           (!filter.until || *created <= *filter.until);
+    const auto created = unixTimeOf(CoreDataTime{asset.begin()->record->createdTime});
+    return created && (!filter.since || !(*created < *filter.since)) &&
+           (!filter.until || !(*filter.until < *created));
 }
 
 bool matchesKinds(const PhotoFilter &filter, const Asset &asset)
@@ -50,9 +46,10 @@ bool matchesTrash(const PhotoFilter &filter, const Library &library, const Asset
 {
     if (!filter.trashedWithinDays)
         return true;
-    constexpr std::int64_t day = std::int64_t(24) * 60 * 60;
-    const auto stay = trashStay(library, asset);
-    return stay && stay->trashed >= library.asOf().unixTime - *filter.trashedWithinDays * day;
+    const auto stay = library.trash().stayOf(asset);
+    const UnixTime since = {library.asOf().time.seconds -
+                            *filter.trashedWithinDays * secondsPerDay};
+    return stay && !(stay->trashed < since);
 }
 
 struct OrderName
@@ -61,7 +58,7 @@ struct OrderName
     PhotoOrder order;
 };
 
-constexpr OrderName orderNames[] = {
+constexpr OrderName namedOrders[] = {
     {"date", PhotoOrder::Date},       {"name", PhotoOrder::Name},
     {"size", PhotoOrder::Size},       {"duration", PhotoOrder::Duration},
     {"added", PhotoOrder::Added},     {"modified", PhotoOrder::Modified},
@@ -91,8 +88,8 @@ double rank(const Asset &asset, PhotoOrder order, const Library &library)
     case PhotoOrder::Modified:
         return record.modifiedTime;
     case PhotoOrder::Deleted: {
-        const auto stay = trashStay(library, asset);
-        return stay ? static_cast<double>(stay->trashed) : none;
+        const auto stay = library.trash().stayOf(asset);
+        return stay ? static_cast<double>(stay->trashed.seconds) : none;
     }
     default:
         return record.createdTime;
@@ -129,12 +126,21 @@ bool matches(const CAlbumGroup &album, const QString &wanted)
 
 } // namespace
 
+std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const std::string &wanted)
+{
+    std::vector<const CAlbumGroup *> matching;
+    for (const CAlbumGroup &album : library.albums())
+        if (matches(album, QString::fromStdString(wanted)))
+            matching.push_back(&album);
+    return matching;
+}
+
 std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &library,
                                   const AssetList &assets)
 {
     std::vector<const CAlbumGroup *> albums;
     if (filter.album)
-        albums = selectAlbums(library, *filter.album);
+        albums = matchingAlbums(library, *filter.album);
     std::vector<Asset> matching;
     for (std::size_t i = 0; i < assets.size(); ++i) {
         const Asset asset = assets[i];
@@ -146,16 +152,20 @@ std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &libr
     return matching;
 }
 
-PhotoOrder orderNamed(const std::string &name)
+std::optional<PhotoOrder> orderNamed(const std::string &name)
 {
-    std::string known;
-    for (const OrderName &row : orderNames) {
-        if (name == row.name)
-            return row.order;
-        known += (known.empty() ? "" : ", ") + std::string(row.name);
-    }
-    throw Failure(WrongUsage,
-                  translate("--sort: there is no order '{0}'; there are {1}", name, known));
+    const auto *const found =
+        std::find_if(std::begin(namedOrders), std::end(namedOrders),
+                     [&](const OrderName &order) { return name == order.name; });
+    return found != std::end(namedOrders) ? std::optional(found->order) : std::nullopt;
+}
+
+std::vector<std::string> orderNames()
+{
+    std::vector<std::string> names;
+    for (const OrderName &order : namedOrders)
+        names.emplace_back(order.name);
+    return names;
 }
 
 void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &library)
@@ -186,25 +196,6 @@ std::vector<Asset> choosePhotos(const PhotoChoice &choice, const Library &librar
     if (choice.limit && *choice.limit < chosen.size())
         chosen.erase(chosen.begin() + static_cast<std::ptrdiff_t>(*choice.limit), chosen.end());
     return chosen;
-}
-
-std::vector<const CAlbumGroup *> selectAlbums(const Library &library, const std::string &wanted)
-{
-    std::vector<const CAlbumGroup *> selected;
-    std::string listed;
-    for (const CAlbumGroup &album : library.albums()) {
-        if (!matches(album, QString::fromStdString(wanted)))
-            continue;
-        listed += (selected.empty() ? "" : translate(", ")) + shownName(album);
-        selected.push_back(&album);
-    }
-    if (selected.empty())
-        throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
-                                            wanted, library.name()));
-    if (selected.size() > 1)
-        printInfo(translate("'{0}' fits {1} albums, all are shown: {2}", wanted, selected.size(),
-                            listed));
-    return selected;
 }
 
 } // namespace iosphoto::tool

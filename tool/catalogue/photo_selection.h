@@ -7,12 +7,12 @@
 
 namespace iosphoto::tool {
 
-/// Which photos are asked for. One that is asked for fits all that is said.
+/// Which photos are asked for. One that is asked for matches all that is said.
 struct PhotoFilter
 {
-    std::optional<std::string> album;  ///< see selectAlbums()
-    std::optional<std::int64_t> since; ///< Unix time of its creation
-    std::optional<std::int64_t> until;
+    std::optional<std::string> album; ///< see matchingAlbums()
+    std::optional<UnixTime> since;    ///< of its creation
+    std::optional<UnixTime> until;
     std::vector<KindTest> kinds; ///< any of them, if there are some
     bool isDeleted = false;
     std::optional<int> trashedWithinDays; ///< before the library's moment; needs isDeleted
@@ -21,7 +21,12 @@ struct PhotoFilter
     bool isEdited = false;
 };
 
-/// The photos that match, in the order of the list. Throws Failure when there is no such album.
+/// The albums that match `wanted`, in the catalogue's order: by their own name, by their kind (its
+/// machine name, name in English or in the current language, or number) or by their uuid, letter
+/// case aside.
+std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const std::string &wanted);
+
+/// The photos that match, in the order of the list.
 std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &library,
                                   const AssetList &assets);
 
@@ -29,9 +34,10 @@ std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &libr
 /// those that have none last.
 enum class PhotoOrder { Date, Name, Size, Duration, Added, Modified, Deleted };
 
-/// The order that somebody names, such as "date". Throws Failure for an unknown one, naming those
-/// that are known.
-PhotoOrder orderNamed(const std::string &name);
+/// The order that somebody names, such as "date"; nothing for an unknown one.
+std::optional<PhotoOrder> orderNamed(const std::string &name);
+
+std::vector<std::string> orderNames();
 
 /// Sorts photos; those that are alike stay in their order.
 void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &library);
@@ -49,11 +55,6 @@ struct PhotoChoice
 /// Of the photos of a library those that are chosen.
 std::vector<Asset> choosePhotos(const PhotoChoice &choice, const Library &library,
                                 const AssetList &assets);
-
-/// The albums that fit `wanted`, in the catalogue's order: by their own name, by their kind (its
-/// machine name, name in English or in the language spoken, or number) or by their uuid, letter
-/// case aside. Says on stderr when there are several. Throws Failure when there is none.
-std::vector<const CAlbumGroup *> selectAlbums(const Library &library, const std::string &wanted);
 
 } // namespace iosphoto::tool
 

@@ -1,7 +1,6 @@
 #include "catalogue/summary.h"
 
 #include "catalogue/photo_kinds.h"
-#include "time/time_text.h"
 
 #include <algorithm>
 
@@ -17,7 +16,7 @@ void add(Tally &tally, const CPhotoData &photo)
     tally.bytes = std::min(most, tally.bytes + std::clamp<std::int64_t>(photo.fileSize, 0, most));
 }
 
-void addTime(Summary &summary, double created)
+void addTime(Summary &summary, CoreDataTime created)
 {
     if (!isOfTheCalendar(created))
         return;
@@ -39,7 +38,7 @@ Summary summaryOf(const AssetList &assets)
         for (std::size_t kind = 0; kind < kinds.size(); ++kind)
             if (kinds[kind].test(asset))
                 add(summary.byKind[kind], photo);
-        addTime(summary, photo.createdTime);
+        addTime(summary, CoreDataTime{photo.createdTime});
     }
     return summary;
 }

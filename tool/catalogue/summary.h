@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_SUMMARY_H
 
 #include "catalogue/assets.h"
+#include "time/epochs.h"
 
 #include <cstdint>
 #include <optional>
@@ -20,9 +21,9 @@ struct Tally
 struct Summary
 {
     Tally all;
-    std::vector<Tally> byKind;          ///< as photoKinds() lists them
-    std::optional<double> firstCreated; ///< seconds since 2001
-    std::optional<double> lastCreated;
+    std::vector<Tally> byKind; ///< as photoKinds() lists them
+    std::optional<CoreDataTime> firstCreated;
+    std::optional<CoreDataTime> lastCreated;
 };
 
 Summary summaryOf(const AssetList &assets);

@@ -1,8 +1,10 @@
 #ifndef IOSPHOTO_TOOL_TRASH_H
 #define IOSPHOTO_TOOL_TRASH_H
 
+#include "catalogue/assets.h"
 #include "ios_photo.h"
 #include "sqlite/copy_database.h"
+#include "time/epochs.h"
 
 #include <map>
 #include <optional>
@@ -11,6 +13,14 @@
 
 namespace iosphoto::tool {
 
+/// An asset's time in Recently Deleted.
+struct TrashStay
+{
+    UnixTime trashed;
+    UnixTime goes;         ///< when the device removes it for good
+    std::int64_t daysLeft; ///< from the moment that the library is read as of; a begun day counts
+};
+
 /// What the records of a catalogue do not tell of the trash: since when an asset is in it, and
 /// which assets are missing because the trash was emptied of them.
 class Trash
@@ -18,22 +28,23 @@ class Trash
 public:
     Trash() = default;
     /// Reads the trash of a database of iOS 8 or later; that of an older one is empty.
-    explicit Trash(const CopyDatabase &database);
+    /// @param asOf  the moment that the library is read as of
+    Trash(const CopyDatabase &database, UnixTime asOf);
 
-    /// When an asset was put there, in seconds since 2001; nothing where the database does not say.
-    std::optional<double> trashedAt(const std::string &uuid) const;
+    /// Nothing for an asset that is not there, and where the database does not say since when.
+    std::optional<TrashStay> stayOf(const Asset &asset) const;
 
-    /// The assets that are in no album of a catalogue since they were in the trash for 30 days at
-    /// the time that it was read as of.
-    int leftOutOf(const std::vector<CAlbumGroup> &catalogue, std::int64_t asOf) const;
+    /// The assets that are in no album of a catalogue since they were in the trash for 30 days.
+    int leftOutOf(const std::vector<CAlbumGroup> &catalogue) const;
 
 private:
     struct Entry
     {
-        std::optional<double> trashedAt;
+        std::optional<CoreDataTime> trashedAt;
         std::int32_t rawDate = 0; ///< as the library reads it
     };
 
+    UnixTime asOf_;
     std::map<std::string, Entry> entries_; // by uuid; ordered: no choice of uuids makes it slow
 };
 

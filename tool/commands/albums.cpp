@@ -1,9 +1,11 @@
 #include "commands/command.h"
 #include "commands/help.h"
+#include "commands/library_messages.h"
 #include "commands/library_options.h"
 #include "commands/row_format_options.h"
 #include "rows/album_fields.h"
 #include "rows/library_database.h"
+#include "rows/library_head.h"
 #include "text/printable.h"
 #include "text/translate.h"
 
@@ -24,19 +26,20 @@ void printAlbums(RowStream<AlbumRow> stream, const Library &library)
     stream.end();
 }
 
-ExitStatus showAlbums(const AlbumsRequest &request, std::ostream &out)
+ExitStatus showAlbums(const AlbumsRequest &request, Session &session, std::ostream &out)
 {
     const auto fields = fieldsToShow(albumFields(), request.format);
-    const Library library(request.library);
-    library.sayHowItWasRead();
-    if (request.format.sqlite) {
-        writeAlbumDatabase(*request.format.sqlite, library);
-        out << translate("wrote {0}", printable(*request.format.sqlite)) << '\n';
+    const Library library(session, request.library);
+    printHowItWasRead(session.terminal, library);
+    if (request.format.format == Format::Sqlite) {
+        writeAlbumDatabase(session.files, request.format.sqliteFile, library);
+        out << translate("wrote {0}", printable(request.format.sqliteFile)) << '\n';
     } else {
-        const auto writer = makeRowWriter(request.format, out);
-        printAlbums({*writer, {"albums", libraryHead(library)}, fields}, library);
+        const auto writer =
+            makeRowWriter(request.format.format, out, session.terminal.screenOf(out));
+        printAlbums({*writer, rowsHead("albums", library), fields}, library);
     }
-    return library.status();
+    return statusOf(library);
 }
 
 } // namespace
@@ -52,7 +55,9 @@ Command addAlbums(CLI::App &app)
          examples({"iosphoto albums Photos.sqlite", "iosphoto albums Photos.sqlite --csv",
                    "iosphoto albums Photos.sqlite --fields name,count,bytes"}),
          exitCodesOfALibrary()}));
-    return {command, [request](std::ostream &out) { return showAlbums(*request, out); }};
+    return {command, [request](Session &session, std::ostream &out) {
+                return showAlbums(*request, session, out);
+            }};
 }
 
 } // namespace iosphoto::tool

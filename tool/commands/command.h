@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_COMMAND_H
 
 #include "process/exit_status.h"
+#include "session/session.h"
 
 #include <CLI/CLI.hpp>
 
@@ -15,7 +16,7 @@ namespace iosphoto::tool {
 struct Command
 {
     CLI::App *options;
-    std::function<ExitStatus(std::ostream &)> run;
+    std::function<ExitStatus(Session &, std::ostream &)> run;
 };
 
 /// Each adds a command to the tool.

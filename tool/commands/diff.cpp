@@ -1,11 +1,11 @@
 #include "commands/command.h"
-#include "commands/difference_csv.h"
-#include "commands/difference_document.h"
 #include "commands/difference_table.h"
 #include "commands/help.h"
+#include "commands/library_messages.h"
 #include "commands/library_options.h"
 #include "commands/option_values.h"
-#include "terminal/messages.h"
+#include "commands/row_format_options.h"
+#include "rows/difference_fields.h"
 #include "text/translate.h"
 
 #include <algorithm>
@@ -19,60 +19,42 @@ struct DiffRequest
     std::string before;
     std::string after;
     Device device; ///< of both
-    bool asJson = false;
-    bool asJsonLines = false;
-    bool asCsv = false;
+    Format format = Format::Table;
 };
 
-void printAsJson(const Library &before, const Library &after, const LibraryDifference &difference,
-                 std::ostream &out)
+void printDifference(Format format, const Library &before, const Library &after,
+                     const LibraryDifference &difference, const Screen &screen, std::ostream &out)
 {
-    Json document = differenceHead(before, after, difference);
-    Json &photos = document["photos"] = Json::array();
-    for (const PhotoDifference &photo : difference.photos.differences)
-        photos.push_back(asJson(photo));
-    print(document, out);
-}
-
-void printAsJsonLines(const Library &before, const Library &after,
-                      const LibraryDifference &difference, std::ostream &out)
-{
-    for (const PhotoDifference &photo : difference.photos.differences) {
-        Json line = {{"a", before.name()}, {"b", after.name()}};
-        line.update(asJson(photo));
-        out << oneLine(line) << '\n';
+    if (format == Format::Table) {
+        printDifferenceTable(difference, screen, out);
+        return;
     }
-}
-
-void printDifference(const DiffRequest &request, const Library &before, const Library &after,
-                     const LibraryDifference &difference, std::ostream &out)
-{
-    if (request.asJson)
-        printAsJson(before, after, difference, out);
-    else if (request.asJsonLines)
-        printAsJsonLines(before, after, difference, out);
-    else if (request.asCsv)
-        printDifferenceAsCsv(difference.photos.differences, out);
-    else
-        printDifferenceTable(difference, out);
+    const auto writer = makeRowWriter(format, out, screen);
+    const DifferenceRows rows(before, after);
+    RowStream<DifferenceRow> stream(*writer, differenceHead(before, after, difference),
+                                    factsOf(differenceFields()));
+    for (const PhotoDifference &photo : difference.photos.differences)
+        stream.write(rows.of(photo));
+    stream.end();
 }
 
 /// Says when the libraries do not look like those of one phone.
 void checkThatTheyAreRelated(const Library &before, const Library &after,
-                             const LibraryDifference &difference)
+                             const LibraryDifference &difference, const Terminal &terminal)
 {
     const int onlyThere = difference.count(Change::Gone);
     const int onlyHere = difference.count(Change::New);
     if (difference.photos.inBoth == 0 && onlyThere > 0 && onlyHere > 0)
-        printWarning(translate("'{0}' and '{1}' have no photo in common; are they of one phone?",
-                               before.name(), after.name()));
+        terminal.printWarning(
+            translate("'{0}' and '{1}' have no photo in common; are they of one phone?",
+                      before.name(), after.name()));
 }
 
 ExitStatus statusOf(const Library &before, const Library &after,
-                    const LibraryDifference &difference)
+                    const LibraryDifference &difference, const Terminal &terminal)
 {
-    if (before.status() != Good || after.status() != Good) {
-        printWarning(translate("what is missing may look like a difference, or hide one"));
+    if (!before.isComplete() || !after.isComplete()) {
+        terminal.printWarning(translate("what is missing may look like a difference, or hide one"));
         return CannotAccess;
     }
     return difference.isNone() ? Good : Different;
@@ -81,25 +63,25 @@ ExitStatus statusOf(const Library &before, const Library &after,
 /// Both libraries are read as of one moment, so that time alone makes no photo leave the trash.
 Moment earlierOf(const Moment &one, const Moment &other)
 {
-    return {std::min(one.unixTime, other.unixTime), translate("the earlier of both")};
+    return {std::min(one.time, other.time), translate("the earlier of both")};
 }
 
-ExitStatus showDifference(const DiffRequest &request, std::ostream &out)
+ExitStatus showDifference(const DiffRequest &request, Session &session, std::ostream &out)
 {
-    const Source first(request.before);
-    const Source second(request.after);
+    const Source first(session, request.before);
+    const Source second(session, request.after);
     const Moment now = earlierOf(ownTimeOf(first), ownTimeOf(second));
-    const Library before({request.before, request.device, now}, first);
-    const Library after({request.after, request.device, now}, second);
+    const Library before(session, {request.before, request.device, now}, first);
+    const Library after(session, {request.after, request.device, now}, second);
     const AssetList assetsBefore(before.albums());
     const AssetList assetsAfter(after.albums());
     const LibraryDifference difference = {compareAlbums(before.albums(), after.albums()),
                                           comparePhotos(assetsBefore, assetsAfter)};
-    before.sayHowItWasRead("A: ");
-    after.sayHowItWasRead("B: ");
-    checkThatTheyAreRelated(before, after, difference);
-    printDifference(request, before, after, difference, out);
-    return statusOf(before, after, difference);
+    printHowItWasRead(session.terminal, before, "A: ");
+    printHowItWasRead(session.terminal, after, "B: ");
+    checkThatTheyAreRelated(before, after, difference, session.terminal);
+    printDifference(request.format, before, after, difference, session.terminal.screenOf(out), out);
+    return statusOf(before, after, difference, session.terminal);
 }
 
 } // namespace
@@ -116,13 +98,13 @@ Command addDiff(CLI::App &app)
         ->required()
         ->check(notEmpty());
     addDeviceOptions(*command, request->device);
-    CLI::Option *const json =
-        command->add_flag("--json", request->asJson, translate("print a JSON document"));
+    CLI::Option *const json = addFormatFlag(*command, request->format, Format::JsonDocument,
+                                            translate("print a JSON document"));
     CLI::Option *const jsonLines =
-        command->add_flag("--jsonl", request->asJsonLines,
-                          translate("print a JSON object a line, for the photos only"));
-    CLI::Option *const csv =
-        command->add_flag("--csv", request->asCsv, translate("print CSV, for the photos only"));
+        addFormatFlag(*command, request->format, Format::JsonLines,
+                      translate("print a JSON object a line, for the photos only"));
+    CLI::Option *const csv = addFormatFlag(*command, request->format, Format::Csv,
+                                           translate("print CSV, for the photos only"));
     json->excludes(jsonLines, csv);
     jsonLines->excludes(csv);
     command->footer(helpFooter(
@@ -131,7 +113,9 @@ Command addDiff(CLI::App &app)
                    "iosphoto diff May/Photos.sqlite June/Photos.sqlite --json"}),
          translate("Exit: 0 same, 1 different, 2 wrong usage, 3 to 6 unusable files; see "
                    "the README")}));
-    return {command, [request](std::ostream &out) { return showDifference(*request, out); }};
+    return {command, [request](Session &session, std::ostream &out) {
+                return showDifference(*request, session, out);
+            }};
 }
 
 } // namespace iosphoto::tool

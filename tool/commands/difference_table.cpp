@@ -3,6 +3,7 @@
 #include "catalogue/album_kinds.h"
 #include "terminal/paragraph.h"
 #include "terminal/text_table.h"
+#include "text/lists.h"
 #include "text/numbers.h"
 #include "text/translate.h"
 
@@ -11,14 +12,6 @@ namespace iosphoto::tool {
 namespace {
 
 using Words = std::vector<std::string>;
-
-std::string joined(const Words &words)
-{
-    std::string line;
-    for (const std::string &word : words)
-        line += (line.empty() ? "" : translate(", ")) + word;
-    return line;
-}
 
 template <typename AnyChange>
 std::string changeWord(AnyChange change)
@@ -83,7 +76,7 @@ void addRow(TextTable &table, const PhotoDifference &photo)
     Words changes;
     for (const Change change : photo.changes)
         changes.push_back(changeWord(change));
-    table.add({joined(changes), photo.latest().path(), joined(details(photo))});
+    table.add({listForPeople(changes), photo.latest().path(), listForPeople(details(photo))});
 }
 
 /// How many there are of each change, where there are any.
@@ -102,14 +95,15 @@ std::string summary(const LibraryDifference &difference)
     const Words photos = counts(difference, allChanges);
     const Words albums = counts(difference, allAlbumChanges);
     if (albums.empty())
-        return photos.empty() ? translate("no difference") : joined(photos);
-    return (photos.empty() ? "" : joined(photos) + translate("; ")) +
-           translate("albums: {0}", joined(albums));
+        return photos.empty() ? translate("no difference") : listForPeople(photos);
+    return (photos.empty() ? "" : listForPeople(photos) + translate("; ")) +
+           translate("albums: {0}", listForPeople(albums));
 }
 
 } // namespace
 
-void printDifferenceTable(const LibraryDifference &difference, std::ostream &out)
+void printDifferenceTable(const LibraryDifference &difference, const Screen &screen,
+                          std::ostream &out)
 {
     if (!difference.isNone()) {
         TextTable table({{translate("CHANGE")},
@@ -119,10 +113,10 @@ void printDifferenceTable(const LibraryDifference &difference, std::ostream &out
             addRow(table, album);
         for (const PhotoDifference &photo : difference.photos.differences)
             addRow(table, photo);
-        table.print(out);
+        table.print(out, screen);
         out << '\n';
     }
-    printParagraph(out, summary(difference));
+    printParagraph(out, screen, summary(difference));
 }
 
 } // namespace iosphoto::tool

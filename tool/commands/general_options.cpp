@@ -3,8 +3,8 @@
 #include "commands/help.h"
 #include "commands/option_values.h"
 #include "process/failure.h"
-#include "terminal/messages.h"
 #include "terminal/terminal.h"
+#include "text/lists.h"
 #include "text/translate.h"
 
 #include <algorithm>
@@ -25,12 +25,9 @@ const Choices<ColorChoice> colors = {
     {"auto", ColorChoice::Auto}, {"always", ColorChoice::Always}, {"never", ColorChoice::Never}};
 
 template <typename Value>
-std::string joined(const Choices<Value> &choices, const std::string &separator)
+std::string namesOf(const Choices<Value> &choices, const std::string &separator)
 {
-    std::string names;
-    for (const auto &[name, value] : choices)
-        names += (names.empty() ? "" : separator) + name;
-    return names;
+    return joinedTexts(choices, separator, [](const auto &choice) { return choice.first; });
 }
 
 /// The value of an option as the parser will see it: "--option value" or "--option=value".
@@ -58,11 +55,11 @@ Value chosen(const std::string &option, const Choices<Value> &choices,
                                     [&](const auto &choice) { return choice.first == *name; });
     if (found == choices.end())
         throw Failure(WrongUsage, translate("{0}: '{1}' is none of {2}; see iosphoto --help",
-                                            option, *name, joined(choices, ", ")));
+                                            option, *name, namesOf(choices, ", ")));
     return found->second;
 }
 
-void addGeneralOptionsTo(CLI::App &command, const std::string &version)
+void addGeneralOptionsTo(CLI::App &command, Terminal &terminal, const std::string &version)
 {
     for (CLI::Option *option : command.get_options())
         if (option->get_group() == "Options")
@@ -70,14 +67,15 @@ void addGeneralOptionsTo(CLI::App &command, const std::string &version)
     const std::string group = translate("General");
     const auto obeyed = [](const std::string &) {}; // obeyLookOptions() has done it
     command.add_option_function<std::string>("--lang", obeyed, translate("language of texts"))
-        ->type_name(joined(languages, "|"))
+        ->type_name(namesOf(languages, "|"))
         ->group(group);
     command.add_option_function<std::string>("--color", obeyed, translate("when to use colors"))
-        ->type_name(joined(colors, "|"))
+        ->type_name(namesOf(colors, "|"))
         ->group(group);
     command
         .add_flag_callback(
-            "-q,--quiet", [] { beQuiet(true); }, translate("no remarks and no progress"))
+            "-q,--quiet", [&terminal] { terminal.beQuiet(); },
+            translate("no remarks and no progress"))
         ->group(group);
     command.set_version_flag("--version", version, translate("print the version"))->group(group);
     command.set_help_flag("-h,--help", translate("print this help"))->group(group);
@@ -85,24 +83,24 @@ void addGeneralOptionsTo(CLI::App &command, const std::string &version)
 
 } // namespace
 
-void obeyLookOptions(int argumentCount, char **arguments)
+void obeyLookOptions(Terminal &terminal, int argumentCount, char **arguments)
 {
     const std::vector<std::string> given(arguments + std::min(argumentCount, 1),
                                          arguments + argumentCount);
     setLanguage(languageOfLocale());
     setLanguage(chosen("--lang", languages, given, currentLanguage()));
-    chooseColor(chosen("--color", colors, given, ColorChoice::Auto));
+    terminal.chooseColor(chosen("--color", colors, given, ColorChoice::Auto));
 }
 
-void addGeneralOptions(CLI::App &app, const std::string &version)
+void addGeneralOptions(CLI::App &app, Terminal &terminal, const std::string &version)
 {
-    const auto format = std::make_shared<HelpFormat>();
+    const auto format = std::make_shared<HelpFormat>(terminal);
     app.formatter(format);
-    addGeneralOptionsTo(app, version);
+    addGeneralOptionsTo(app, terminal, version);
     for (CLI::App *command : app.get_subcommands({})) {
         command->formatter(format);
         command->group(translate("Commands"));
-        addGeneralOptionsTo(*command, version);
+        addGeneralOptionsTo(*command, terminal, version);
     }
 }
 

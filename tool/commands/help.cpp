@@ -27,10 +27,20 @@ std::size_t descriptionAt(std::size_t columns)
     return columns >= 2 * beside ? beside : below;
 }
 
-/// "  name    description": the description on further lines where it is long.
-std::string entry(const std::string &name, const std::string &description)
+} // namespace
+
+HelpFormat::HelpFormat(const Terminal &terminal) : terminal_(terminal)
 {
-    const std::size_t columns = screenOf(std::cout).columns.value_or(columnsOfEntries);
+    label("Usage", translate("Usage"));
+    label("OPTIONS", translate("OPTIONS"));
+    label("SUBCOMMAND", translate("COMMAND"));
+    label("Positionals", translate("Arguments"));
+}
+
+/// "  name    description": the description on further lines where it is long.
+std::string HelpFormat::entry(const std::string &name, const std::string &description) const
+{
+    const std::size_t columns = terminal_.screenOf(std::cout).columns.value_or(columnsOfEntries);
     const std::size_t at = descriptionAt(columns);
     const std::string further = "\n" + std::string(at, ' ');
     std::string text = padded("  " + name, at - 1);
@@ -45,9 +55,9 @@ std::string entry(const std::string &name, const std::string &description)
 
 /// Text of several lines with the long ones wrapped. Those that are indented are command lines,
 /// which stay whole.
-std::string paragraphs(const std::string &text)
+std::string HelpFormat::paragraphs(const std::string &text) const
 {
-    const std::size_t columns = screenOf(std::cout).columns.value_or(columnsOfParagraphs);
+    const std::size_t columns = terminal_.screenOf(std::cout).columns.value_or(columnsOfParagraphs);
     std::istringstream lines(text);
     std::string all;
     for (std::string line; std::getline(lines, line);) {
@@ -58,16 +68,6 @@ std::string paragraphs(const std::string &text)
                 all += part + "\n";
     }
     return all;
-}
-
-} // namespace
-
-HelpFormat::HelpFormat()
-{
-    label("Usage", translate("Usage"));
-    label("OPTIONS", translate("OPTIONS"));
-    label("SUBCOMMAND", translate("COMMAND"));
-    label("Positionals", translate("Arguments"));
 }
 
 std::string HelpFormat::make_option(const CLI::Option *option, bool isPositional) const

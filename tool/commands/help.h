@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_HELP_H
 #define IOSPHOTO_TOOL_HELP_H
 
+#include "terminal/terminal.h"
+
 #include <CLI/CLI.hpp>
 
 #include <string>
@@ -14,7 +16,8 @@ namespace iosphoto::tool {
 class HelpFormat : public CLI::Formatter
 {
 public:
-    HelpFormat();
+    /// @param terminal  has to outlive the format
+    explicit HelpFormat(const Terminal &terminal);
 
     std::string make_option(const CLI::Option *option, bool isPositional) const override;
     std::string make_option_opts(const CLI::Option *option) const override;
@@ -24,6 +27,12 @@ public:
     std::string make_help(const CLI::App *app, std::string name,
                           CLI::AppFormatMode mode) const override;
     std::string make_subcommand(const CLI::App *command) const override;
+
+private:
+    std::string entry(const std::string &name, const std::string &description) const;
+    std::string paragraphs(const std::string &text) const;
+
+    const Terminal &terminal_;
 };
 
 /// What the help of a command ends with: paragraphs, the last of them its exit codes.

@@ -4,14 +4,16 @@
 #include "commands/command.h"
 #include "commands/help.h"
 #include "commands/info_document.h"
+#include "commands/library_messages.h"
 #include "commands/library_options.h"
-#include "model/core_data_time.h"
+#include "commands/row_format_options.h"
 #include "terminal/paragraph.h"
 #include "terminal/text_table.h"
 #include "text/json.h"
 #include "text/numbers.h"
 #include "text/printable.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 namespace iosphoto::tool {
 
@@ -20,13 +22,13 @@ namespace {
 struct InfoRequest
 {
     LibraryRequest library;
-    bool asJson = false;
-    bool asJsonLine = false;
+    Format format = Format::Table;
 };
 
-std::string localTimeOf(const std::optional<double> &coreDataSeconds)
+std::string localTimeOf(const std::optional<CoreDataTime> &time)
 {
-    return coreDataSeconds ? localTimeText(wholeSeconds(*coreDataSeconds) + coreDataEpoch) : "";
+    const auto unixTime = time ? unixTimeOf(*time) : std::nullopt;
+    return unixTime ? localTimeText(*unixTime) : "";
 }
 
 std::string withMore(const std::string &what, const std::string &more)
@@ -40,7 +42,8 @@ std::string schemaText(const Library &library)
     return withMore(library.schema().shownName, model ? translate("model {0}", *model) : "");
 }
 
-void printFacts(const Library &library, const Summary &summary, std::ostream &out)
+void printFacts(const Library &library, const Summary &summary, const Screen &screen,
+                std::ostream &out)
 {
     std::vector<std::string> labels;
     std::vector<std::string> facts;
@@ -58,15 +61,15 @@ void printFacts(const Library &library, const Summary &summary, std::ostream &ou
     if (schema.iosOrigin != DeviceOrigin::Schema) // which names it already
         add(translate("Build"), schema.iosBuild);
     add(translate("Schema"), schemaText(library));
-    add(translate("As of"), localTimeText(library.asOf().unixTime));
+    add(translate("As of"), localTimeText(library.asOf().time));
     add(translate("Albums"), std::to_string(library.albums().size()));
     add(translate("First taken"), localTimeOf(summary.firstCreated));
     add(translate("Last taken"), localTimeOf(summary.lastCreated));
     add(translate("Left out of the trash"), std::to_string(library.leftOut()));
-    printBlocks(out, labels, {facts}, screenOf(out));
+    printBlocks(out, labels, {facts}, screen);
 }
 
-void printCounts(const Summary &summary, std::ostream &out)
+void printCounts(const Summary &summary, const Screen &screen, std::ostream &out)
 {
     using Align = TextTable::Align;
     TextTable table({{translate("KIND")},
@@ -79,17 +82,17 @@ void printCounts(const Summary &summary, std::ostream &out)
     for (std::size_t i = 0; i < photoKinds().size(); ++i)
         if (summary.byKind[i].count > 0)
             add(translateTerm(photoKinds()[i].word), summary.byKind[i]);
-    table.print(out);
+    table.print(out, screen);
 }
 
-void printLog(const Library &library, std::ostream &out)
+void printLog(const Library &library, const Screen &screen, std::ostream &out)
 {
     if (!library.hasLog()) {
-        printParagraph(out, translate("There is no write-ahead log (-wal)."));
+        printParagraph(out, screen, translate("There is no write-ahead log (-wal)."));
         return;
     }
     if (library.logChanges().empty()) {
-        printParagraph(out,
+        printParagraph(out, screen,
                        translate("The write-ahead log (-wal) adds, removes and trashes no photo."));
         return;
     }
@@ -98,28 +101,31 @@ void printLog(const Library &library, std::ostream &out)
                      {translate("UUID")}});
     for (const LogChange &change : library.logChanges())
         table.add({translateTerm(machineName(change.kind)), change.path, change.uuid});
-    table.print(out);
+    table.print(out, screen);
 }
 
-ExitStatus showInfo(const InfoRequest &request, std::ostream &out)
+void printInfo(const Library &library, const Summary &summary, const Screen &screen,
+               std::ostream &out)
 {
-    const Library library(request.library);
-    library.sayHowItWasRead();
+    printFacts(library, summary, screen, out);
+    out << '\n';
+    printCounts(summary, screen, out);
+    out << '\n';
+    printLog(library, screen, out);
+}
+
+ExitStatus showInfo(const InfoRequest &request, Session &session, std::ostream &out)
+{
+    const Library library(session, request.library);
+    printHowItWasRead(session.terminal, library);
     const Summary summary = summaryOf(AssetList(library.albums()));
-    if (request.asJson) {
+    if (request.format == Format::JsonDocument)
         print(infoDocument(library, summary), out);
-        return library.status();
-    }
-    if (request.asJsonLine) {
+    else if (request.format == Format::JsonLines)
         out << oneLine(infoDocument(library, summary)) << '\n';
-        return library.status();
-    }
-    printFacts(library, summary, out);
-    out << '\n';
-    printCounts(summary, out);
-    out << '\n';
-    printLog(library, out);
-    return library.status();
+    else
+        printInfo(library, summary, session.terminal.screenOf(out), out);
+    return statusOf(library);
 }
 
 } // namespace
@@ -131,17 +137,18 @@ Command addInfo(CLI::App &app)
     CLI::App *command = app.add_subcommand(
         "info", translate("Show device, iOS, counts, and what the write-ahead log holds"));
     addLibraryOptions(*command, request->library);
-    CLI::Option *const json =
-        command->add_flag("--json", request->asJson, translate("print a JSON document"));
-    command
-        ->add_flag(
-            "--jsonl", request->asJsonLine,
-            translate("print the document as one line, to put those of many libraries together"))
+    CLI::Option *const json = addFormatFlag(*command, request->format, Format::JsonDocument,
+                                            translate("print a JSON document"));
+    addFormatFlag(*command, request->format, Format::JsonLines,
+                  translate("print the document as one line, to put those of many libraries "
+                            "together"))
         ->excludes(json);
     command->footer(
         helpFooter({examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),
                     exitCodesOfALibrary()}));
-    return {command, [request](std::ostream &out) { return showInfo(*request, out); }};
+    return {command, [request](Session &session, std::ostream &out) {
+                return showInfo(*request, session, out);
+            }};
 }
 
 } // namespace iosphoto::tool

@@ -17,9 +17,9 @@ Json counts(const Summary &summary)
     return counts;
 }
 
-Json timeOrNull(const std::optional<double> &coreDataSeconds)
+Json timeOrNull(const std::optional<CoreDataTime> &time)
 {
-    return coreDataSeconds ? utcTime(*coreDataSeconds) : Json();
+    return time ? tool::timeOrNull(*time) : Json();
 }
 
 Json logOrNull(const Library &library)

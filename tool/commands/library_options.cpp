@@ -16,7 +16,7 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
         .add_option_function<std::string>(
             "--as-of",
             [&request](const std::string &text) {
-                request.asOf = Moment{parseTime(text, "--as-of").first, ""};
+                request.asOf = Moment{timeOf(text, "--as-of").first, ""};
             },
             translate(
                 "the moment that counts as now, such as 2024-05-01 or now: what had been in the "

@@ -1,5 +1,6 @@
 #include "commands/option_values.h"
 
+#include "process/failure.h"
 #include "text/translate.h"
 
 #include <QRegularExpression>
@@ -15,6 +16,15 @@ CLI::Validator looksLike(const char *pattern, const std::string &example)
                            : translate("'{0}' should look like {1}", text, example);
             },
             std::string()};
+}
+
+TimeSpan timeOf(const std::string &text, const std::string &option)
+{
+    if (const auto span = parseTime(text))
+        return *span;
+    throw Failure(WrongUsage, translate("{0}: '{1}' is no time; write it like 2024-05-01, "
+                                        "'2024-05-01 12:30', 2024-05-01T12:30:00Z or now",
+                                        option, text));
 }
 
 CLI::Validator notEmpty()

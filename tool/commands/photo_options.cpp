@@ -1,27 +1,46 @@
 #include "commands/photo_options.h"
 
 #include "commands/option_values.h"
+#include "process/failure.h"
+#include "text/did_you_mean.h"
+#include "text/lists.h"
 #include "text/translate.h"
-
-#include <fmt/ranges.h>
 
 namespace iosphoto::tool {
 
 namespace {
+
+const PhotoKind &kindOf(const std::string &name)
+{
+    if (const PhotoKind *const kind = findKind(name))
+        return *kind;
+    const std::string small = QString::fromStdString(name).toLower().toStdString();
+    throw Failure(WrongUsage, translate("--kind: there is no kind '{0}'; there are {1}", name,
+                                        joinedTexts(kindNames(), ", ")) +
+                                  didYouMean(small, kindNames()));
+}
+
+PhotoOrder orderOf(const std::string &name)
+{
+    if (const auto order = orderNamed(name))
+        return *order;
+    throw Failure(WrongUsage, translate("--sort: there is no order '{0}'; there are {1}", name,
+                                        joinedTexts(orderNames(), ", ")));
+}
 
 void addTimes(CLI::App &command, PhotoFilter &filter)
 {
     command
         .add_option_function<std::string>(
             "--since",
-            [&filter](const std::string &text) { filter.since = parseTime(text, "--since").first; },
+            [&filter](const std::string &text) { filter.since = timeOf(text, "--since").first; },
             translate(
                 "only what was created then or later, such as 2024-05-01 or '2024-05-01 12:30'"))
         ->type_name(translate("TIME"));
     command
         .add_option_function<std::string>(
             "--until",
-            [&filter](const std::string &text) { filter.until = parseTime(text, "--until").last; },
+            [&filter](const std::string &text) { filter.until = timeOf(text, "--until").last; },
             translate("only what was created then or earlier; of a day, until its end"))
         ->type_name(translate("TIME"));
 }
@@ -30,12 +49,12 @@ void addKinds(CLI::App &command, PhotoFilter &filter)
 {
     const auto addKind = [&filter](const std::vector<std::string> &names) {
         for (const std::string &name : names)
-            filter.kinds.push_back(kindNamed(name));
+            filter.kinds.push_back(kindOf(name).test);
     };
     CLI::Option *const kinds = command.add_option_function<std::vector<std::string>>(
         "--kind", addKind,
         translate("only these kinds, such as live,burst; any of them fits. There are {0}",
-                  fmt::join(kindNames(), ", ")));
+                  joinedTexts(kindNames(), ", ")));
     takeCommaList(*kinds).type_name(translate("KINDS"));
 }
 
@@ -61,7 +80,7 @@ void addOrder(CLI::App &command, PhotoChoice &choice)
 {
     command
         .add_option_function<std::string>(
-            "--sort", [&choice](const std::string &name) { choice.order = orderNamed(name); },
+            "--sort", [&choice](const std::string &name) { choice.order = orderOf(name); },
             translate(
                 "sort by date (default: newest first), name, size, duration, added, modified or "
                 "deleted"))

@@ -1,10 +1,14 @@
+#include "catalogue/album_kinds.h"
 #include "commands/command.h"
 #include "commands/help.h"
+#include "commands/library_messages.h"
 #include "commands/library_options.h"
 #include "commands/photo_options.h"
 #include "commands/row_format_options.h"
+#include "process/failure.h"
 #include "rows/library_database.h"
-#include "terminal/messages.h"
+#include "rows/library_head.h"
+#include "text/lists.h"
 #include "text/numbers.h"
 #include "text/printable.h"
 #include "text/translate.h"
@@ -28,37 +32,56 @@ void printPhotos(RowStream<PhotoRow> stream, const std::vector<Asset> &photos,
     stream.end();
 }
 
-void sayThatThereAreNone(const AssetList &assets)
+/// The albums that are asked for, if one is.
+void checkAlbum(const PhotoFilter &filter, const Library &library, const Terminal &terminal)
+{
+    if (!filter.album)
+        return;
+    const std::vector<const CAlbumGroup *> albums = matchingAlbums(library, *filter.album);
+    if (albums.empty())
+        throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
+                                            *filter.album, library.name()));
+    if (albums.size() > 1)
+        terminal.printInfo(translate(
+            "'{0}' fits {1} albums, all are shown: {2}", *filter.album, albums.size(),
+            listForPeople(albums, [](const CAlbumGroup *album) { return shownName(*album); })));
+}
+
+void sayThatThereAreNone(const AssetList &assets, const Terminal &terminal)
 {
     const auto count = static_cast<std::int64_t>(assets.size());
     if (count == 0)
-        printInfo(counted(count, "the library holds {0} photo", "the library holds {0} photos"));
+        terminal.printInfo(
+            counted(count, "the library holds {0} photo", "the library holds {0} photos"));
     else
-        printWarning(counted(count, "the only photo does not fit; leave out an option to see it",
-                             "none of the {0} photos fits; leave out an option to see more"));
+        terminal.printWarning(
+            counted(count, "the only photo does not fit; leave out an option to see it",
+                    "none of the {0} photos fits; leave out an option to see more"));
 }
 
-ExitStatus showPhotos(const PhotosRequest &request, std::ostream &out)
+ExitStatus showPhotos(const PhotosRequest &request, Session &session, std::ostream &out)
 {
     const bool isTrash = request.choice.filter.isDeleted;
     const auto fields =
         fieldsToShow(isTrash ? photoFieldsOfTheTrash() : photoFields(), request.format);
-    const Library library(request.library);
+    const Library library(session, request.library);
+    checkAlbum(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());
     const std::vector<Asset> photos = choosePhotos(request.choice, library, assets);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
-    library.sayHowItWasRead();
+    printHowItWasRead(session.terminal, library);
     if (photos.empty())
-        sayThatThereAreNone(assets);
-    if (request.format.sqlite) {
-        writePhotoDatabase(*request.format.sqlite, library, photos, rows);
-        out << translate("wrote {0}", printable(*request.format.sqlite)) << '\n';
+        sayThatThereAreNone(assets, session.terminal);
+    if (request.format.format == Format::Sqlite) {
+        writePhotoDatabase(session.files, request.format.sqliteFile, library, photos, rows);
+        out << translate("wrote {0}", printable(request.format.sqliteFile)) << '\n';
     } else {
-        const auto writer = makeRowWriter(request.format, out);
-        printPhotos({*writer, {"photos", libraryHead(library)}, fields}, photos, rows);
+        const auto writer =
+            makeRowWriter(request.format.format, out, session.terminal.screenOf(out));
+        printPhotos({*writer, rowsHead("photos", library), fields}, photos, rows);
     }
-    return library.status();
+    return statusOf(library);
 }
 
 } // namespace
@@ -80,7 +103,9 @@ Command addPhotos(CLI::App &app)
                    "iosphoto photos Photos.sqlite --sort size --limit 20 --fields path,fileSize",
                    "iosphoto photos Photos.sqlite --frames --sqlite photos.db"}),
          exitCodesOfALibrary()}));
-    return {command, [request](std::ostream &out) { return showPhotos(*request, out); }};
+    return {command, [request](Session &session, std::ostream &out) {
+                return showPhotos(*request, session, out);
+            }};
 }
 
 } // namespace iosphoto::tool

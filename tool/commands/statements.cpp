@@ -2,12 +2,14 @@
 #include "commands/help.h"
 #include "commands/library_options.h"
 #include "commands/option_values.h"
+#include "commands/problem_words.h"
+#include "commands/row_format_options.h"
 #include "formats/versions.h"
 #include "schema/opened_copy.h"
 #include "statements/build_statements.h"
 #include "statements/usual_entity_numbers.h"
-#include "terminal/messages.h"
 #include "text/json.h"
+#include "text/lists.h"
 #include "text/printable.h"
 #include "text/translate.h"
 
@@ -21,7 +23,7 @@ struct StatementsRequest
 {
     std::string source; ///< empty for the usual numbers of the version
     Device device;
-    bool asJson = false;
+    Format format = Format::Table;
 };
 
 /// What the statements are for.
@@ -30,22 +32,18 @@ struct Target
     Device device;
     NumberSource numbers;
     std::string assumption; ///< what was filled in that nobody named; empty if nothing was
-    /// That version and schema disagree, and what of the source is missing.
-    std::vector<std::string> warnings;
-    bool isComplete = true;
+    std::optional<SchemaFinding> warning;
+    std::vector<SourceFinding> missing;
 };
 
-Target readTarget(const StatementsRequest &request)
+Target readTarget(const StatementsRequest &request, Session &session)
 {
-    const OpenedCopy copy(Source(request.source), request.device);
+    const OpenedCopy copy(session, Source(session, request.source), request.device);
     const ProbedSchema &schema = copy.schema();
-    Target target = {schema.device, {schema.numbers, true}, {}, copy.missing()};
-    target.isComplete = copy.missing().empty();
+    Target target = {schema.device, {schema.numbers, true}, {}, schema.warning, copy.missing()};
     if (schema.isAssumed())
         target.assumption =
             translate("filled in for {0} and {1}", schema.iosText(), schema.productText());
-    if (!schema.warning.empty())
-        target.warnings.insert(target.warnings.begin(), schema.warning);
     return target;
 }
 
@@ -62,10 +60,11 @@ Target usualTarget(const Device &wanted)
     Device device = wanted;
     if (device.productType.empty())
         device.productType = productThatHidesNoAlbum;
-    Target target = {device, {usualEntityNumbers(device.iosVersion), false}, {}, {}};
-    if (const std::string warning = warningOfNewer(device.iosVersion); !warning.empty())
-        target.warnings.push_back(warning);
-    return target;
+    return {device,
+            {usualEntityNumbers(device.iosVersion), false},
+            {},
+            warningOfNewer(device.iosVersion),
+            {}};
 }
 
 bool uses(const BuildStatement &statement, const EntityNumberName &name)
@@ -91,9 +90,9 @@ std::string origin(const Target &target, const std::vector<BuildStatement> &stat
 {
     if (target.numbers.areRead)
         return translate("the entity numbers are those of the database");
-    std::string placeholders;
-    for (const EntityNumberName *name : unknownNumbers(target, statements))
-        placeholders += (placeholders.empty() ? "" : ", ") + std::string(name->placeholder);
+    const std::string placeholders =
+        joinedTexts(unknownNumbers(target, statements), ", ",
+                    [](const EntityNumberName *name) { return name->placeholder; });
     if (placeholders.empty())
         return translate(
             "the entity numbers are those that databases of iOS {0} usually have; compare "
@@ -143,7 +142,7 @@ void printAsJson(const Target &target, const std::vector<BuildStatement> &statem
     Json document = {{"iosVersion", target.device.iosVersion},
                      {"productType", target.device.productType},
                      {"numbersAreRead", target.numbers.areRead},
-                     {"isComplete", target.isComplete}};
+                     {"isComplete", target.missing.empty()}};
     Json &entries = document["statements"] = Json::array();
     for (const BuildStatement &statement : statements) {
         Json numbers = Json::object();
@@ -159,19 +158,27 @@ void printAsJson(const Target &target, const std::vector<BuildStatement> &statem
     print(document, out);
 }
 
-ExitStatus showStatements(const StatementsRequest &request, std::ostream &out)
+void printHowTheyWereMade(const Terminal &terminal, const Target &target,
+                          const std::vector<BuildStatement> &statements)
+{
+    if (!target.numbers.areRead)
+        terminal.printInfo(origin(target, statements));
+    if (!target.assumption.empty())
+        terminal.printInfo(target.assumption);
+    if (target.warning)
+        terminal.printWarning(inWords(*target.warning).what());
+    for (const SourceFinding &finding : target.missing)
+        terminal.printWarning(inWords(finding).what());
+}
+
+ExitStatus showStatements(const StatementsRequest &request, Session &session, std::ostream &out)
 {
     const Target target =
-        request.source.empty() ? usualTarget(request.device) : readTarget(request);
+        request.source.empty() ? usualTarget(request.device) : readTarget(request, session);
     const std::vector<BuildStatement> statements = statementsOfBuild(target.device, target.numbers);
-    if (!target.numbers.areRead)
-        printInfo(origin(target, statements));
-    if (!target.assumption.empty())
-        printInfo(target.assumption);
-    for (const std::string &warning : target.warnings)
-        printWarning(warning);
-    (request.asJson ? printAsJson : printScript)(target, statements, out);
-    return target.isComplete ? Good : Incomplete;
+    printHowTheyWereMade(session.terminal, target, statements);
+    (request.format == Format::JsonDocument ? printAsJson : printScript)(target, statements, out);
+    return target.missing.empty() ? Good : Incomplete;
 }
 
 } // namespace
@@ -189,13 +196,16 @@ Command addStatements(CLI::App &app)
                       "is needed and the numbers are the usual ones"))
         ->check(notEmpty());
     addDeviceOptions(*command, request->device);
-    command->add_flag("--json", request->asJson, translate("print a JSON document"));
+    addFormatFlag(*command, request->format, Format::JsonDocument,
+                  translate("print a JSON document"));
     command->footer(
         helpFooter({examples({"iosphoto statements Photos.sqlite > passes.sql",
                               "sqlite3 -readonly Photos.sqlite < passes.sql",
                               "iosphoto statements --ios 17.4 --product iPhone14,2 --json"}),
                     exitCodesOfALibrary()}));
-    return {command, [request](std::ostream &out) { return showStatements(*request, out); }};
+    return {command, [request](Session &session, std::ostream &out) {
+                return showStatements(*request, session, out);
+            }};
 }
 
 } // namespace iosphoto::tool

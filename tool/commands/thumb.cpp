@@ -1,10 +1,8 @@
 #include "commands/command.h"
 #include "commands/help.h"
 #include "commands/option_values.h"
-#include "files/file_use_observer.h"
-#include "files/protected_sources.h"
+#include "commands/row_format_options.h"
 #include "process/failure.h"
-#include "terminal/messages.h"
 #include "terminal/paragraph.h"
 #include "terminal/text_table.h"
 #include "text/json.h"
@@ -31,17 +29,18 @@ struct ThumbRequest
     std::optional<std::string> sheet;  ///< draw all on a contact sheet
     std::optional<std::string> output; ///< there with index and all
     bool asPng = false;                ///< with `all`
-    bool asJson = false;
+    Format format = Format::Table;
 };
 
-void printList(const ThumbCache &cache, std::ostream &out)
+void printList(const ThumbCache &cache, const Screen &screen, std::ostream &out)
 {
     using Align = TextTable::Align;
-    printParagraph(out, counted(cache.recordCount(),
-                                "format {1}, {0} record of {2} bytes, {3} with a thumbnail",
-                                "format {1}, {0} records of {2} bytes, {3} with a thumbnail",
-                                cache.format().code, grouped(cache.format().recordSize),
-                                grouped(static_cast<int>(cache.thumbnails().size()))));
+    printParagraph(out, screen,
+                   counted(cache.recordCount(),
+                           "format {1}, {0} record of {2} bytes, {3} with a thumbnail",
+                           "format {1}, {0} records of {2} bytes, {3} with a thumbnail",
+                           cache.format().code, grouped(cache.format().recordSize),
+                           grouped(static_cast<int>(cache.thumbnails().size()))));
     out << '\n';
     TextTable table({{translate("INDEX"), Align::Right},
                      {translate("PIXELS"), Align::Right},
@@ -50,7 +49,7 @@ void printList(const ThumbCache &cache, std::ostream &out)
         table.add({std::to_string(thumbnail.index),
                    std::to_string(thumbnail.width) + "x" + std::to_string(thumbnail.height),
                    grouped(thumbnail.bytes)});
-    table.print(out);
+    table.print(out, screen);
 }
 
 void printWritten(const WrittenFiles &files, std::ostream &out)
@@ -91,34 +90,34 @@ void printAsJson(const ThumbCache &cache, const WrittenFiles &pictures, const Wr
     print(document, out);
 }
 
-WrittenFiles writePictures(const ThumbCache &cache, const ThumbRequest &request)
+WrittenFiles writePictures(Session &session, const ThumbCache &cache, const ThumbRequest &request)
 {
     if (request.index)
-        return exportOne(cache, cache.at(*request.index), *request.output);
-    return request.all ? exportAll(cache, *request.output, request.asPng) : WrittenFiles();
+        return exportOne(session, cache, cache.at(*request.index), *request.output);
+    return request.all ? exportAll(session, cache, *request.output, request.asPng) : WrittenFiles();
 }
 
-ExitStatus showThumbnails(const ThumbRequest &request, std::ostream &out)
+ExitStatus showThumbnails(const ThumbRequest &request, Session &session, std::ostream &out)
 {
     if (request.output && !request.index && !request.all)
         throw Failure(WrongUsage,
                       translate("--output requires --index or --all; see iosphoto --help"));
-    protectFiles({request.cache});
-    FileUseObserver::announceReading({request.cache});
+    session.files.protectFiles({request.cache});
+    session.files.willRead({request.cache});
     const ThumbCache cache(request.cache);
-    const WrittenFiles pictures = writePictures(cache, request);
+    const WrittenFiles pictures = writePictures(session, cache, request);
     const WrittenFiles sheets =
-        request.sheet ? exportSheets(cache, *request.sheet) : WrittenFiles();
-    if (request.asJson)
+        request.sheet ? exportSheets(session, cache, *request.sheet) : WrittenFiles();
+    if (request.format == Format::JsonDocument)
         printAsJson(cache, pictures, sheets, out);
     else if (pictures.empty() && sheets.empty())
-        printList(cache, out);
+        printList(cache, session.terminal.screenOf(out), out);
     else
         printWritten(request.sheet ? sheets : pictures, out);
     // Who asked for one thumbnail has all of it.
     if (request.index || cache.missing().empty())
         return Good;
-    printWarning(cache.missing());
+    session.terminal.printWarning(cache.missing());
     return Incomplete;
 }
 
@@ -163,7 +162,7 @@ Command addThumb(CLI::App &app)
     sheet->excludes(index, all, output);
     output->type_name(translate("FILE") + "|" + translate("FOLDER"))->check(notEmpty());
     sheet->type_name(translate("FILE"))->check(notEmpty());
-    thumb.add_flag("--json", request->asJson, translate("print a JSON document"));
+    addFormatFlag(thumb, request->format, Format::JsonDocument, translate("print a JSON document"));
     thumb.footer(helpFooter(
         {examples({"iosphoto thumb 120x120.ithmb",
                    "iosphoto thumb 120x120.ithmb --index 7 -o photo.png",
@@ -171,7 +170,9 @@ Command addThumb(CLI::App &app)
                    "iosphoto thumb 120x120.ithmb --sheet sheet.png"}),
          translate(
              "Exit: 0 good, 1 incomplete, 2 wrong usage, 3 or 4 unusable files; see the README")}));
-    return {&thumb, [request](std::ostream &out) { return showThumbnails(*request, out); }};
+    return {&thumb, [request](Session &session, std::ostream &out) {
+                return showThumbnails(*request, session, out);
+            }};
 }
 
 } // namespace iosphoto::tool

@@ -2,9 +2,7 @@
 
 #include "evidence/file_state.h"
 #include "files/output_file.h"
-#include "files/protected_sources.h"
 #include "process/failure.h"
-#include "terminal/messages.h"
 #include "text/translate.h"
 #include "time/time_text.h"
 
@@ -45,28 +43,28 @@ Json asJson(const InputFile &input)
 }
 
 /// What goes wrong here must not hide why the command failed.
-void finishAfterFailure(Evidence &evidence, ExitStatus status)
+void finishAfterFailure(const Terminal &terminal, Evidence &evidence, ExitStatus status)
 {
     try {
         if (std::cout)
             std::cout.flush();
         evidence.finish(status);
     } catch (const std::exception &failure) {
-        printWarning(failure.what());
+        terminal.printWarning(failure.what());
     }
 }
 
-int runAndFinish(Evidence &evidence, const std::function<int()> &command)
+int runAndFinish(const Terminal &terminal, Evidence &evidence, const std::function<int()> &command)
 {
     int status = Good;
     try {
         status = command();
         std::cout.flush();
     } catch (const Failure &failure) {
-        finishAfterFailure(evidence, failure.status());
+        finishAfterFailure(terminal, evidence, failure.status());
         throw;
     } catch (const std::exception &) {
-        finishAfterFailure(evidence, CannotAccess);
+        finishAfterFailure(terminal, evidence, CannotAccess);
         throw;
     }
     evidence.finish(status);
@@ -75,8 +73,8 @@ int runAndFinish(Evidence &evidence, const std::function<int()> &command)
 
 } // namespace
 
-Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
-    : file_(file), commandLine_(std::move(commandLine)), started_(utcNow())
+Evidence::Evidence(Session &session, const fs::path &file, std::vector<std::string> commandLine)
+    : session_(session), file_(file), commandLine_(std::move(commandLine)), started_(utcNow())
 {
     std::error_code ignored;
     if (fs::exists(file_, ignored))
@@ -85,6 +83,12 @@ Evidence::Evidence(const fs::path &file, std::vector<std::string> commandLine)
                                 "choose another name",
                                 file_.string()));
     requireWritable(file_);
+    session_.files.observe(this);
+}
+
+Evidence::~Evidence()
+{
+    session_.files.observe(nullptr);
 }
 
 void Evidence::addInputs(const std::vector<fs::path> &files)
@@ -96,16 +100,17 @@ void Evidence::addInputs(const std::vector<fs::path> &files)
         sources_.add(file);
     }
     requireOther(file_, sources_);
-    requireOutsideOfSources(file_);
-    HashingProgress progress(added);
+    requireUnprotected(session_.files, file_);
+    HashingProgress progress(session_.terminal, added);
     for (const fs::path &file : added)
         inputs_.push_back({file, stateOf(file, progress), std::nullopt});
 }
 
 void Evidence::finish(int exitStatus)
 {
-    stopObserving();
-    if (sources_.contains(file_) || isProtected(file_)) // which is why the command failed
+    session_.files.observe(nullptr);
+    if (sources_.contains(file_) ||
+        session_.files.isProtected(file_)) // which is why the command failed
         return;
     readInputsAgain();
     const auto changed =
@@ -115,7 +120,7 @@ void Evidence::finish(int exitStatus)
     const int status = isAllUnchanged || exitStatus > Incomplete ? exitStatus : CannotAccess;
     std::ostringstream text;
     print(document(status), text);
-    writeOutput(file_, QByteArray::fromStdString(text.str()), fs::path());
+    writeOutput(session_.files, file_, QByteArray::fromStdString(text.str()), fs::path());
     if (!isAllUnchanged)
         throw Failure(
             CannotAccess,
@@ -128,7 +133,7 @@ void Evidence::readInputsAgain()
     std::vector<fs::path> files;
     for (const InputFile &input : inputs_)
         files.push_back(input.path);
-    HashingProgress progress(files);
+    HashingProgress progress(session_.terminal, files);
     for (InputFile &input : inputs_)
         try {
             input.after = stateOf(input.path, progress);
@@ -156,7 +161,7 @@ void Evidence::wrote(const fs::path &file, const QByteArray &content)
 
 void Evidence::wroteWhole(const fs::path &file)
 {
-    HashingProgress progress({file});
+    HashingProgress progress(session_.terminal, {file});
     const FileState state = stateOf(file, progress);
     if (!state.size)
         throw Failure(CannotAccess,
@@ -196,13 +201,13 @@ Json Evidence::document(int exitStatus) const
     return document;
 }
 
-int withEvidence(const std::optional<std::string> &file,
+int withEvidence(Session &session, const std::optional<std::string> &file,
                  const std::vector<std::string> &commandLine, const std::function<int()> &command)
 {
     if (!file)
         return command();
-    Evidence evidence(*file, commandLine);
-    return runAndFinish(evidence, command);
+    Evidence evidence(session, *file, commandLine);
+    return runAndFinish(session.terminal, evidence, command);
 }
 
 } // namespace iosphoto::tool

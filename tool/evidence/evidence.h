@@ -4,7 +4,7 @@
 #include "evidence/file_state.h"
 #include "evidence/sha256.h"
 #include "files/file_set.h"
-#include "files/file_use_observer.h"
+#include "session/session.h"
 #include "text/json.h"
 
 #include <filesystem>
@@ -37,8 +37,11 @@ struct PrintedOutput
 class Evidence : private FileUseObserver
 {
 public:
-    /// Throws Failure when the file cannot be written.
-    Evidence(const std::filesystem::path &file, std::vector<std::string> commandLine);
+    /// Observes the files of the session while it lives. Throws Failure when the file cannot be
+    /// written.
+    Evidence(Session &session, const std::filesystem::path &file,
+             std::vector<std::string> commandLine);
+    ~Evidence() override;
 
     /// To be called before the command reads these; one may be missing, and has to stay so. Throws
     /// Failure when one cannot be read, or is the file of the evidence.
@@ -64,6 +67,7 @@ private:
     void readInputsAgain();
     Json document(int exitStatus) const;
 
+    Session &session_;
     std::filesystem::path file_;
     std::vector<std::string> commandLine_;
     std::string started_;
@@ -75,7 +79,7 @@ private:
 
 /// Runs a command and returns its exit status. Where a file for it is named, writes evidence, of a
 /// command that fails as well.
-int withEvidence(const std::optional<std::string> &file,
+int withEvidence(Session &session, const std::optional<std::string> &file,
                  const std::vector<std::string> &commandLine, const std::function<int()> &command);
 
 } // namespace iosphoto::tool

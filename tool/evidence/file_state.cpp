@@ -1,8 +1,8 @@
 #include "evidence/file_state.h"
 
 #include "evidence/sha256.h"
+#include "files/file_stamp.h"
 #include "files/source_file.h"
-#include "files/stat_times.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
@@ -108,12 +108,12 @@ FileState stateOf(const fs::path &file, HashingProgress &progress)
         throw Failure(CannotAccess,
                       translate("cannot read '{0}': it changed while it was read; copy it first",
                                 file.string()));
-    return {static_cast<std::uint64_t>(status->st_size), utcText(modifiedAt(*status)),
+    return {static_cast<std::uint64_t>(status->st_size), preciseTimeText(modifiedAt(*status)),
             hash.digits()};
 }
 
-HashingProgress::HashingProgress(const std::vector<fs::path> &files)
-    : total_(mebibytes(totalSize(files))), bar_(translate("hashing (MiB)"), total_)
+HashingProgress::HashingProgress(const Terminal &terminal, const std::vector<fs::path> &files)
+    : total_(mebibytes(totalSize(files))), bar_(terminal, translate("hashing (MiB)"), total_)
 {
 }
 

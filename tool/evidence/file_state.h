@@ -15,7 +15,7 @@ namespace iosphoto::tool {
 class HashingProgress
 {
 public:
-    explicit HashingProgress(const std::vector<std::filesystem::path> &files);
+    HashingProgress(const Terminal &terminal, const std::vector<std::filesystem::path> &files);
 
     /// Says that so many more bytes are hashed.
     void add(std::uint64_t bytes);

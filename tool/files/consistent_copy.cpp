@@ -1,8 +1,9 @@
 #include "files/consistent_copy.h"
 
+#include "files/file_stamp.h"
 #include "files/new_file.h"
+#include "files/private_folder.h"
 #include "files/source_file.h"
-#include "files/stat_times.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
@@ -10,7 +11,6 @@
 #include <algorithm>
 #include <chrono>
 #include <thread>
-#include <tuple>
 
 namespace iosphoto::tool {
 
@@ -21,12 +21,6 @@ namespace {
 /// The system notes the time of a change in steps of some milliseconds. Of a file that changed just
 /// now, the next change could have the same time and go unnoticed.
 constexpr std::chrono::milliseconds settlingTime(20);
-
-std::int64_t nanoseconds(const timespec &time)
-{
-    constexpr std::int64_t perSecond = 1'000'000'000;
-    return std::int64_t{time.tv_sec} * perSecond + time.tv_nsec;
-}
 
 void copyFile(const Copy &file)
 {
@@ -53,74 +47,52 @@ void copyFile(const Copy &file)
                       systemError(error.value())));
 }
 
-std::vector<FileStamp> statesOf(const std::vector<Copy> &files)
+std::vector<FileStamp> stampsOf(const std::vector<Copy> &files)
 {
-    std::vector<FileStamp> states;
-    states.reserve(files.size());
+    std::vector<FileStamp> stamps;
+    stamps.reserve(files.size());
     for (const Copy &file : files)
-        states.emplace_back(file.from);
-    return states;
+        stamps.emplace_back(file.from);
+    return stamps;
 }
 
-void copyExisting(const std::vector<Copy> &files, const std::vector<FileStamp> &states)
+void copyExisting(const std::vector<Copy> &files, const std::vector<FileStamp> &stamps)
 {
     for (std::size_t i = 0; i < files.size(); ++i) {
         std::error_code ignored;
         fs::remove(files[i].to, ignored); // of an earlier try
-        if (states[i].exists)
+        if (stamps[i].exists)
             copyFile(files[i]);
     }
 }
 
-bool changedJustNow(const std::vector<FileStamp> &states)
+bool changedJustNow(const std::vector<FileStamp> &stamps)
 {
     const std::chrono::nanoseconds now = std::chrono::system_clock::now().time_since_epoch();
-    return std::any_of(states.begin(), states.end(), [&](const FileStamp &state) {
-        const auto age = now - std::chrono::nanoseconds(state.changed);
-        return state.exists && age.count() >= 0 && age < settlingTime;
+    return std::any_of(stamps.begin(), stamps.end(), [&](const FileStamp &stamp) {
+        const auto age = now - std::chrono::nanoseconds(stamp.changed);
+        return stamp.exists && age.count() >= 0 && age < settlingTime;
     });
 }
 
 /// Whether the copies are of one moment.
 bool copyOnce(const std::vector<Copy> &files, const std::function<void()> &wait)
 {
-    if (changedJustNow(statesOf(files)))
+    if (changedJustNow(stampsOf(files)))
         wait();
-    const std::vector<FileStamp> before = statesOf(files);
+    const std::vector<FileStamp> before = stampsOf(files);
     if (changedJustNow(before))
         return false;
     try {
         copyExisting(files, before);
     } catch (const Failure &) {
-        if (statesOf(files) == before)
+        if (stampsOf(files) == before)
             throw;
     }
-    return statesOf(files) == before;
+    return stampsOf(files) == before;
 }
 
 } // namespace
-
-FileStamp::FileStamp(const fs::path &file)
-{
-    struct stat facts = {};
-    if (stat(file.c_str(), &facts) != 0)
-        return;
-    exists = true;
-    device = facts.st_dev;
-    inode = facts.st_ino;
-    size = facts.st_size;
-    modified = nanoseconds(modifiedAt(facts));
-    changed = nanoseconds(changedAt(facts));
-}
-
-bool FileStamp::operator==(const FileStamp &other) const
-{
-    const auto all = [](const FileStamp &state) {
-        return std::tie(state.exists, state.device, state.inode, state.size, state.modified,
-                        state.changed);
-    };
-    return all(*this) == all(other);
-}
 
 void waitUntilSettled()
 {

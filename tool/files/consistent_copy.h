@@ -1,27 +1,13 @@
 #ifndef IOSPHOTO_TOOL_CONSISTENT_COPY_H
 #define IOSPHOTO_TOOL_CONSISTENT_COPY_H
 
-#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <vector>
 
 namespace iosphoto::tool {
 
-/// What tells that a file was changed, replaced, made or removed.
-struct FileStamp
-{
-    explicit FileStamp(const std::filesystem::path &file);
-    bool operator==(const FileStamp &other) const;
-
-    bool exists = false;
-    std::uint64_t device = 0;
-    std::uint64_t inode = 0;
-    std::int64_t size = 0;
-    std::int64_t modified = 0; ///< nanoseconds since 1970
-    std::int64_t changed = 0;  ///< the same, of the facts about the file
-};
-
+/// A file, and where the copy of it goes.
 struct Copy
 {
     std::filesystem::path from;

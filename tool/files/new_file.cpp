@@ -1,5 +1,6 @@
 #include "files/new_file.h"
 
+#include "files/private_folder.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
@@ -12,17 +13,6 @@ namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-Failure cannotWrite(const fs::path &file, const std::string &reason)
-{
-    return {CannotAccess,
-            translate("cannot write '{0}': {1}; set TMPDIR to a folder with room for it",
-                      file.string(), reason)};
-}
-
-} // namespace
-
 NewFile::NewFile(fs::path path, std::optional<std::uint64_t> size)
     : path_(std::move(path)), size_(size)
 {
@@ -31,7 +21,7 @@ NewFile::NewFile(fs::path path, std::optional<std::uint64_t> size)
     std::error_code error;
     fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write, error);
     if (!out_ || error)
-        throw cannotWrite(path_, systemError(errno));
+        throw cannotWriteCopy(path_, systemError(errno));
 }
 
 void requireRoom(const fs::path &file, std::uint64_t bytes)
@@ -39,7 +29,7 @@ void requireRoom(const fs::path &file, std::uint64_t bytes)
     std::error_code error;
     const fs::space_info room = fs::space(file.parent_path(), error);
     if (!error && bytes > room.available)
-        throw cannotWrite(file, translate("{0} bytes are more than there is room for", bytes));
+        throw cannotWriteCopy(file, translate("{0} bytes are more than there is room for", bytes));
 }
 
 bool NewFile::append(std::string_view bytes)
@@ -49,7 +39,7 @@ bool NewFile::append(std::string_view bytes)
         return false;
     out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (!out_)
-        throw cannotWrite(path_, systemError(errno));
+        throw cannotWriteCopy(path_, systemError(errno));
     return true;
 }
 
@@ -57,11 +47,11 @@ void NewFile::close(std::int64_t modified)
 {
     out_.close();
     if (!out_)
-        throw cannotWrite(path_, systemError(errno));
+        throw cannotWriteCopy(path_, systemError(errno));
     const timespec time = {static_cast<time_t>(modified), 0};
     const timespec times[] = {time, time};
     if (utimensat(AT_FDCWD, path_.c_str(), times, 0) != 0)
-        throw cannotWrite(path_, systemError(errno));
+        throw cannotWriteCopy(path_, systemError(errno));
 }
 
 } // namespace iosphoto::tool

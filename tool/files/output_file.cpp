@@ -1,8 +1,6 @@
 #include "files/output_file.h"
 
 #include "files/atomic_file.h"
-#include "files/file_use_observer.h"
-#include "files/protected_sources.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
@@ -30,18 +28,24 @@ void requirePlaceForFile(const fs::path &file)
         throw cannotWrite(file, translate("it is not a file; name a file"));
 }
 
-} // namespace
-
-void refuseAsOutput(const fs::path &file)
+[[noreturn]] void refuseAsOutput(const fs::path &file)
 {
     throw Failure(WrongUsage, translate("'{0}' is the source, which is never changed; choose "
                                         "another place for the output",
                                         file.string()));
 }
 
+} // namespace
+
 void requireOther(const fs::path &file, const FileSet &sources)
 {
     if (sources.contains(file))
+        refuseAsOutput(file);
+}
+
+void requireUnprotected(const FileUse &files, const fs::path &file)
+{
+    if (files.isProtected(file))
         refuseAsOutput(file);
 }
 
@@ -51,23 +55,22 @@ void requireWritable(const fs::path &file)
     const AtomicFile attempt(targetOf(file));
 }
 
-fs::path outputPlace(const fs::path &file, const fs::path &source)
+fs::path outputPlace(FileUse &files, const fs::path &file, const fs::path &source)
 {
     requirePlaceForFile(file);
     requireOther(file, FileSet(source));
-    requireOutsideOfSources(file);
-    if (FileUseObserver *const observer = FileUseObserver::current())
-        observer->willWrite(file);
+    requireUnprotected(files, file);
+    files.willWrite(file);
     return targetOf(file);
 }
 
-void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
+void writeOutput(FileUse &files, const fs::path &file, const QByteArray &content,
+                 const fs::path &source)
 {
-    AtomicFile atomic(outputPlace(file, source));
+    AtomicFile atomic(outputPlace(files, file, source));
     atomic.write(content);
     atomic.finish();
-    if (FileUseObserver *const observer = FileUseObserver::current())
-        observer->wrote(file, content);
+    files.wrote(file, content);
 }
 
 void makeOutputFolder(const fs::path &folder)

@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_OUTPUT_FILE_H
 #define IOSPHOTO_TOOL_OUTPUT_FILE_H
 
-#include "files/file_set.h"
+#include "files/file_use.h"
 
 #include <QByteArray>
 
@@ -12,23 +12,24 @@ namespace iosphoto::tool {
 /// Writes a file whole or not at all: one that was there before is replaced at the end,
 /// keeping its rights; a link is followed.
 ///
-/// Throws Failure when it cannot be written, and when `file` is `source`, which is never changed.
-void writeOutput(const std::filesystem::path &file, const QByteArray &content,
+/// Throws Failure when it cannot be written, and when `file` is `source` or protected, which is
+/// never changed.
+void writeOutput(FileUse &files, const std::filesystem::path &file, const QByteArray &content,
                  const std::filesystem::path &source);
 
 /// Where the output `file` goes: itself, or what it links to. Throws Failure when it is a folder,
-/// not a file, or `source`.
-std::filesystem::path outputPlace(const std::filesystem::path &file,
+/// not a file, or `source` or protected.
+std::filesystem::path outputPlace(FileUse &files, const std::filesystem::path &file,
                                   const std::filesystem::path &source);
 
 /// Throws Failure where writeOutput() would, as far as can be told before.
 void requireWritable(const std::filesystem::path &file);
 
-/// Throws the Failure of an output that is a source.
-[[noreturn]] void refuseAsOutput(const std::filesystem::path &file);
-
 /// Throws Failure when an output `file` is one of the sources.
 void requireOther(const std::filesystem::path &file, const FileSet &sources);
+
+/// Throws Failure when an output `file` would change a source.
+void requireUnprotected(const FileUse &files, const std::filesystem::path &file);
 
 /// Makes a folder for output, with those above it. Throws Failure when that cannot be done.
 void makeOutputFolder(const std::filesystem::path &folder);

@@ -31,4 +31,18 @@ fs::path makePrivateFolder()
 
 PrivateFolder::PrivateFolder() : folder_(makePrivateFolder) {}
 
+Failure cannotWriteCopy(const fs::path &file, const std::string &reason)
+{
+    return {CannotAccess,
+            translate("cannot write '{0}': {1}; set TMPDIR to a folder with room for it",
+                      file.string(), reason)};
+}
+
+Failure cannotCopy(const fs::path &file, const fs::path &folder, const std::string &reason)
+{
+    return {CannotAccess,
+            translate("cannot copy '{0}' to '{1}': {2}; set TMPDIR to a folder with room for it",
+                      file.string(), folder.string(), reason)};
+}
+
 } // namespace iosphoto::tool

@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_PRIVATE_FOLDER_H
 #define IOSPHOTO_TOOL_PRIVATE_FOLDER_H
 
+#include "process/failure.h"
 #include "process/temporary_path.h"
 
 #include <filesystem>
@@ -22,6 +23,13 @@ public:
 private:
     TemporaryPath folder_;
 };
+
+/// Why a file cannot be written, or copied, to where temporary files go, and what to do.
+/// @{
+Failure cannotWriteCopy(const std::filesystem::path &file, const std::string &reason);
+Failure cannotCopy(const std::filesystem::path &file, const std::filesystem::path &folder,
+                   const std::string &reason);
+/// @}
 
 } // namespace iosphoto::tool
 

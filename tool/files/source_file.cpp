@@ -62,13 +62,4 @@ void requireReadable(const fs::path &file)
         throw mayNotRead(file, reason);
 }
 
-void requireNotLarger(const std::string &shownName, std::uint64_t bytes, std::uint64_t most)
-{
-    if (bytes > most)
-        throw cannotRead(shownName,
-                         translate("it is larger than {0} bytes, which no such file is; copy "
-                                   "the whole backup again",
-                                   most));
-}
-
 } // namespace iosphoto::tool

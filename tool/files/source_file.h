@@ -3,7 +3,6 @@
 
 #include "process/failure.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -19,9 +18,6 @@ std::filesystem::path sourceFile(const std::filesystem::path &path, const std::s
 
 /// Throws Failure when this user may not read the file.
 void requireReadable(const std::filesystem::path &file);
-
-/// Throws Failure when a file, with its name for messages, has more bytes than it can have.
-void requireNotLarger(const std::string &shownName, std::uint64_t bytes, std::uint64_t most);
 
 /// For a file or folder that the system keeps from us.
 Failure cannotRead(const std::filesystem::path &file, const std::string &reason);

@@ -1,7 +1,6 @@
 #include "formats/property_list.h"
 
 #include "formats/property_list_bounds.h"
-#include "model/core_data_time.h"
 
 #include <plist/plist.h>
 
@@ -85,16 +84,15 @@ std::optional<std::int64_t> PropertyList::integer(Keys keys) const
     return static_cast<std::int64_t>(value);
 }
 
-std::optional<std::int64_t> PropertyList::time(Keys keys) const
+std::optional<UnixTime> PropertyList::time(Keys keys) const
 {
-
     plist_t node = find(keys);
     if (plist_get_node_type(node) != PLIST_DATE)
         return std::nullopt;
     std::int32_t seconds = 0;
     std::int32_t ignored = 0;
     plist_get_date_val(node, &seconds, &ignored);
-    return coreDataEpoch + seconds;
+    return unixTimeOf(CoreDataTime{double(seconds)});
 }
 
 } // namespace iosphoto::tool

@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_PROPERTY_LIST_H
 #define IOSPHOTO_TOOL_PROPERTY_LIST_H
 
+#include "time/epochs.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <initializer_list>
@@ -30,8 +32,7 @@ public:
     /// Whether there is a true value, or a number that stands for one.
     bool isTrue(Keys keys) const;
     std::optional<std::int64_t> integer(Keys keys) const;
-    /// In seconds since 1970.
-    std::optional<std::int64_t> time(Keys keys) const;
+    std::optional<UnixTime> time(Keys keys) const;
 
 private:
     void *find(Keys keys) const;

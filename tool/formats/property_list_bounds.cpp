@@ -1,9 +1,13 @@
 #include "formats/property_list_bounds.h"
 
+#include "formats/big_endian.h"
+
 #include <QByteArray>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -75,14 +79,13 @@ public:
     }
 
 private:
-    /// A number of the file, the most significant byte first. Beyond the end are zeros.
+    /// A number of the file. Beyond the end are zeros.
     std::uint64_t number(std::uint64_t at, std::uint64_t bytes) const
     {
-        std::uint64_t value = 0;
-        for (std::uint64_t i = 0; i < bytes; ++i)
-            value = value << 8U |
-                    (at + i < content_.size() ? static_cast<unsigned char>(content_[at + i]) : 0U);
-        return value;
+        const std::string_view all(content_);
+        std::string digits(all.substr(std::min<std::uint64_t>(at, all.size()), bytes));
+        digits.resize(bytes, '\0');
+        return bigEndian(digits);
     }
 
     /// The size of a container: in its marker, or in a number behind it.

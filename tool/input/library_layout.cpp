@@ -14,7 +14,7 @@ std::optional<std::string> LoneDatabase::locate(const std::string &mediaPath) co
 
 std::optional<std::string> MediaFolder::locate(const std::string &mediaPath) const
 {
-    return joined(folder_, mediaPath);
+    return joinedPath(folder_, mediaPath);
 }
 
 } // namespace iosphoto::tool

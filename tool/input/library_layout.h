@@ -1,7 +1,9 @@
 #ifndef IOSPHOTO_TOOL_LIBRARY_LAYOUT_H
 #define IOSPHOTO_TOOL_LIBRARY_LAYOUT_H
 
-#include <cstdint>
+#include "input/source_problem.h"
+#include "time/epochs.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -51,10 +53,10 @@ public:
     virtual std::optional<std::string> locate(const std::string &mediaPath) const = 0;
 
     virtual std::optional<RecordedDevice> device() const { return std::nullopt; }
-    virtual std::optional<std::int64_t> backupDate() const { return std::nullopt; }
+    virtual std::optional<UnixTime> backupDate() const { return std::nullopt; }
 
-    /// What should be there and is not, in sentences for a person; mostly none.
-    virtual std::vector<std::string> missing() const { return {}; }
+    /// What should be there and is not; mostly nothing.
+    virtual std::vector<SourceFinding> missing() const { return {}; }
 
     /// The files, beside those of the library, that say all this.
     virtual std::vector<std::string> records() const { return {}; }

@@ -2,8 +2,6 @@
 
 #include "input/backup/backup.h"
 #include "input/library_layout.h"
-#include "process/failure.h"
-#include "text/translate.h"
 
 #include <algorithm>
 #include <iterator>
@@ -25,9 +23,6 @@ struct Find
 constexpr const char *mediaPlaces[] = {"", "private/var/mobile/Media", "var/mobile/Media",
                                        "mobile/Media", "Media"};
 
-/// After that many, it does not matter how many more there are.
-constexpr std::size_t mostFinds = 20;
-
 /// Databases of the system with the same name, such as that of photos which others sent.
 bool isOfSystem(const std::string &path)
 {
@@ -42,8 +37,8 @@ bool isInside(const std::string &path, const std::string &folder)
 std::optional<Find> libraryAt(const FileTree &tree, const std::string &folder)
 {
     for (const char *const place : mediaPlaces) {
-        const std::string media = joined(folder, place);
-        const std::string database = joined(media, databaseBelowMedia);
+        const std::string media = joinedPath(folder, place);
+        const std::string database = joinedPath(media, databaseBelowMedia);
         if (tree.find(database) && !isOfSystem(database))
             return Find{SourceKind::MediaFolder, media};
     }
@@ -60,7 +55,7 @@ std::vector<Find> librariesIn(const FileTree &tree)
                            [&](const Find &find) { return isInside(folder, find.path); });
     };
     for (const std::string &folder : tree.searchedFolders()) {
-        if (finds.size() > mostFinds)
+        if (finds.size() > SeveralLibraries::mostCounted)
             break;
         if (isInsideFind(folder))
             continue;
@@ -76,45 +71,33 @@ std::vector<Find> loneDatabasesIn(const FileTree &tree)
 {
     std::vector<std::string> paths;
     for (const std::string &folder : tree.searchedFolders())
-        if (std::string path = joined(folder, "Photos.sqlite"); tree.find(path))
+        if (std::string path = joinedPath(folder, "Photos.sqlite"); tree.find(path))
             paths.push_back(std::move(path));
     if (paths.empty())
         paths = tree.loneFiles();
     std::vector<Find> finds;
     for (const std::string &path : paths)
-        if (finds.size() <= mostFinds && !isOfSystem(path))
+        if (finds.size() <= SeveralLibraries::mostCounted && !isOfSystem(path))
             finds.push_back({SourceKind::Database, path});
     return finds;
 }
 
-std::string namesOf(const FileTree &tree, const std::vector<Find> &finds)
+SeveralLibraries several(const FileTree &tree, const std::string &shownName,
+                         const std::vector<Find> &finds)
 {
-    constexpr std::size_t mostNames = 5;
-    std::string names;
-    for (std::size_t i = 0; i < std::min(finds.size(), mostNames); ++i)
-        names +=
-            (names.empty() ? "" : translate(", ")) + translate("'{0}'", tree.shown(finds[i].path));
-    return finds.size() > mostNames ? translate("{0} and more", names) : names;
+    SeveralLibraries libraries = {shownName, true, tree.isArchive(), {}};
+    for (const Find &find : finds) {
+        libraries.areBackups = libraries.areBackups && find.kind == SourceKind::Backup;
+        libraries.names.push_back(tree.shown(find.path));
+    }
+    return libraries;
 }
 
-Failure tooMany(const FileTree &tree, const std::string &shownName, const std::vector<Find> &finds)
-{
-    const bool areBackups = std::all_of(finds.begin(), finds.end(), [](const Find &find) {
-        return find.kind == SourceKind::Backup;
-    });
-    std::string what = areBackups ? translate("{0} backups", finds.size())
-                                  : translate("{0} photo libraries", finds.size());
-    if (finds.size() > mostFinds)
-        what = translate("more than {0} libraries", mostFinds);
-    return {WrongUsage, translate("'{0}' holds {1}; {2}: {3}", shownName, what, tree.howToNameOne(),
-                                  namesOf(tree, finds))};
-}
-
-std::unique_ptr<LibraryLayout> layoutOf(const FileTree &tree, const Find &find)
+std::unique_ptr<LibraryLayout> layoutOf(Session &session, const FileTree &tree, const Find &find)
 {
     switch (find.kind) {
     case SourceKind::Backup:
-        return std::make_unique<Backup>(tree, find.path);
+        return std::make_unique<Backup>(session, tree, find.path);
     case SourceKind::MediaFolder:
         return std::make_unique<MediaFolder>(find.path);
     case SourceKind::Database:
@@ -125,20 +108,17 @@ std::unique_ptr<LibraryLayout> layoutOf(const FileTree &tree, const Find &find)
 
 } // namespace
 
-std::unique_ptr<LibraryLayout> findLibrary(const FileTree &tree, const std::string &shownName)
+std::unique_ptr<LibraryLayout> findLibrary(Session &session, const FileTree &tree,
+                                           const std::string &shownName)
 {
     std::vector<Find> finds = librariesIn(tree);
     if (finds.empty())
         finds = loneDatabasesIn(tree);
     if (finds.empty())
-        throw Failure(
-            WrongKindOfFile,
-            translate("'{0}' holds no photo library: neither {1}, such as in the Media folder "
-                      "of a phone, nor the Manifest.db of a backup; name another source",
-                      shownName, databaseBelowMedia));
+        throw SourceError(SourceProblem::NoLibrary, {shownName, databaseBelowMedia});
     if (finds.size() > 1)
-        throw tooMany(tree, shownName, finds);
-    return layoutOf(tree, finds.front());
+        throw several(tree, shownName, finds);
+    return layoutOf(session, tree, finds.front());
 }
 
 } // namespace iosphoto::tool

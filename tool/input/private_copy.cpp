@@ -7,10 +7,10 @@
 
 namespace iosphoto::tool {
 
-PrivateCopy::PrivateCopy(const Source &source)
+PrivateCopy::PrivateCopy(Session &session, const Source &source)
 {
-    source.announceReading();
-    const BusyLine busy(translate("copying the database"));
+    source.announceReading(session.files);
+    const BusyLine busy(session.terminal, translate("copying the database"));
     source.copyDatabaseTo(folder_.path());
     forgetSuperJournal(database());
 }
@@ -25,11 +25,6 @@ bool PrivateCopy::hasLog() const
 bool PrivateCopy::hasReadableLog() const
 {
     return isWriteAheadLog(log());
-}
-
-std::string adviceToCopyAgain()
-{
-    return translate("copy it from the device or the backup again, its -wal with it");
 }
 
 } // namespace iosphoto::tool

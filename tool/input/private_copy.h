@@ -3,6 +3,7 @@
 
 #include "files/private_folder.h"
 #include "input/source.h"
+#include "session/session.h"
 
 #include <string>
 
@@ -13,8 +14,8 @@ namespace iosphoto::tool {
 class PrivateCopy
 {
 public:
-    /// Throws Failure when something cannot be read or copied.
-    explicit PrivateCopy(const Source &source);
+    /// Throws when something cannot be read or copied.
+    PrivateCopy(Session &session, const Source &source);
 
     std::string database() const { return (folder_ / Source::databaseFile).string(); }
 
@@ -29,9 +30,6 @@ private:
 
     PrivateFolder folder_;
 };
-
-/// What to do when a database is damaged.
-std::string adviceToCopyAgain();
 
 } // namespace iosphoto::tool
 

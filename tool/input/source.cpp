@@ -1,7 +1,5 @@
 #include "input/source.h"
 
-#include "files/file_use_observer.h"
-#include "files/protected_sources.h"
 #include "files/source_file.h"
 #include "input/backup/backup.h"
 #include "input/backup/stored_names.h"
@@ -53,18 +51,18 @@ bool staysBelowMedia(const std::string &mediaPath)
 
 } // namespace
 
-Source::Source(const std::string &name) : name_(name), databaseName_(name)
+Source::Source(Session &session, const std::string &name) : name_(name), databaseName_(name)
 {
     folder_ = folderToSearch(resolved(name));
     if (folder_) {
-        search(std::make_unique<FolderTree>(*folder_));
+        search(session, std::make_unique<FolderTree>(*folder_));
         return;
     }
     const fs::path file = sourceFile(name, "");
     isArchive_ = tool::isArchive(file);
     if (isArchive_) {
-        const BusyLine busy(translate("reading the archive"));
-        search(std::make_unique<ArchiveTree>(file));
+        const BusyLine busy(session.terminal, translate("reading the archive"));
+        search(session, std::make_unique<ArchiveTree>(file));
         return;
     }
     // The files beside a database lie beside the target of a link.
@@ -72,16 +70,16 @@ Source::Source(const std::string &name) : name_(name), databaseName_(name)
     layout_ = std::make_unique<LoneDatabase>(file.filename().string());
 }
 
-void Source::search(std::unique_ptr<FileTree> tree)
+void Source::search(Session &session, std::unique_ptr<FileTree> tree)
 {
     tree_ = std::move(tree);
-    layout_ = findLibrary(*tree_, name_);
+    layout_ = findLibrary(session, *tree_, name_);
     databaseName_ = tree_->shown(databaseFiles().front().path);
 }
 
-std::int64_t Source::lastChange() const
+UnixTime Source::lastChange() const
 {
-    std::int64_t last = 0;
+    UnixTime last;
     for (const char *const suffix : {"", "-wal"})
         if (const auto facts = find(std::string(databaseBelowMedia) + suffix))
             last = std::max(last, facts->modified);
@@ -101,15 +99,15 @@ std::vector<fs::path> Source::inputs() const
     return files;
 }
 
-void Source::announceReading() const
+void Source::announceReading(FileUse &fileUse) const
 {
     if (folder_)
-        protectFolder(*folder_);
+        fileUse.protectFolder(*folder_);
     const std::vector<fs::path> files = inputs();
-    protectFiles(files);
+    fileUse.protectFiles(files);
     const std::string database = tree_->onDisk(databaseFiles().front().path).string();
-    protectFiles({database + "-wal", database + "-journal", database + "-shm"});
-    FileUseObserver::announceReading(files);
+    fileUse.protectFiles({database + "-wal", database + "-journal", database + "-shm"});
+    fileUse.willRead(files);
 }
 
 std::vector<FileToCopy> Source::databaseFiles() const
@@ -128,7 +126,7 @@ void Source::copyDatabaseTo(const fs::path &folder) const
         file.target = folder / file.target;
     tree_->copyOut(files);
     if (!fs::exists(folder / databaseFile))
-        throw cannotRead(databaseName_, translate("it is not there any more; check the path"));
+        throw SourceError(SourceProblem::VanishedDatabase, {databaseName_});
 }
 
 std::optional<std::string> Source::locate(const std::string &mediaPath) const

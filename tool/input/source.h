@@ -3,6 +3,7 @@
 
 #include "input/library_layout.h"
 #include "input/tree/file_tree.h"
+#include "session/session.h"
 
 #include <filesystem>
 #include <memory>
@@ -20,8 +21,8 @@ public:
     /// The name of the database in copyDatabaseTo().
     static constexpr const char *databaseFile = "Photos.sqlite";
 
-    /// Finds out what it is. Throws Failure when that is nothing to read a library from.
-    explicit Source(const std::string &name);
+    /// Finds out what it is. Throws when that is nothing to read a library from.
+    Source(Session &session, const std::string &name);
 
     /// As the user named it.
     const std::string &name() const { return name_; }
@@ -30,24 +31,23 @@ public:
 
     /// The device that the source says it comes from.
     std::optional<RecordedDevice> device() const { return layout_->device(); }
-    /// In seconds since 1970.
-    std::optional<std::int64_t> backupDate() const { return layout_->backupDate(); }
+    std::optional<UnixTime> backupDate() const { return layout_->backupDate(); }
 
     /// The database as messages name it; in an archive its path there follows that of the archive.
     const std::string &databaseName() const { return databaseName_; }
-    /// When the database or its log was last written, in seconds since 1970.
-    std::int64_t lastChange() const;
-    /// What should be there and is not, as sentences; mostly none.
-    std::vector<std::string> missing() const { return layout_->missing(); }
+    /// When the database or its log was last written.
+    UnixTime lastChange() const;
+    /// What should be there and is not; mostly nothing.
+    std::vector<SourceFinding> missing() const { return layout_->missing(); }
     /// The files on disk that are read to read the library, or would be if they were there, as a
     /// write-ahead log; for an archive the archive.
     std::vector<std::filesystem::path> inputs() const;
 
     /// Tells that these are read, and keeps outputs away from the source.
-    void announceReading() const;
+    void announceReading(FileUse &fileUse) const;
 
     /// Puts the database there, with the write-ahead log and journal that belong to it. Throws
-    /// Failure when one cannot be read, or changes all the time.
+    /// when one cannot be read, or changes all the time.
     void copyDatabaseTo(const std::filesystem::path &folder) const;
 
     /// A file by its path below Media, such as "DCIM/100APPLE/IMG_0001.JPG"; nothing when the
@@ -59,7 +59,7 @@ public:
     void copyOut(const std::vector<FileToCopy> &files) const;
 
 private:
-    void search(std::unique_ptr<FileTree> tree);
+    void search(Session &session, std::unique_ptr<FileTree> tree);
     std::optional<std::string> locate(const std::string &mediaPath) const;
     /// Database, log and journal, as far as the source has a place for them.
     std::vector<FileToCopy> databaseFiles() const;

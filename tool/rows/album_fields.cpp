@@ -3,7 +3,6 @@
 #include "catalogue/album_kinds.h"
 #include "rows/values.h"
 #include "text/translate.h"
-#include "time/time_text.h"
 
 #include <limits>
 
@@ -49,9 +48,13 @@ std::vector<Field<Row>> facts()
         {{"bytes", Type::Bytes, translate("SIZE")},
          [](const Row &row) { return number(row.bytes); }},
         {{"firstCreated", Type::Time},
-         [](const Row &row) { return row.first ? utcTimeValue(row.first->createdTime) : Value(); }},
+         [](const Row &row) {
+             return row.first ? timeValue(CoreDataTime{row.first->createdTime}) : Value();
+         }},
         {{"lastCreated", Type::Time},
-         [](const Row &row) { return row.last ? utcTimeValue(row.last->createdTime) : Value(); }},
+         [](const Row &row) {
+             return row.last ? timeValue(CoreDataTime{row.last->createdTime}) : Value();
+         }},
         {{"isSmart", Type::Flag}, [](const Row &row) { return Value(row.album.isSmartAlbum); }},
         {{"collectsFromAlbums", Type::Flag},
          [](const Row &row) { return Value(collectsFromAlbums(row.album)); }},
@@ -82,7 +85,7 @@ AlbumRow::AlbumRow(const CAlbumGroup &group) : album(group)
     for (const CPhotoData *photo : group.photos) {
         if (__builtin_add_overflow(bytes, photo->fileSize, &bytes)) // a database can claim anything
             bytes = std::numeric_limits<std::int64_t>::max();
-        if (!isOfTheCalendar(photo->createdTime))
+        if (!isOfTheCalendar(CoreDataTime{photo->createdTime}))
             continue;
         if (first == nullptr || photo->createdTime < first->createdTime)
             first = photo;

@@ -31,7 +31,7 @@ struct AppendValue
             append(number);
     }
     void operator()(const std::string &text) const { appendCsvCell(line, text); }
-    void operator()(UtcTime time) const { line += utcTimeText(time.unixTime); }
+    void operator()(UnixTime time) const { line += utcTimeText(time); }
     void operator()(const Items &items) const
     {
         std::string cell;

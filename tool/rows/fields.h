@@ -9,8 +9,14 @@
 
 namespace iosphoto::tool {
 
-/// Where in `all` the `chosen` keys are, each once. Throws Failure when one is unknown, naming
-/// those that are known.
+/// That somebody chose a field that rows do not have.
+struct UnknownField
+{
+    std::string key;
+    std::vector<std::string> known;
+};
+
+/// Where in `all` the `chosen` keys are, each once. Throws UnknownField when one is unknown.
 std::vector<std::size_t> placesOfKeys(const std::vector<std::string> &all,
                                       const std::vector<std::string> &chosen);
 
@@ -52,7 +58,7 @@ std::vector<std::string> keysOf(const FieldTable<Row> &table)
     return keys;
 }
 
-/// The fields of these keys in their order. Throws Failure when one is unknown.
+/// The fields of these keys in their order. Throws UnknownField when one is unknown.
 template <typename Row>
 std::vector<Field<Row>> fieldsOfKeys(const FieldTable<Row> &table,
                                      const std::vector<std::string> &keys)
@@ -64,13 +70,13 @@ std::vector<Field<Row>> fieldsOfKeys(const FieldTable<Row> &table,
 }
 
 /// The fields that are to be shown: the chosen ones, or the usual ones of the format. Throws
-/// Failure when one is unknown.
+/// UnknownField when one is unknown.
 template <typename Row>
 std::vector<Field<Row>> fieldsToShow(const FieldTable<Row> &table, const RowFormat &format)
 {
     if (!format.fields.empty())
         return fieldsOfKeys(table, format.fields);
-    return format.isTable() ? fieldsOfKeys(table, table.inTables) : factsOf(table);
+    return format.format == Format::Table ? fieldsOfKeys(table, table.inTables) : factsOf(table);
 }
 
 /// Turns rows of one kind into the values that a writer takes.

@@ -1,6 +1,7 @@
 #include "rows/library_database.h"
 
 #include "rows/album_fields.h"
+#include "rows/library_head.h"
 #include "rows/sqlite_output.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace {
 void writeAlbums(SqliteOutput &output, const Library &library)
 {
     SqliteRows writer(output, "index");
-    RowStream<AlbumRow> stream(writer, {"albums", {}}, factsOf(albumFields()));
+    RowStream<AlbumRow> stream(writer, {"albums", {}, {}}, factsOf(albumFields()));
     for (const CAlbumGroup &album : library.albums())
         stream.write(AlbumRow(album));
     stream.end();
@@ -32,7 +33,7 @@ std::vector<Field<PhotoRow>> photoColumns()
 void writePhotos(SqliteOutput &output, const std::vector<Asset> &photos, const PhotoRows &rows)
 {
     SqliteRows writer(output);
-    RowStream<PhotoRow> stream(writer, {"photos", {}}, photoColumns());
+    RowStream<PhotoRow> stream(writer, {"photos", {}, {}}, photoColumns());
     for (const Asset &photo : photos)
         stream.write(rows.of(photo));
     stream.end();
@@ -60,17 +61,17 @@ void writeAppearances(SqliteOutput &output, const std::vector<Asset> &photos)
 
 } // namespace
 
-void writeAlbumDatabase(const std::string &file, const Library &library)
+void writeAlbumDatabase(FileUse &files, const std::string &file, const Library &library)
 {
-    SqliteOutput output(file, library.name(), libraryHead(library));
+    SqliteOutput output(files, file, library.name(), libraryHead(library));
     writeAlbums(output, library);
     output.finish();
 }
 
-void writePhotoDatabase(const std::string &file, const Library &library,
+void writePhotoDatabase(FileUse &files, const std::string &file, const Library &library,
                         const std::vector<Asset> &photos, const PhotoRows &rows)
 {
-    SqliteOutput output(file, library.name(), libraryHead(library));
+    SqliteOutput output(files, file, library.name(), libraryHead(library));
     writeAlbums(output, library);
     writePhotos(output, photos, rows);
     writeAppearances(output, photos);

@@ -1,6 +1,7 @@
 #include "rows/library_head.h"
 
 #include "catalogue/album_kinds.h"
+#include "time/time_text.h"
 
 namespace iosphoto::tool {
 
@@ -19,9 +20,9 @@ Json libraryHead(const Library &library)
             {"productTypeFrom", machineName(schema.productOrigin)},
             {"schema", schema.name},
             {"modelVersion", model ? Json(*model) : Json()},
-            {"asOf", textOrNull(utcTimeText(library.asOf().unixTime))},
+            {"asOf", textOrNull(utcTimeText(library.asOf().time))},
             {"leftOut", library.leftOut()},
-            {"isComplete", library.status() == Good}};
+            {"isComplete", library.isComplete()}};
 }
 
 Json albumReference(const CAlbumGroup &album)
@@ -34,9 +35,14 @@ Json albumReference(const CAlbumGroup &album)
             {"uuid", textOrNull(album.albumUuid)}};
 }
 
-Json utcTime(double coreDataSeconds)
+RowsHead rowsHead(const std::string &rows, const Library &library)
 {
-    return textOrNull(utcTimeOf(coreDataSeconds));
+    return {rows, libraryHead(library), {{"source", library.name()}}};
+}
+
+Json timeOrNull(CoreDataTime time)
+{
+    return textOrNull(utcTimeText(time));
 }
 
 } // namespace iosphoto::tool

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_LIBRARY_HEAD_H
 
 #include "catalogue/library.h"
+#include "rows/row_writer.h"
 #include "text/json.h"
 
 namespace iosphoto::tool {
@@ -9,11 +10,15 @@ namespace iosphoto::tool {
 /// What every document of a library begins with: the source, and as what and when it was read.
 Json libraryHead(const Library &library);
 
+/// The same for rows of a library.
+/// @param rows  what they are, such as "photos"
+RowsHead rowsHead(const std::string &rows, const Library &library);
+
 /// What names an album wherever one is mentioned.
 Json albumReference(const CAlbumGroup &album);
 
-/// A time of the database as "2020-01-06T10:40:00Z"; null beyond the year 9999.
-Json utcTime(double coreDataSeconds);
+/// "2020-01-06T10:40:00Z"; null beyond the years 1 to 9999.
+Json timeOrNull(CoreDataTime time);
 
 } // namespace iosphoto::tool
 

@@ -5,7 +5,9 @@
 #include "rows/library_head.h"
 #include "rows/values.h"
 #include "text/json.h"
+#include "text/lists.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <cmath>
 #include <iterator>
@@ -68,18 +70,19 @@ std::vector<Field<Row>> fieldsOfTimes()
 {
     return {
         {{"created", Type::Time, translate("TAKEN")},
-         [](const Row &row) { return utcTimeValue(row.facts.createdTime); }},
+         [](const Row &row) { return timeValue(CoreDataTime{row.facts.createdTime}); }},
         {{"modified", Type::Time},
-         [](const Row &row) { return utcTimeValue(row.facts.modifiedTime); }},
-        {{"added", Type::Time}, [](const Row &row) { return utcTimeValue(row.facts.addedTime); }},
+         [](const Row &row) { return timeValue(CoreDataTime{row.facts.modifiedTime}); }},
+        {{"added", Type::Time},
+         [](const Row &row) { return timeValue(CoreDataTime{row.facts.addedTime}); }},
         {{"createdSince2001", Type::Real},
          [](const Row &row) { return Value(row.facts.createdTime); }},
         {{"localDay", Type::Text, translate("DAY")},
          [](const Row &row) { return localDayValue(row.facts); }},
         {{"trashed", Type::Time},
-         [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->trashed}) : Value(); }},
+         [](const Row &row) { return row.trash ? Value(row.trash->trashed) : Value(); }},
         {{"goes", Type::Time, translate("GOES")},
-         [](const Row &row) { return row.trash ? Value(UtcTime{row.trash->goes}) : Value(); }},
+         [](const Row &row) { return row.trash ? Value(row.trash->goes) : Value(); }},
         {{"daysLeft", Type::Number, translate("DAYS LEFT")},
          [](const Row &row) { return row.trash ? number(row.trash->daysLeft) : Value(); }},
     };
@@ -135,13 +138,13 @@ std::string wordOrStay(const Trait &trait, const PhotoRow &row)
 }
 
 template <typename WordFor>
-std::string joinedWords(const PhotoRow &row, WordFor wordFor)
+std::string wordsFor(const PhotoRow &row, WordFor wordFor)
 {
-    std::string words;
+    std::vector<std::string> words;
     for (const Trait &trait : traits)
         if (const std::string word = wordFor(trait, row); !word.empty())
-            words += (words.empty() ? "" : translate(", ")) + word;
-    return words;
+            words.push_back(word);
+    return listForPeople(words);
 }
 
 /// "4032x3024"
@@ -154,13 +157,13 @@ std::string pixelsOf(const CPhotoData &photo)
 /// 2024-05-03", in the user's language.
 std::string wordsFor(const PhotoRow &row)
 {
-    return joinedWords(row, wordOrStay);
+    return wordsFor(row, wordOrStay);
 }
 
 /// The same without its stay in the trash: "favorite, deleted".
 std::string kindsOf(const PhotoRow &row)
 {
-    return joinedWords(row, wordsForTrait);
+    return wordsFor(row, wordsForTrait);
 }
 
 std::vector<Field<Row>> viewsForPeople()
@@ -212,8 +215,13 @@ Items AlbumItems::of(const Asset &asset) const
 {
     Items items;
     for (const CAlbumGroup *album : asset.albums())
-        items.push_back(&items_[static_cast<std::size_t>(album - catalogue_.data())]);
+        items.push_back(of(*album));
     return items;
+}
+
+const ListItem *AlbumItems::of(const CAlbumGroup &album) const
+{
+    return &items_[static_cast<std::size_t>(&album - catalogue_.data())];
 }
 
 } // namespace iosphoto::tool

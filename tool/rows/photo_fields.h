@@ -3,7 +3,8 @@
 
 #include "catalogue/assets.h"
 #include "catalogue/burst_frames.h"
-#include "catalogue/trash_stay.h"
+#include "catalogue/library.h"
+#include "catalogue/trash.h"
 #include "rows/fields.h"
 #include "rows/values.h"
 
@@ -18,6 +19,7 @@ public:
 
     /// The albums that show an asset, each once.
     Items of(const Asset &asset) const;
+    const ListItem *of(const CAlbumGroup &album) const;
 
 private:
     const std::vector<CAlbumGroup> &catalogue_;
@@ -46,7 +48,7 @@ public:
 
     PhotoRow of(const Asset &asset) const
     {
-        return {asset, asset.facts(), trashStay(library_, asset), bursts_.count(asset),
+        return {asset, asset.facts(), library_.trash().stayOf(asset), bursts_.count(asset),
                 albums_.of(asset)};
     }
 

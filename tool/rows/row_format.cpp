@@ -6,15 +6,20 @@
 
 namespace iosphoto::tool {
 
-std::unique_ptr<RowWriter> makeRowWriter(const RowFormat &format, std::ostream &out)
+std::unique_ptr<RowWriter> makeRowWriter(Format format, std::ostream &out, const Screen &screen)
 {
-    if (format.json)
+    switch (format) {
+    case Format::JsonDocument:
         return std::make_unique<JsonWriter>(out);
-    if (format.jsonLines)
+    case Format::JsonLines:
         return std::make_unique<JsonLinesWriter>(out);
-    if (format.csv)
+    case Format::Csv:
         return std::make_unique<CsvWriter>(out);
-    return std::make_unique<TableWriter>(out);
+    case Format::Table:
+    case Format::Sqlite:
+        break;
+    }
+    return std::make_unique<TableWriter>(out, screen);
 }
 
 } // namespace iosphoto::tool

@@ -11,20 +11,19 @@
 
 namespace iosphoto::tool {
 
-/// How rows are asked to be written: in at most one of the formats, otherwise as a table.
+enum class Format { Table, JsonDocument, JsonLines, Csv, Sqlite };
+
+/// How rows are asked to be written.
 struct RowFormat
 {
-    bool json = false;
-    bool jsonLines = false;
-    bool csv = false;
-    std::optional<std::string> sqlite; ///< the file to write
-    std::vector<std::string> fields;   ///< keys; empty: the usual ones of the format
-
-    bool isTable() const { return !json && !jsonLines && !csv && !sqlite; }
+    Format format = Format::Table;
+    std::string sqliteFile;          ///< the file to write as Format::Sqlite
+    std::vector<std::string> fields; ///< keys; empty: the usual ones of the format
 };
 
-/// A writer of any format but SQLite.
-std::unique_ptr<RowWriter> makeRowWriter(const RowFormat &format, std::ostream &out);
+/// A writer of any format but SQLite, which is no stream.
+/// @param screen  that `out` is shown on
+std::unique_ptr<RowWriter> makeRowWriter(Format format, std::ostream &out, const Screen &screen);
 
 } // namespace iosphoto::tool
 

@@ -1,7 +1,6 @@
 #ifndef IOSPHOTO_TOOL_ROW_WRITER_H
 #define IOSPHOTO_TOOL_ROW_WRITER_H
 
-#include "rows/library_head.h"
 #include "rows/values.h"
 #include "terminal/text_table.h"
 #include "text/json.h"
@@ -23,6 +22,8 @@ constexpr Align alignmentOf(Type type)
     return isNumber ? Align::Right : Align::Left;
 }
 
+/// What the values of a field are. In JSON, fields whose keys begin with the same word and a dot,
+/// such as "before.width", are members of one object, which is null where all of them are.
 struct Column
 {
     Column(std::string itsKey, Type itsType, std::string itsHeading = "")
@@ -35,19 +36,26 @@ struct Column
     {
     }
 
+    /// What stands before the dot of the key and behind it; without a dot, nothing and the key.
+    std::string group() const { return hasGroup() ? key.substr(0, dot_) : ""; }
+    std::string member() const { return hasGroup() ? key.substr(dot_ + 1) : key; }
+    bool hasGroup() const { return dot_ != std::string::npos; }
+
     std::string key; ///< for machines
     Type type;
     std::string heading; ///< in tables; the key unless a word of the user's language stands there
     Align align;
+
+private:
+    std::size_t dot_ = key.find('.');
 };
 
 /// What is said once for all rows.
 struct RowsHead
 {
     std::string rows; ///< what the rows are, such as "photos"
-    Json document;    ///< an object; see libraryHead()
-    /// The members of it that make a row stand for itself where rows of several runs are mixed.
-    std::vector<std::string> ofEachLine = {"source"};
+    Json document;    ///< an object, for documents
+    Json ofEachLine;  ///< likewise: what makes a row stand for itself where several runs are mixed
 };
 
 /// Writes rows in one format as they come, without keeping them; only tables, which are aligned,

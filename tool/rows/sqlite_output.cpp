@@ -1,15 +1,12 @@
 #include "rows/sqlite_output.h"
 
-#include "files/file_use_observer.h"
 #include "files/output_file.h"
-#include "process/failure.h"
+#include "formats/big_endian.h"
 #include "sqlite/sqlite_error.h"
 #include "text/printable.h"
-#include "text/translate.h"
 #include "time/time_text.h"
 
 #include <algorithm>
-#include <array>
 #include <fstream>
 #include <string>
 
@@ -19,20 +16,32 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// SQLite's application_id of the databases that the tool writes: "iPho".
+constexpr std::int32_t ownApplicationId = 0x6950686F;
+
 /// Reads the header of a SQLite file: nothing is opened that could lock or change it.
 bool isOwn(const fs::path &file)
 {
-    constexpr std::size_t idOffset = 68;
-    std::array<char, idOffset + 4> header = {};
+    constexpr std::size_t idAt = 68;
+    constexpr std::size_t idSize = 4;
+    std::string header(idAt + idSize, '\0');
     std::ifstream in(file, std::ios::binary);
-    if (!in.read(header.data(), header.size()))
+    if (!in.read(header.data(), static_cast<std::streamsize>(header.size())))
         return false;
-    std::uint32_t id = 0;
-    for (std::size_t i = idOffset; i < header.size(); ++i)
-        id = id << 8 | static_cast<unsigned char>(header.at(i));
     const std::string magic("SQLite format 3\0", 16);
-    return magic.compare(0, magic.size(), header.data(), magic.size()) == 0 &&
-           id == std::uint32_t(ownApplicationId);
+    return header.compare(0, magic.size(), magic) == 0 &&
+           bigEndian(std::string_view(header).substr(idAt, idSize)) == ownApplicationId;
+}
+
+/// Nobody is to lose a file that the tool did not write, or one that is in use.
+void requireReplaceable(const fs::path &file)
+{
+    std::error_code ignored;
+    for (const char *suffix : {"-wal", "-journal"})
+        if (const fs::path log = file.string() + suffix; fs::exists(log, ignored))
+            throw OutputError(OutputProblem::InUse, {file.string(), log.string()});
+    if (fs::exists(file, ignored) && !isOwn(file))
+        throw OutputError(OutputProblem::NotOurs, {file.string()});
 }
 
 /// Binds a value to a place of a statement. Text is not copied, so it stays until the step.
@@ -53,9 +62,9 @@ struct Bind
             made = asUtf8(text);
         bindText(isWhole ? text : made);
     }
-    void operator()(UtcTime time) const
+    void operator()(UnixTime time) const
     {
-        made = utcTimeText(time.unixTime);
+        made = utcTimeText(time);
         made.empty() ? (*this)(std::monostate()) : bindText(made);
     }
     void operator()(const Items &items) const
@@ -98,11 +107,12 @@ std::string quotedName(const std::string &name)
     return quoted + "\"";
 }
 
-SqliteOutput::SqliteOutput(const fs::path &file, const fs::path &source, const Json &head)
-    : shownFile_(file)
+SqliteOutput::SqliteOutput(FileUse &files, const fs::path &file, const fs::path &source,
+                           const Json &head)
+    : fileUse_(files), shownFile_(file)
 {
-    const fs::path place = outputPlace(file, source);
-    checkMayReplace(place);
+    const fs::path place = outputPlace(files, file, source);
+    requireReplaceable(place);
     file_ = std::make_unique<AtomicFile>(place);
     sqlite3 *connection = nullptr;
     const int result = sqlite3_open_v2(file_->temporaryName().c_str(), &connection,
@@ -151,31 +161,12 @@ void SqliteOutput::finish()
     execute("commit");
     connection_.reset();
     file_->finish();
-    if (FileUseObserver *const observer = FileUseObserver::current())
-        observer->wroteWhole(shownFile_);
+    fileUse_.wroteWhole(shownFile_);
 }
 
-Failure SqliteOutput::unwritable() const
+OutputError SqliteOutput::unwritable() const
 {
-    return cannotWrite(shownFile_, translate("{0}; choose another place for the output",
-                                             sqliteError(connection_.get())));
-}
-
-void checkMayReplace(const fs::path &file)
-{
-    std::error_code ignored;
-    for (const char *suffix : {"-wal", "-journal"})
-        if (const fs::path log = file.string() + suffix; fs::exists(log, ignored))
-            throw Failure(CannotAccess,
-                          translate("cannot write '{0}': '{1}' lies beside it; close what "
-                                    "uses it, or choose another name",
-                                    file.string(), log.string()));
-    if (fs::exists(file, ignored) && !isOwn(file))
-        throw Failure(
-            CannotAccess,
-            translate("'{0}' is there and was not written by iosphoto --sqlite, so it is not "
-                      "replaced; choose another name",
-                      file.string()));
+    return {OutputProblem::Unwritten, {shownFile_.string(), sqliteError(connection_.get())}};
 }
 
 SqliteInsert::SqliteInsert(SqliteOutput &output, const std::string &table, std::size_t columns)

@@ -2,6 +2,8 @@
 #define IOSPHOTO_TOOL_SQLITE_OUTPUT_H
 
 #include "files/atomic_file.h"
+#include "files/file_use.h"
+#include "rows/output_problem.h"
 #include "rows/row_writer.h"
 #include "rows/values.h"
 #include "text/json.h"
@@ -16,14 +18,16 @@
 
 namespace iosphoto::tool {
 
-/// A SQLite database that is written whole or not at all. Throws Failure when it cannot be.
+/// A SQLite database that is written whole or not at all. Throws when it cannot be: OutputError,
+/// and Failure for what is wrong with the place of the file.
 class SqliteOutput
 {
 public:
     /// Refuses to replace the source and any file but an output of this kind.
     /// @param head  becomes the one row of the table `library`
-    SqliteOutput(const std::filesystem::path &file, const std::filesystem::path &source,
-                 const Json &head);
+    /// @param source  as the user named it
+    SqliteOutput(FileUse &files, const std::filesystem::path &file,
+                 const std::filesystem::path &source, const Json &head);
     ~SqliteOutput();
     SqliteOutput(const SqliteOutput &) = delete;
     SqliteOutput &operator=(const SqliteOutput &) = delete;
@@ -43,8 +47,9 @@ private:
     };
 
     void writeHead(const Json &head);
-    Failure unwritable() const;
+    OutputError unwritable() const;
 
+    FileUse &fileUse_;
     std::filesystem::path shownFile_;
     std::unique_ptr<AtomicFile> file_;
     std::unique_ptr<sqlite3, Close> connection_;
@@ -52,13 +57,6 @@ private:
 
 /// A name as SQL has it, whatever it is made of.
 std::string quotedName(const std::string &name);
-
-/// SQLite's application_id of the databases that the tool writes: "iPho".
-constexpr std::int32_t ownApplicationId = 0x6950686F;
-
-/// Throws Failure when there is a file that the tool did not write, so that nobody loses one, or
-/// one that is in use.
-void checkMayReplace(const std::filesystem::path &file);
 
 /// Inserts rows into a table of an output, which outlives it and is finished after it is gone.
 class SqliteInsert

@@ -1,5 +1,6 @@
 #include "rows/table_writer.h"
 
+#include "text/lists.h"
 #include "text/numbers.h"
 #include "text/translate.h"
 #include "time/time_text.h"
@@ -21,13 +22,10 @@ struct ShownValue
     }
     std::string operator()(double number) const { return fmt::format("{}", number); }
     std::string operator()(const std::string &text) const { return text; }
-    std::string operator()(UtcTime time) const { return localTimeText(time.unixTime); }
+    std::string operator()(UnixTime time) const { return localTimeText(time); }
     std::string operator()(const Items &items) const
     {
-        std::string text;
-        for (const ListItem *item : items)
-            text += (text.empty() ? "" : translate(", ")) + item->shown;
-        return text;
+        return listForPeople(items, [](const ListItem *item) { return item->shown; });
     }
 };
 
@@ -55,7 +53,7 @@ void TableWriter::row(const std::vector<Value> &values)
 
 void TableWriter::end()
 {
-    table_->print(out_);
+    table_->print(out_, screen_);
 }
 
 } // namespace iosphoto::tool

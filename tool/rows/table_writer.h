@@ -13,7 +13,7 @@ namespace iosphoto::tool {
 class TableWriter : public RowWriter
 {
 public:
-    explicit TableWriter(std::ostream &out) : out_(out) {}
+    TableWriter(std::ostream &out, const Screen &screen) : out_(out), screen_(screen) {}
 
     void begin(const RowsHead &head, const std::vector<Column> &columns) override;
     void row(const std::vector<Value> &values) override;
@@ -21,6 +21,7 @@ public:
 
 private:
     std::ostream &out_;
+    Screen screen_;
     std::vector<Column> columns_;
     std::optional<TextTable> table_;
 };

@@ -1,20 +1,19 @@
 #include "rows/values.h"
 
-#include "time/time_text.h"
-
 namespace iosphoto::tool {
 
-Value utcTimeValue(double coreDataSeconds)
+Value timeValue(CoreDataTime time)
 {
-    const auto unixTime = unixTimeOf(coreDataSeconds);
-    return unixTime ? Value(UtcTime{*unixTime}) : Value();
+    const auto unixTime = unixTimeOf(time);
+    return unixTime ? Value(*unixTime) : Value();
 }
 
 Value localDayValue(const CPhotoData &photo)
 {
     const QString &day = photo.dateText;
     const bool isDay = !day.isEmpty() && day.at(0).isDigit();
-    return isDay && isOfTheCalendar(photo.createdTime) ? Value(day.toStdString()) : Value();
+    return isDay && isOfTheCalendar(CoreDataTime{photo.createdTime}) ? Value(day.toStdString())
+                                                                     : Value();
 }
 
 } // namespace iosphoto::tool

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_VALUES_H
 
 #include "ios_photo.h"
+#include "time/epochs.h"
 
 #include <cstdint>
 #include <string>
@@ -9,12 +10,6 @@
 #include <vector>
 
 namespace iosphoto::tool {
-
-/// A moment: UTC in documents, local in tables.
-struct UtcTime
-{
-    std::int64_t unixTime;
-};
 
 /// An item of a list, such as an album, made once for all the rows that have it.
 struct ListItem
@@ -27,8 +22,10 @@ struct ListItem
 /// The items belong to somebody who outlives the rows.
 using Items = std::vector<const ListItem *>;
 
-/// What a row has in one field. The first is for what is unknown: null.
-using Value = std::variant<std::monostate, bool, std::int64_t, double, std::string, UtcTime, Items>;
+/// What a row has in one field. The first is for what is unknown: null. A time is shown in UTC in
+/// documents, and local in tables.
+using Value =
+    std::variant<std::monostate, bool, std::int64_t, double, std::string, UnixTime, Items>;
 
 /// The text, or nothing where it is empty.
 inline Value knownText(std::string text)
@@ -37,7 +34,7 @@ inline Value knownText(std::string text)
 }
 
 /// A time of the database; nothing beyond all calendars.
-Value utcTimeValue(double coreDataSeconds);
+Value timeValue(CoreDataTime time);
 
 /// The local day on which a photo was created, as the library found it; nothing where it cannot
 /// tell, for which it has a word, or where its time is beyond all calendars.

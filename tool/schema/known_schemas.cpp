@@ -59,15 +59,12 @@ const KnownSchema &newestSchema()
     return newestFirst[0];
 }
 
-std::string warningOfNewer(const std::string &iosVersion)
+std::optional<SchemaFinding> warningOfNewer(const std::string &iosVersion)
 {
     const int newest = newestSchema().lastIos;
     if (firstNumber(iosVersion) <= newest)
-        return {};
-    return translate(
-        "iOS {0} is newer than all that are known, so it is read like iOS {1}; check a few "
-        "photos against the device",
-        iosVersion, newest);
+        return std::nullopt;
+    return SchemaFinding{SchemaProblem::ReadLikeNewest, {iosVersion, std::to_string(newest)}};
 }
 
 EntityNumbers readEntityNumbers(const CopyDatabase &database)

@@ -4,9 +4,11 @@
 #include "model/statements/entity_numbers.h"
 #include "model/statements/statement_tables.h"
 #include "schema/device.h"
+#include "schema/schema_problem.h"
 #include "sqlite/copy_database.h"
 
 #include <array>
+#include <optional>
 
 namespace iosphoto::tool {
 
@@ -34,8 +36,8 @@ const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers 
 /// The newest of all.
 const KnownSchema &newestSchema();
 
-/// What to say of an iOS version that is newer than all schemas; empty for others.
-std::string warningOfNewer(const std::string &iosVersion);
+/// What to say of an iOS version that is newer than all schemas; nothing of others.
+std::optional<SchemaFinding> warningOfNewer(const std::string &iosVersion);
 
 EntityNumbers readEntityNumbers(const CopyDatabase &database);
 

@@ -14,15 +14,15 @@ namespace iosphoto::tool {
 class OpenedCopy
 {
 public:
-    /// Copies and probes. Throws Failure when there is no photo database that can be read.
+    /// Copies and probes. Throws when there is no photo database that can be read.
     /// @param wanted  the device as far as the user named it
-    OpenedCopy(const Source &source, const Device &wanted);
+    OpenedCopy(Session &session, const Source &source, const Device &wanted);
 
     std::string file() const { return copy_.database(); }
     const ProbedSchema &schema() const { return schema_; }
     bool hasLog() const { return copy_.hasLog(); }
-    /// What should be there and is not, as sentences.
-    const std::vector<std::string> &missing() const { return missing_; }
+    /// What should be there and is not.
+    const std::vector<SourceFinding> &missing() const { return missing_; }
 
     /// Opens the copy for queries of the tool's own.
     CopyDatabase connect() const;
@@ -31,7 +31,7 @@ private:
     std::string shownName_;
     PrivateCopy copy_;
     ProbedSchema schema_;
-    std::vector<std::string> missing_;
+    std::vector<SourceFinding> missing_;
 };
 
 } // namespace iosphoto::tool

@@ -1,6 +1,7 @@
 #include "schema/schema_probe.h"
 
 #include "formats/versions.h"
+#include "schema/asset_tables.h"
 #include "text/translate.h"
 
 #include <filesystem>
@@ -12,17 +13,10 @@ namespace {
 void requirePhotoDatabase(const CopyDatabase &database)
 {
     if (database.hasTable("PhotoAlbum") && database.hasTable("PhotoExtras"))
-        throw Failure(
-            SchemaDoesNotFit,
-            translate("'{0}' is a photo database of iOS 5 or earlier, which is not known; "
-                      "libraries of iOS 6 to 18 can be read",
-                      database.shownName()));
+        throw SchemaError(SchemaProblem::TooOld, {database.shownName()});
     if (!database.hasTable("Z_PRIMARYKEY") || !database.hasTable("ZGENERICALBUM") ||
-        !database.hasTable("ZADDITIONALASSETATTRIBUTES") || database.assetTable().empty())
-        throw Failure(WrongKindOfFile,
-                      translate("'{0}' is a SQLite database without a photo library; "
-                                "name the Photos.sqlite of a phone or backup",
-                                database.shownName()));
+        !database.hasTable("ZADDITIONALASSETATTRIBUTES") || assetTableOf(database).empty())
+        throw SchemaError(SchemaProblem::NoPhotoLibrary, {database.shownName()});
 }
 
 /// The library would read nothing from others, and tell less of it.
@@ -32,10 +26,7 @@ void requireRealTables(const CopyDatabase &database)
         "ZASSET", "ZGENERICASSET", "ZADDITIONALASSETATTRIBUTES", "ZGENERICALBUM", "Z_PRIMARYKEY"};
     const std::string albumContents = "Z^_%ASSETS";
     if (!database.areRealTables(tables, albumContents))
-        throw Failure(WrongKindOfFile,
-                      translate("'{0}' is a SQLite database whose tables are not those of a photo "
-                                "library; name the Photos.sqlite of a phone or backup",
-                                database.shownName()));
+        throw SchemaError(SchemaProblem::OtherTables, {database.shownName()});
 }
 
 void requireDatabase(const CopyDatabase &database)
@@ -44,14 +35,9 @@ void requireDatabase(const CopyDatabase &database)
     std::error_code ignored;
     if (std::filesystem::file_size(database.file(), ignored) == 0 && !ignored &&
         !std::filesystem::exists(database.file() + "-wal", ignored))
-        throw Failure(WrongKindOfFile,
-                      translate("'{0}' is empty; copy it from the device or the backup again",
-                                database.shownName()));
+        throw SchemaError(SchemaProblem::EmptyFile, {database.shownName()});
     if (!isDatabase)
-        throw Failure(WrongKindOfFile,
-                      translate("'{0}' is not a SQLite database, or it is encrypted; name the "
-                                "Photos.sqlite of a phone or of an unencrypted backup",
-                                database.shownName()));
+        throw SchemaError(SchemaProblem::NoDatabase, {database.shownName()});
 }
 
 /// Whether the model number and the tables tell of the same iOS.
@@ -127,7 +113,7 @@ std::optional<IosRange> iosRange(const StoreMetadata &metadata, const KnownSchem
     return std::nullopt;
 }
 
-std::string disagreement(const ProbedSchema &probed, const KnownSchema *schema)
+std::optional<SchemaFinding> disagreement(const ProbedSchema &probed, const KnownSchema *schema)
 {
     const int major = firstNumber(probed.device.iosVersion);
     const KnownSchema &newest = newestSchema();
@@ -135,11 +121,9 @@ std::string disagreement(const ProbedSchema &probed, const KnownSchema *schema)
         return warningOfNewer(probed.device.iosVersion);
     const std::optional<IosRange> range = iosRange(probed.metadata, schema);
     if (!range || (major >= range->first && major <= range->last))
-        return {};
-    return translate(
-        "the database has the schema of {0}, not of iOS {1}, and photos may be wrong or "
-        "missing; try --ios {2}",
-        range->name, probed.device.iosVersion, range->last);
+        return std::nullopt;
+    return SchemaFinding{SchemaProblem::OtherIos,
+                         {range->name, probed.device.iosVersion, std::to_string(range->last)}};
 }
 
 std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)
@@ -148,27 +132,17 @@ std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)
     return agree(model, &schema) ? std::to_string(*model) : schema.iosVersion;
 }
 
-Failure noFit(const CopyDatabase &database, const ProbedSchema &probed, const KnownSchema *schema)
+SchemaError noFit(const CopyDatabase &database, const ProbedSchema &probed,
+                  const KnownSchema *schema)
 {
-    if (schema == nullptr) {
-        const std::optional<int> major = probed.metadata.iosMajor();
-        if (major && *major > newestSchema().lastIos)
-            return {
-                SchemaDoesNotFit,
-                translate("'{0}' is a photo database of iOS {1}, whose schema is not known yet; "
-                          "look for a newer iosphoto",
-                          database.shownName(), *major)};
-        return {SchemaDoesNotFit,
-                translate("'{0}' is a photo database of no known schema: no iOS from "
-                          "6 to 18 has these tables; look for a newer iosphoto",
-                          database.shownName())};
-    }
-    return {
-        SchemaDoesNotFit,
-        translate("'{0}' is a photo database, but not of iOS {1} and {2}; try --ios {3} --product "
-                  "{4}",
-                  database.shownName(), probed.device.iosVersion, probed.device.productType,
-                  fittingIos(probed, *schema), schema->productType)};
+    if (schema != nullptr)
+        return {SchemaProblem::OtherDevice,
+                {database.shownName(), probed.device.iosVersion, probed.device.productType,
+                 fittingIos(probed, *schema), schema->productType}};
+    const std::optional<int> major = probed.metadata.iosMajor();
+    if (major && *major > newestSchema().lastIos)
+        return {SchemaProblem::NewerSchema, {database.shownName(), std::to_string(*major)}};
+    return {SchemaProblem::UnknownSchema, {database.shownName()}};
 }
 
 std::string withReason(const std::string &what, const std::string &why)

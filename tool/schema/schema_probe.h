@@ -4,6 +4,7 @@
 #include "input/library_layout.h"
 #include "schema/device.h"
 #include "schema/known_schemas.h"
+#include "schema/schema_problem.h"
 #include "schema/store_metadata.h"
 #include "sqlite/copy_database.h"
 
@@ -26,7 +27,7 @@ struct ProbedSchema
     DeviceOrigin productOrigin = DeviceOrigin::User;
     std::string iosWhy;    ///< where the version comes from; empty if the user named it
     std::string deviceWhy; ///< likewise the product type
-    std::string warning;   ///< that version and schema disagree; empty if they do not
+    std::optional<SchemaFinding> warning; ///< that version and schema disagree
     std::string name;      ///< of the schema, such as "iOS 15 to 17", for machines in English
     std::string shownName; ///< the same for people
     StoreMetadata metadata;
@@ -41,7 +42,8 @@ struct ProbedSchema
 /// Makes sure that a database is a photo database whose statements run, and decides which device
 /// to read it as: what the user wants, else what the source says, else what the schema says.
 ///
-/// Throws Failure when the database is something else or does not fit the device.
+/// Throws SchemaError when the database is something else or does not fit the device, and Failure
+/// when it cannot be read.
 ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const RecordedDevice &says);
 
 } // namespace iosphoto::tool

@@ -38,8 +38,8 @@ std::string QueryRow::text(int column) const
     return bytes != nullptr ? std::string(bytes, size) : std::string();
 }
 
-CopyDatabase::CopyDatabase(const std::string &file, std::string shownName, std::string advice)
-    : file_(file), shownName_(std::move(shownName)), advice_(std::move(advice))
+CopyDatabase::CopyDatabase(const std::string &file, std::string shownName, IfDamaged remedy)
+    : file_(file), shownName_(std::move(shownName)), remedy_(remedy)
 {
     sqlite3 *connection = nullptr;
     const int opened =
@@ -121,14 +121,6 @@ bool CopyDatabase::attachWithoutLog(const std::string &name) const
            sqlite3_step(statement.get()) == SQLITE_DONE;
 }
 
-std::string CopyDatabase::assetTable() const
-{
-    for (const char *table : {"ZASSET", "ZGENERICASSET"})
-        if (hasTable(table))
-            return table;
-    return {};
-}
-
 std::unique_ptr<sqlite3_stmt, CopyDatabase::Close>
 CopyDatabase::prepare(const std::string &text) const
 {
@@ -145,7 +137,7 @@ Failure CopyDatabase::unreadable() const
 {
     return {CannotAccess,
             translate("cannot read '{0}': {1}; {2}", shownName_, sqliteError(connection_.get()),
-                      remedyFor(sqlite3_extended_errcode(connection_.get()), advice_))};
+                      remedyFor(sqlite3_extended_errcode(connection_.get()), remedy_))};
 }
 
 } // namespace iosphoto::tool

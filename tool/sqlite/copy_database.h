@@ -3,6 +3,7 @@
 
 #include "model/store/work_limit.h"
 #include "process/failure.h"
+#include "sqlite/sqlite_error.h"
 
 #include <sqlite3.h>
 
@@ -38,8 +39,8 @@ public:
     /// Throws Failure when the file cannot be opened. The first reading may roll back a journal;
     /// the log is never moved into the database.
     /// @param shownName  the database as the user knows it, for messages
-    /// @param advice     what to do when it is damaged
-    CopyDatabase(const std::string &file, std::string shownName, std::string advice);
+    CopyDatabase(const std::string &file, std::string shownName,
+                 IfDamaged remedy = IfDamaged::CopyLibraryAgain);
 
     /// Whether the file is a database, and not encrypted. Throws Failure when it cannot be read.
     bool isDatabase() const;
@@ -65,9 +66,6 @@ public:
     /// whether that could be done.
     bool attachWithoutLog(const std::string &name) const;
 
-    /// "ZASSET", or before iOS 14 "ZGENERICASSET"; empty in a database without photos.
-    std::string assetTable() const;
-
     const std::string &file() const { return file_; }
     const std::string &shownName() const { return shownName_; }
 
@@ -87,7 +85,7 @@ private:
     std::unique_ptr<sqlite3, Close> connection_;
     std::string file_;
     std::string shownName_;
-    std::string advice_;
+    IfDamaged remedy_;
 };
 
 } // namespace iosphoto::tool

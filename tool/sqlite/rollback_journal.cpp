@@ -1,8 +1,7 @@
 #include "sqlite/rollback_journal.h"
 
-#include "process/failure.h"
+#include "files/private_folder.h"
 #include "text/system_error.h"
-#include "text/translate.h"
 
 #include <cerrno>
 #include <fstream>
@@ -35,9 +34,7 @@ void forgetSuperJournal(const fs::path &database)
                              static_cast<std::streamsize>(magic.size()));
     file.close();
     if (!file)
-        throw Failure(CannotAccess,
-                      translate("cannot write '{0}': {1}; set TMPDIR to a folder with room for it",
-                                journal.string(), systemError(errno)));
+        throw cannotWriteCopy(journal, systemError(errno));
 }
 
 } // namespace iosphoto::tool

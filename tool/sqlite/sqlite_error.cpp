@@ -90,10 +90,17 @@ bool isOfDatabase(int code)
     return troubleOf(code) == nullptr;
 }
 
-std::string remedyFor(int code, const std::string &copyAgain)
+std::string adviceFor(IfDamaged remedy)
+{
+    return remedy == IfDamaged::CopyBackupAgain
+               ? translate("copy the whole backup again")
+               : translate("copy it from the device or the backup again, its -wal with it");
+}
+
+std::string remedyFor(int code, IfDamaged remedy)
 {
     const Trouble *const trouble = troubleOf(code);
-    return trouble != nullptr ? translateTerm(trouble->remedy) : copyAgain;
+    return trouble != nullptr ? translateTerm(trouble->remedy) : adviceFor(remedy);
 }
 
 } // namespace iosphoto::tool

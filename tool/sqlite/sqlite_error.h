@@ -16,9 +16,14 @@ std::string sqliteError(sqlite3 *connection);
 /// Whether an error is one of the database itself, and not of the machine that reads it.
 bool isOfDatabase(int code);
 
+/// How to get a database anew that is damaged.
+enum class IfDamaged { CopyLibraryAgain, CopyBackupAgain };
+
+std::string adviceFor(IfDamaged remedy);
+
 /// What people can do about an error.
-/// @param copyAgain  how to get the database anew, for an error of the database itself
-std::string remedyFor(int code, const std::string &copyAgain);
+/// @param remedy  for an error of the database itself
+std::string remedyFor(int code, IfDamaged remedy);
 
 } // namespace iosphoto::tool
 

@@ -1,5 +1,7 @@
 #include "sqlite/write_ahead_log.h"
 
+#include "formats/big_endian.h"
+
 #include <cstdint>
 #include <fstream>
 #include <string>
@@ -14,10 +16,7 @@ constexpr std::size_t frameHeaderSize = 24;
 
 std::uint32_t bigEndian(std::string_view bytes, std::size_t at)
 {
-    std::uint32_t value = 0;
-    for (const char byte : bytes.substr(at, sizeof value))
-        value = value << 8U | static_cast<unsigned char>(byte);
-    return value;
+    return static_cast<std::uint32_t>(tool::bigEndian(bytes.substr(at, sizeof(std::uint32_t))));
 }
 
 std::uint32_t littleEndian(std::string_view bytes, std::size_t at)

@@ -7,7 +7,8 @@
 
 namespace iosphoto::tool {
 
-BusyLine::BusyLine(std::string doing, Duration patience) : doing_(std::move(doing))
+BusyLine::BusyLine(const Terminal &terminal, std::string doing, Duration patience)
+    : doing_(std::move(doing)), line_(terminal)
 {
     if (line_.isSeen())
         thread_ = std::thread([this, patience] { keepShowing(patience); });

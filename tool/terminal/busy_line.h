@@ -19,7 +19,8 @@ public:
     using Duration = std::chrono::milliseconds;
 
     /// @param doing  such as "reading photos"
-    explicit BusyLine(std::string doing, Duration patience = Duration(500));
+    explicit BusyLine(const Terminal &terminal, std::string doing,
+                      Duration patience = Duration(500));
     ~BusyLine();
     BusyLine(const BusyLine &) = delete;
     BusyLine &operator=(const BusyLine &) = delete;

@@ -1,13 +1,11 @@
 #include "terminal/paragraph.h"
 
 #include "terminal/display_width.h"
-#include "terminal/terminal.h"
 
 namespace iosphoto::tool {
 
-void printParagraph(std::ostream &out, const std::string &text)
+void printParagraph(std::ostream &out, const Screen &screen, const std::string &text)
 {
-    const Screen screen = screenOf(out);
     if (!screen.columns) {
         out << text << '\n';
         return;

@@ -27,8 +27,9 @@ std::string progressLine(const std::string &doing, int done, int total, std::siz
     return doing + " [" + std::string(full, '#') + std::string(cells - full, ' ') + "] " + counts;
 }
 
-ProgressBar::ProgressBar(std::string doing, int total, Clock::duration patience)
-    : doing_(std::move(doing)), total_(total), nextShow_(Clock::now() + patience)
+ProgressBar::ProgressBar(const Terminal &terminal, std::string doing, int total,
+                         Clock::duration patience)
+    : doing_(std::move(doing)), total_(total), line_(terminal), nextShow_(Clock::now() + patience)
 {
 }
 
@@ -36,7 +37,7 @@ void ProgressBar::show(int done)
 {
     if (!line_.isSeen() || Clock::now() < nextShow_)
         return;
-    line_.show(progressLine(doing_, done, total_, StatusLine::columns()));
+    line_.show(progressLine(doing_, done, total_, line_.columns()));
     nextShow_ = Clock::now() + betweenShows;
 }
 

@@ -20,7 +20,7 @@ public:
 
     /// @param doing     such as "writing thumbnails"
     /// @param patience  how long the command may take before anything is shown
-    ProgressBar(std::string doing, int total,
+    ProgressBar(const Terminal &terminal, std::string doing, int total,
                 Clock::duration patience = std::chrono::milliseconds(500));
 
     /// Says that `done` of the total are done.

@@ -2,8 +2,6 @@
 
 #include "process/interruption_lock.h"
 #include "terminal/display_width.h"
-#include "terminal/messages.h"
-#include "terminal/terminal.h"
 
 #include <iostream>
 
@@ -15,7 +13,10 @@ constexpr const char *clearLine = "\r\x1b[K";
 
 } // namespace
 
-StatusLine::StatusLine() : isSeen_(screenOf(std::cerr).isTerminal && !isQuiet()) {}
+StatusLine::StatusLine(const Terminal &terminal)
+    : terminal_(terminal), isSeen_(terminal.screenOf(std::cerr).isTerminal && !terminal.isQuiet())
+{
+}
 
 StatusLine::~StatusLine()
 {
@@ -24,9 +25,9 @@ StatusLine::~StatusLine()
         std::cerr << clearLine << std::flush;
 }
 
-std::size_t StatusLine::columns()
+std::size_t StatusLine::columns() const
 {
-    return screenOf(std::cerr).columns.value_or(1) - 1;
+    return terminal_.screenOf(std::cerr).columns.value_or(1) - 1;
 }
 
 void StatusLine::show(const std::string &text)
@@ -36,9 +37,9 @@ void StatusLine::show(const std::string &text)
     isShown_ = true;
 }
 
-void clearStatusLine()
+void clearStatusLine(const Terminal &terminal)
 {
-    if (screenOf(std::cerr).isTerminal)
+    if (terminal.screenOf(std::cerr).isTerminal)
         std::cerr << clearLine << std::flush;
 }
 

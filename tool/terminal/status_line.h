@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_STATUS_LINE_H
 #define IOSPHOTO_TOOL_STATUS_LINE_H
 
+#include "terminal/terminal.h"
+
 #include <string>
 
 namespace iosphoto::tool {
@@ -10,7 +12,8 @@ namespace iosphoto::tool {
 class StatusLine
 {
 public:
-    StatusLine();
+    /// @param terminal  has to outlive the line
+    explicit StatusLine(const Terminal &terminal);
     ~StatusLine();
     StatusLine(const StatusLine &) = delete;
     StatusLine &operator=(const StatusLine &) = delete;
@@ -18,17 +21,18 @@ public:
     /// Whether somebody sees it; otherwise show() is not to be called.
     bool isSeen() const { return isSeen_; }
     /// The columns that it may take. The last one of a terminal stays free.
-    static std::size_t columns();
+    std::size_t columns() const;
 
     void show(const std::string &text);
 
 private:
+    const Terminal &terminal_;
     bool isSeen_;
     bool isShown_ = false;
 };
 
 /// Clears whatever such a line shows now, before last words.
-void clearStatusLine();
+void clearStatusLine(const Terminal &terminal);
 
 } // namespace iosphoto::tool
 

@@ -1,5 +1,8 @@
 #include "terminal/terminal.h"
 
+#include "process/interruption_lock.h"
+#include "text/printable.h"
+
 #include <fmt/format.h>
 
 #include <cstdlib>
@@ -11,7 +14,7 @@ namespace iosphoto::tool {
 
 namespace {
 
-ColorChoice colorChoice = ColorChoice::Auto;
+constexpr const char *speaker = "iosphoto:";
 
 std::string variable(const char *name)
 {
@@ -19,10 +22,10 @@ std::string variable(const char *name)
     return value != nullptr ? value : "";
 }
 
-bool isColored(bool isTerminal)
+bool knowsColors(bool isTerminal, ColorChoice choice)
 {
-    if (colorChoice != ColorChoice::Auto)
-        return colorChoice == ColorChoice::Always;
+    if (choice != ColorChoice::Auto)
+        return choice == ColorChoice::Always;
     return isTerminal && variable("NO_COLOR").empty() && variable("TERM") != "dumb";
 }
 
@@ -37,29 +40,46 @@ std::size_t columnsOf(int terminal)
     return ioctl(terminal, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
 }
 
-} // namespace
-
-void chooseColor(ColorChoice choice)
+void print(const std::string &who, const std::string &text)
 {
-    colorChoice = choice;
+    const InterruptionLock lock;
+    std::cerr << who + " " + printable(text) + "\n";
 }
 
-Screen screenOf(const std::ostream &stream)
+} // namespace
+
+std::string inked(const std::string &text, Ink ink, const Screen &screen)
+{
+    return screen.isColored ? fmt::format("\x1b[{}m{}\x1b[0m", static_cast<int>(ink), text) : text;
+}
+
+Screen Terminal::screenOf(const std::ostream &stream) const
 {
     if (&stream != &std::cout && &stream != &std::cerr)
         return {};
     const int descriptor = &stream == &std::cout ? STDOUT_FILENO : STDERR_FILENO;
     Screen screen;
     screen.isTerminal = isatty(descriptor) == 1;
-    screen.isColored = isColored(screen.isTerminal);
+    screen.isColored = knowsColors(screen.isTerminal, colorChoice_);
     if (screen.isTerminal)
         screen.columns = columnsOf(descriptor);
     return screen;
 }
 
-std::string inked(const std::string &text, Ink ink, const Screen &screen)
+void Terminal::printInfo(const std::string &text) const
 {
-    return screen.isColored ? fmt::format("\x1b[{}m{}\x1b[0m", static_cast<int>(ink), text) : text;
+    if (!isQuiet_)
+        print(speaker, text);
+}
+
+void Terminal::printWarning(const std::string &text) const
+{
+    print(inked(speaker, Ink::Yellow, screenOf(std::cerr)), text);
+}
+
+void Terminal::printError(const std::string &text) const
+{
+    print(inked(speaker, Ink::Red, screenOf(std::cerr)), text);
 }
 
 } // namespace iosphoto::tool

@@ -7,11 +7,23 @@
 #include <cstring>
 #include <limits>
 #include <numeric>
+#include <optional>
 #include <utility>
 
 namespace iosphoto::tool {
 
 namespace {
+
+constexpr const char *columnGap = "  ";
+
+/// The width below which a column that may be cut is of no use: of a path, as much as shows the
+/// name of its file.
+std::size_t leastWidth(std::size_t headingWidth, Elide elide)
+{
+    constexpr std::size_t ofText = 16;
+    constexpr std::size_t ofPath = 24;
+    return std::max(headingWidth, elide == Elide::Left ? ofPath : ofText);
+}
 
 std::size_t lineWidth(const std::vector<std::size_t> &widths)
 {
@@ -30,6 +42,18 @@ bool narrow(std::vector<std::size_t> &widths, const std::vector<std::size_t> &le
         return false;
     --widths[widest];
     return true;
+}
+
+/// The widths of columns that fit, gaps between them, into `columns`: the widest were made
+/// narrower, down to `least`. Nothing where even that does not fit.
+std::optional<std::vector<std::size_t>> narrowedWidths(std::vector<std::size_t> widths,
+                                                       const std::vector<std::size_t> &least,
+                                                       std::size_t columns)
+{
+    while (lineWidth(widths) > columns)
+        if (!narrow(widths, least))
+            return std::nullopt;
+    return widths;
 }
 
 /// Where headings end and values begin.
@@ -113,23 +137,6 @@ TextTable::Row TextTable::headings() const
     for (const Column &column : columns_)
         headings.push_back(column.heading);
     return headings;
-}
-
-std::size_t leastWidth(std::size_t headingWidth, Elide elide)
-{
-    constexpr std::size_t ofText = 16;
-    constexpr std::size_t ofPath = 24;
-    return std::max(headingWidth, elide == Elide::Left ? ofPath : ofText);
-}
-
-std::optional<std::vector<std::size_t>> narrowedWidths(std::vector<std::size_t> widths,
-                                                       const std::vector<std::size_t> &least,
-                                                       std::size_t columns)
-{
-    while (lineWidth(widths) > columns)
-        if (!narrow(widths, least))
-            return std::nullopt;
-    return widths;
 }
 
 void printBlocks(std::ostream &out, const std::vector<std::string> &headings,

@@ -4,7 +4,6 @@
 #include "terminal/display_width.h"
 #include "terminal/terminal.h"
 
-#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -31,7 +30,6 @@ public:
 
     /// On a terminal that is too narrow, long cells are cut; where that does not help, each row is
     /// a block of lines, a cell after the other.
-    void print(std::ostream &out) const { print(out, screenOf(out)); }
     void print(std::ostream &out, const Screen &screen) const;
 
 private:
@@ -46,18 +44,6 @@ private:
     std::vector<Row> rows_;
     std::vector<std::size_t> widths_;
 };
-
-inline constexpr const char *columnGap = "  ";
-
-/// The width below which a column that may be cut is of no use: of a path, as much as shows the
-/// name of its file.
-std::size_t leastWidth(std::size_t headingWidth, Elide elide);
-
-/// The widths of columns that fit, gaps between them, into `columns`: the widest were made
-/// narrower, down to `least`. Nothing where even that does not fit.
-std::optional<std::vector<std::size_t>> narrowedWidths(std::vector<std::size_t> widths,
-                                                       const std::vector<std::size_t> &least,
-                                                       std::size_t columns);
 
 /// Prints the rows of a table, such as one that is too wide for a terminal: each as a block of
 /// lines "HEADING  value", without those that have no value. Long values go on in further lines.

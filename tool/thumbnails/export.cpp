@@ -48,46 +48,49 @@ fs::path sheetName(const fs::path &file, int sheet)
 
 } // namespace
 
-WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail, const std::string &file)
+WrittenFiles exportOne(Session &session, const ThumbCache &cache, const Thumbnail &thumbnail,
+                       const std::string &file)
 {
     const QString suffix = lowerSuffix(file);
     if (!suffix.isEmpty() && suffix != "bmp" && suffix != "png")
         throw Failure(WrongUsage, translate("cannot write '{0}': thumbnails are written as .bmp or "
                                             ".png; name such a file",
                                             file));
-    writeOutput(file, content(cache, thumbnail, suffix == "png"), cache.file());
+    writeOutput(session.files, file, content(cache, thumbnail, suffix == "png"), cache.file());
     return {{thumbnail.index, file}};
 }
 
-WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool asPng)
+WrittenFiles exportAll(Session &session, const ThumbCache &cache, const std::string &folder,
+                       bool asPng)
 {
     makeOutputFolder(folder);
     const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
-    ProgressBar progress(translate("writing thumbnails"), static_cast<int>(thumbnails.size()));
+    ProgressBar progress(session.terminal, translate("writing thumbnails"),
+                         static_cast<int>(thumbnails.size()));
     WrittenFiles written;
     for (const Thumbnail &thumbnail : thumbnails) {
         const std::string name =
             paddedIndex(thumbnail.index, thumbnails.back().index) + (asPng ? ".png" : ".bmp");
         const fs::path file = fs::path(folder) / name;
-        writeOutput(file, content(cache, thumbnail, asPng), cache.file());
+        writeOutput(session.files, file, content(cache, thumbnail, asPng), cache.file());
         written[thumbnail.index] = file.string();
         progress.show(static_cast<int>(written.size()));
     }
     return written;
 }
 
-WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file)
+WrittenFiles exportSheets(Session &session, const ThumbCache &cache, const std::string &file)
 {
     if (lowerSuffix(file) != "png")
         throw Failure(WrongUsage,
                       translate("cannot write '{0}': a contact sheet is a PNG file; name one "
                                 "that ends in .png",
                                 file));
-    ProgressBar progress(translate("drawing sheets"), sheetCount(cache));
+    ProgressBar progress(session.terminal, translate("drawing sheets"), sheetCount(cache));
     WrittenFiles written;
     for (int sheet = 0; sheet < sheetCount(cache); ++sheet) {
         const fs::path name = sheetName(file, sheet);
-        writeOutput(name, asPng(drawSheet(cache, sheet)), cache.file());
+        writeOutput(session.files, name, asPng(drawSheet(cache, sheet)), cache.file());
         written[sheet] = name.string();
         progress.show(sheet + 1);
     }

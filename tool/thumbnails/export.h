@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_EXPORT_H
 #define IOSPHOTO_TOOL_EXPORT_H
 
+#include "session/session.h"
 #include "thumbnails/thumb_cache.h"
 
 #include <map>
@@ -13,15 +14,16 @@ using WrittenFiles = std::map<int, std::string>;
 
 /// Writes a thumbnail: BMP as the library decodes it, or PNG where the file's name says so. Throws
 /// Failure as writeOutput() does, and when the name says something else.
-WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail,
+WrittenFiles exportOne(Session &session, const ThumbCache &cache, const Thumbnail &thumbnail,
                        const std::string &file);
 
 /// Writes all thumbnails into a folder, named by their indexes, and makes the folder.
-WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool asPng);
+WrittenFiles exportAll(Session &session, const ThumbCache &cache, const std::string &folder,
+                       bool asPng);
 
 /// Draws all thumbnails on a contact sheet. Those that have no room go to further sheets, numbered
 /// from 2: "sheet.png", "sheet-2.png".
-WrittenFiles exportSheets(const ThumbCache &cache, const std::string &file);
+WrittenFiles exportSheets(Session &session, const ThumbCache &cache, const std::string &file);
 
 } // namespace iosphoto::tool
 

@@ -36,6 +36,7 @@ protected:
         return "none";
     }
 
+    Session session_;
     TemporaryFolder folder_;
     fs::path file_ = folder_ / "evidence.json";
     fs::path input_ = folder_ / "input";
@@ -46,14 +47,14 @@ TEST_F(EvidenceTest, RefusesAnInputOfWhichItReadsMoreThanItsSize)
     const fs::path growing = "/proc/self/status"; // has a size of 0
     if (!fs::exists(growing))
         GTEST_SKIP() << "no such file on this system";
-    Evidence evidence(file_, {"iosphoto", "photos"});
+    Evidence evidence(session_, file_, {"iosphoto", "photos"});
     EXPECT_THROW(evidence.addInputs({growing}), Failure);
 }
 
 TEST_F(EvidenceTest, RefusesAnOutputThatIsNotThere)
 {
-    const Evidence evidence(file_, {"iosphoto", "photos"});
-    EXPECT_THROW(FileUseObserver::current()->wroteWhole(folder_ / "absent"), Failure);
+    const Evidence evidence(session_, file_, {"iosphoto", "photos"});
+    EXPECT_THROW(session_.files.wroteWhole(folder_ / "absent"), Failure);
 }
 
 TEST_F(EvidenceTest, TellsOfInputsWhatTheyAreBeforeAndAfter)
@@ -61,7 +62,7 @@ TEST_F(EvidenceTest, TellsOfInputsWhatTheyAreBeforeAndAfter)
     const timespec moment = {1578307200, 123456789};
     const timespec times[] = {moment, moment};
     ASSERT_EQ(utimensat(AT_FDCWD, input_.c_str(), times, 0), 0);
-    Evidence evidence(file_, {"iosphoto", "photos"});
+    Evidence evidence(session_, file_, {"iosphoto", "photos"});
     evidence.addInputs({input_, folder_ / "absent"});
     evidence.finish(0);
 
@@ -84,7 +85,7 @@ TEST_F(EvidenceTest, OfALargeFileIsOfAllItsPieces)
 {
     const std::string bytes(3 * 1024 * 1024 + 1, 'x');
     writeFile(input_, bytes);
-    Evidence evidence(file_, {});
+    Evidence evidence(session_, file_, {});
     evidence.addInputs({input_});
     evidence.finish(0);
     EXPECT_EQ(document()["inputs"][0]["sha256"], sha256Of(bytes));
@@ -92,7 +93,7 @@ TEST_F(EvidenceTest, OfALargeFileIsOfAllItsPieces)
 
 TEST_F(EvidenceTest, InputThatChangedIsAFailureAndInTheFile)
 {
-    Evidence evidence(file_, {});
+    Evidence evidence(session_, file_, {});
     evidence.addInputs({input_});
     writeFile(input_, "behind");
     EXPECT_EQ(failureOf(evidence), "'" + input_.string() + "' changed while the command ran, as '" +
@@ -106,14 +107,14 @@ TEST_F(EvidenceTest, InputThatChangedIsAFailureAndInTheFile)
 TEST_F(EvidenceTest, InputMayNeitherComeNorGo)
 {
     {
-        Evidence evidence(file_, {});
+        Evidence evidence(session_, file_, {});
         evidence.addInputs({folder_ / "log"});
         writeFile(folder_ / "log", "");
         EXPECT_THAT(failureOf(evidence), HasSubstr("log' changed"));
         EXPECT_EQ(document()["inputs"][0]["after"]["size"], 0);
     }
     fs::remove(file_);
-    Evidence evidence(file_, {});
+    Evidence evidence(session_, file_, {});
     evidence.addInputs({input_});
     fs::remove(input_);
     EXPECT_THAT(failureOf(evidence), HasSubstr("input' changed"));
@@ -122,7 +123,7 @@ TEST_F(EvidenceTest, InputMayNeitherComeNorGo)
 
 TEST_F(EvidenceTest, OfAFailedCommandKeepsItsStatusThoughAnInputChanged)
 {
-    Evidence evidence(file_, {});
+    Evidence evidence(session_, file_, {});
     evidence.addInputs({input_});
     writeFile(input_, "behind");
     EXPECT_NE(failureOf(evidence, 4), "none");
@@ -132,7 +133,7 @@ TEST_F(EvidenceTest, OfAFailedCommandKeepsItsStatusThoughAnInputChanged)
 TEST_F(EvidenceTest, WhatIsNoFileHasNoContentAndIsNotWaitedFor)
 {
     ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0600), 0);
-    Evidence evidence(file_, {});
+    Evidence evidence(session_, file_, {});
     evidence.addInputs({folder_ / "pipe", folder_.path()});
     evidence.finish(3);
     const Json inputs = document()["inputs"];
@@ -144,9 +145,9 @@ TEST_F(EvidenceTest, WhatIsNoFileHasNoContentAndIsNotWaitedFor)
 TEST_F(EvidenceTest, ListsWrittenFilesWithTheirLastContent)
 {
     const std::string out = (folder_ / "out").string();
-    Evidence evidence(file_, {});
+    Evidence evidence(session_, file_, {});
     for (const char *content : {"first", "second"})
-        writeOutput(out, content, input_);
+        writeOutput(session_.files, out, content, input_);
     evidence.finish(0);
     const Json output = {{"path", out}, {"size", 6}, {"sha256", sha256Of("second")}};
     EXPECT_EQ(document()["outputs"], Json::array({output}));
@@ -154,10 +155,10 @@ TEST_F(EvidenceTest, ListsWrittenFilesWithTheirLastContent)
 
 TEST_F(EvidenceTest, InputsAndItsOwnFileAreRefusedAsOutput)
 {
-    Evidence evidence(file_, {});
+    Evidence evidence(session_, file_, {});
     evidence.addInputs({input_, folder_ / "absent"});
     for (const fs::path &file : {input_, folder_ / "absent", file_})
-        EXPECT_THROW(writeOutput(file, "new", fs::path()), Failure) << file;
+        EXPECT_THROW(writeOutput(session_.files, file, "new", fs::path()), Failure) << file;
     EXPECT_EQ(readFile(input_), "before");
     EXPECT_FALSE(exists(folder_ / "absent"));
     evidence.finish(2);
@@ -168,8 +169,8 @@ TEST_F(EvidenceTest, NeverReplacesAnInput)
 {
     fs::create_symlink(input_, folder_ / "link");
     for (const fs::path &file : {input_, folder_ / "link"})
-        EXPECT_THROW(Evidence(file, {}), Failure) << file;
-    Evidence evidence(folder_ / "absent", {});
+        EXPECT_THROW(Evidence(session_, file, {}), Failure) << file;
+    Evidence evidence(session_, folder_ / "absent", {});
     EXPECT_THROW(evidence.addInputs({input_, folder_ / "absent"}), Failure);
     evidence.finish(2);
     EXPECT_EQ(readFile(input_), "before");
@@ -178,7 +179,7 @@ TEST_F(EvidenceTest, NeverReplacesAnInput)
 
 TEST_F(EvidenceTest, ThatCannotBeWrittenFailsBeforeTheCommandRuns)
 {
-    EXPECT_THROW(Evidence(folder_.path(), {}), Failure);
-    EXPECT_THROW(Evidence(folder_ / "none/evidence.json", {}), Failure);
-    EXPECT_THROW(Evidence("/dev/null", {}), Failure);
+    EXPECT_THROW(Evidence(session_, folder_.path(), {}), Failure);
+    EXPECT_THROW(Evidence(session_, folder_ / "none/evidence.json", {}), Failure);
+    EXPECT_THROW(Evidence(session_, "/dev/null", {}), Failure);
 }

@@ -1,7 +1,5 @@
 #include "evidence/evidence.h"
 
-#include "files/file_use_observer.h"
-
 #include "process/failure.h"
 #include "support/temporary_folder.h"
 
@@ -22,6 +20,7 @@ protected:
 
     nlohmann::json evidence() const { return nlohmann::json::parse(readFile(file_)); }
 
+    Session session_;
     TemporaryFolder folder_;
     std::string file_ = (folder_ / "evidence.json").string();
     fs::path input_ = folder_ / "input";
@@ -31,10 +30,10 @@ TEST_F(WithEvidence, RunsACommandAndHasItsStatus)
 {
     for (const auto &file : {std::optional<std::string>(), std::optional(file_)}) {
         const auto command = [this]() {
-            FileUseObserver::announceReading({input_});
+            session_.files.willRead({input_});
             return int{Incomplete};
         };
-        EXPECT_EQ(withEvidence(file, {"iosphoto"}, command), Incomplete);
+        EXPECT_EQ(withEvidence(session_, file, {"iosphoto"}, command), Incomplete);
         EXPECT_EQ(exists(fs::path(file_)), file.has_value());
     }
     EXPECT_EQ(evidence()["exitStatus"], Incomplete);
@@ -44,19 +43,19 @@ TEST_F(WithEvidence, RunsACommandAndHasItsStatus)
 TEST_F(WithEvidence, RunsNothingWhereItCannotBeWritten)
 {
     const auto command = []() -> int { throw std::logic_error("it ran"); };
-    EXPECT_THROW(withEvidence(folder_.path().string(), {}, command), Failure);
+    EXPECT_THROW(withEvidence(session_, folder_.path().string(), {}, command), Failure);
 }
 
 TEST_F(WithEvidence, DoesNotHideWhyACommandFailed)
 {
     const auto command = [this]() -> int {
-        FileUseObserver::announceReading({input_});
+        session_.files.willRead({input_});
         writeFile(input_, "behind");
         throw Failure(WrongKindOfFile, "wrong kind");
     };
     testing::internal::CaptureStderr();
     try {
-        withEvidence(file_, {}, command);
+        withEvidence(session_, file_, {}, command);
         FAIL();
     } catch (const Failure &failure) {
         EXPECT_STREQ(failure.what(), "wrong kind");
@@ -68,6 +67,6 @@ TEST_F(WithEvidence, DoesNotHideWhyACommandFailed)
 TEST_F(WithEvidence, IsWrittenOfAnUnexpectedFailureAsWell)
 {
     const auto command = []() -> int { throw std::bad_alloc(); };
-    EXPECT_THROW(withEvidence(file_, {}, command), std::bad_alloc);
+    EXPECT_THROW(withEvidence(session_, file_, {}, command), std::bad_alloc);
     EXPECT_EQ(evidence()["exitStatus"], CannotAccess);
 }

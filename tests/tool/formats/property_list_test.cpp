@@ -33,7 +33,7 @@ TEST_P(ToolPropertyList, HasItsValues)
     EXPECT_EQ(list().text({"Inner", "Name"}), "inside");
     EXPECT_TRUE(list().isTrue({"Yes"}));
     EXPECT_FALSE(list().isTrue({"No"}));
-    EXPECT_EQ(list().time({"When"}), 1'700'000'000);
+    EXPECT_EQ(list().time({"When"}), iosphoto::tool::UnixTime{1'700'000'000});
 }
 
 TEST_P(ToolPropertyList, HasNothingWhereAValueIsMissingOrOfAnotherType)

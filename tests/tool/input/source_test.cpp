@@ -1,7 +1,6 @@
 #include "input/source.h"
 
 #include "input/private_copy.h"
-#include "process/failure.h"
 #include "support/archive_builder.h"
 #include "support/source_folder.h"
 
@@ -11,8 +10,11 @@
 using namespace iosphoto::test;
 using iosphoto::tool::PrivateCopy;
 using iosphoto::tool::PrivateFolder;
+using iosphoto::tool::Session;
 using iosphoto::tool::Source;
+using iosphoto::tool::SourceError;
 using iosphoto::tool::SourceKind;
+using iosphoto::tool::UnixTime;
 using testing::ElementsAre;
 
 namespace fs = std::filesystem;
@@ -20,12 +22,13 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char *photo = "DCIM/100APPLE/IMG_0001.JPG";
-constexpr std::int64_t older = 1'500'000'000;
-constexpr std::int64_t newer = 1'600'000'000;
+constexpr UnixTime older = {1'500'000'000};
+constexpr UnixTime newer = {1'600'000'000};
+constexpr UnixTime backedUp = {1'700'000'000};
 
-void setTime(const fs::path &file, std::int64_t seconds)
+void setTime(const fs::path &file, UnixTime moment)
 {
-    const timespec time = {seconds, 0};
+    const timespec time = {moment.seconds, 0};
     const timespec times[] = {time, time};
     ASSERT_EQ(utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
 }
@@ -35,6 +38,8 @@ void setTime(const fs::path &file, std::int64_t seconds)
 class ToolSource : public SourceFolder
 {
 protected:
+    Session session_;
+
     /// A media folder with a photo, whose log is newer than its database.
     fs::path media() const
     {
@@ -63,7 +68,7 @@ protected:
         source.copyOut({{photo, folder / "a"}, {"DCIM/missing.JPG", folder / "b"}});
         EXPECT_EQ(readFile(folder / "a"), "jpeg");
         EXPECT_FALSE(fs::exists(folder / "b"));
-        EXPECT_EQ(source.find("DCIM/missing.JPG"), std::nullopt);
+        EXPECT_FALSE(source.find("DCIM/missing.JPG"));
     }
 
     /// Database and log are there, as they were, and nothing else.
@@ -82,25 +87,25 @@ protected:
 TEST_F(ToolSource, Database)
 {
     const fs::path database = media() / mediaDatabase;
-    const Source source(database.string());
+    const Source source(session_, database.string());
     EXPECT_EQ(source.kind(), SourceKind::Database);
     EXPECT_FALSE(source.isArchive());
     EXPECT_EQ(source.name(), database.string());
     EXPECT_EQ(source.databaseName(), database.string());
     EXPECT_EQ(source.lastChange(), newer);
-    EXPECT_EQ(source.device(), std::nullopt);
+    EXPECT_FALSE(source.device());
     EXPECT_EQ(source.backupDate(), std::nullopt);
     EXPECT_THAT(source.missing(), testing::IsEmpty());
     EXPECT_THAT(source.inputs(),
                 ElementsAre(database, database.string() + "-wal", database.string() + "-journal"));
-    EXPECT_EQ(source.find(photo), std::nullopt);
+    EXPECT_FALSE(source.find(photo));
     expectDatabaseOf(source);
 }
 
 TEST_F(ToolSource, MediaFolder)
 {
     const fs::path folder = media();
-    const Source source(folder.string() + "/");
+    const Source source(session_, folder.string() + "/");
     EXPECT_EQ(source.kind(), SourceKind::MediaFolder);
     EXPECT_EQ(source.name(), folder.string() + "/");
     EXPECT_EQ(source.databaseName(), folder / mediaDatabase);
@@ -113,7 +118,7 @@ TEST_F(ToolSource, MediaFolder)
 
 TEST_F(ToolSource, PathsThatLeaveTheMediaFolderAreNotFollowed)
 {
-    const Source source(media());
+    const Source source(session_, media());
     writeFile(folder_ / "secret", "x");
     EXPECT_EQ(source.find("../secret"), std::nullopt);
     EXPECT_EQ(source.find("DCIM/../../secret"), std::nullopt);
@@ -123,11 +128,11 @@ TEST_F(ToolSource, PathsThatLeaveTheMediaFolderAreNotFollowed)
 TEST_F(ToolSource, Backup)
 {
     const fs::path folder = backup();
-    const Source source(folder.string());
+    const Source source(session_, folder.string());
     EXPECT_EQ(source.kind(), SourceKind::Backup);
     EXPECT_FALSE(source.isArchive());
     EXPECT_EQ(source.lastChange(), newer);
-    EXPECT_EQ(source.backupDate(), 1'700'000'000);
+    EXPECT_EQ(source.backupDate(), backedUp);
     EXPECT_THAT(source.missing(), testing::IsEmpty());
     const BackupBuilder builder(folder);
     EXPECT_EQ(source.databaseName(), builder.stored(mediaDatabase));
@@ -143,7 +148,7 @@ TEST_F(ToolSource, BackupBeforeIos10)
 {
     BackupOptions options;
     options.index = BackupIndexKind::Mbdb;
-    const Source source(backup(options));
+    const Source source(session_, backup(options));
     EXPECT_EQ(source.kind(), SourceKind::Backup);
     EXPECT_EQ(source.lastChange(), newer);
     expectPhoto(source);
@@ -153,7 +158,7 @@ TEST_F(ToolSource, BackupBeforeIos10)
 TEST_F(ToolSource, Archive)
 {
     const fs::path archive = packed(media(), folder_ / "media", zip, "phone/Media");
-    const Source source(archive.string());
+    const Source source(session_, archive.string());
     EXPECT_EQ(source.kind(), SourceKind::MediaFolder);
     EXPECT_TRUE(source.isArchive());
     EXPECT_EQ(source.databaseName(), archive / "phone/Media/PhotoData/Photos.sqlite");
@@ -165,10 +170,10 @@ TEST_F(ToolSource, Archive)
 
 TEST_F(ToolSource, ArchiveOfABackup)
 {
-    const Source source(packed(backup(), folder_ / "backup", tar));
+    const Source source(session_, packed(backup(), folder_ / "backup", tar));
     EXPECT_EQ(source.kind(), SourceKind::Backup);
     EXPECT_TRUE(source.isArchive());
-    EXPECT_EQ(source.backupDate(), 1'700'000'000);
+    EXPECT_EQ(source.backupDate(), backedUp);
     EXPECT_EQ(source.device()->iosVersion, "17.4.1");
     expectPhoto(source);
     expectDatabaseOf(source);
@@ -176,7 +181,7 @@ TEST_F(ToolSource, ArchiveOfABackup)
 
 TEST_F(ToolSource, ExtractedFilesKeepTheirTime)
 {
-    const Source source(packed(media(), folder_ / "media", tar));
+    const Source source(session_, packed(media(), folder_ / "media", tar));
     const PrivateFolder folder;
     source.copyDatabaseTo(folder.path());
     EXPECT_EQ(fs::last_write_time(folder / "Photos.sqlite"),
@@ -186,18 +191,18 @@ TEST_F(ToolSource, ExtractedFilesKeepTheirTime)
 TEST_F(ToolSource, ArchiveThatChangesMeanwhileIsRefused)
 {
     const fs::path archive = packed(media(), folder_ / "media", zip);
-    const Source source(archive);
+    const Source source(session_, archive);
     fs::copy_file(packed(folder_ / "Media/DCIM", folder_ / "other", zip), archive,
                   fs::copy_options::overwrite_existing);
-    EXPECT_THROW(PrivateCopy{source}, iosphoto::tool::Failure);
+    EXPECT_THROW(PrivateCopy(session_, source), SourceError);
 }
 
 TEST_F(ToolSource, DatabaseThatVanishesMeanwhileIsRefused)
 {
     const fs::path database = media() / mediaDatabase;
-    const Source source(database);
+    const Source source(session_, database);
     fs::remove(database);
-    EXPECT_THROW(PrivateCopy{source}, iosphoto::tool::Failure);
+    EXPECT_THROW(PrivateCopy(session_, source), SourceError);
 }
 
 class ToolBackupDevice : public ToolSource, public testing::WithParamInterface<bool>
@@ -208,7 +213,7 @@ TEST_P(ToolBackupDevice, IsThatOfInfo)
 {
     BackupOptions options;
     options.hasBinaryInfo = GetParam();
-    const auto device = Source(backup(options)).device();
+    const auto device = Source(session_, backup(options)).device();
     ASSERT_TRUE(device);
     EXPECT_EQ(device->iosVersion, "17.4.1");
     EXPECT_EQ(device->productType, "iPhone14,2");
@@ -228,14 +233,14 @@ TEST_P(ToolBackupWithoutInfo, DeviceIsThatOfManifest)
 {
     const fs::path folder = backup();
     writeFile(folder / "Info.plist", GetParam());
-    const Source source(folder);
+    const Source source(session_, folder);
     const auto device = source.device();
     ASSERT_TRUE(device);
     EXPECT_EQ(device->iosVersion, "17.4.1");
     EXPECT_EQ(device->productType, "iPhone14,2");
     EXPECT_EQ(device->buildVersion, "");
     EXPECT_EQ(device->recordedIn, "Manifest.plist");
-    EXPECT_EQ(source.backupDate(), 1'700'000'000);
+    EXPECT_EQ(source.backupDate(), backedUp);
 }
 
 INSTANTIATE_TEST_SUITE_P(Contents, ToolBackupWithoutInfo,
@@ -246,8 +251,8 @@ TEST_F(ToolSource, BackupWithoutPropertyListsHasNoDevice)
     const fs::path folder = backup();
     for (const char *name : {"Info.plist", "Manifest.plist"})
         fs::remove(folder / name);
-    const Source source(folder);
-    EXPECT_EQ(source.device(), std::nullopt);
+    const Source source(session_, folder);
+    EXPECT_FALSE(source.device());
     EXPECT_EQ(source.backupDate(), std::nullopt);
     expectDatabaseOf(source);
 }

@@ -31,7 +31,7 @@ TEST_P(StreamingRows, KeepNoMoreThan64KiBUntilTheEnd)
     constexpr int rows = 1000;
     std::ostringstream out;
     const std::unique_ptr<RowWriter> writer = GetParam()(out);
-    writer->begin({"photos", {{"source", "Photos.sqlite"}}}, {{"path", Type::Text}});
+    writer->begin({"photos", {}, {{"source", "Photos.sqlite"}}}, {{"path", Type::Text}});
     for (std::size_t written = cell; written <= rows * cell; written += cell) {
         writer->row({std::string(cell, 'x')});
         ASSERT_GE(out.str().size() + kept, written);

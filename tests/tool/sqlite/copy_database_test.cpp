@@ -11,7 +11,7 @@ TEST(ToolCopyDatabase, ThatIsLockedIsNotSaidToBeDamaged)
 {
     LibraryBuilder library(ios15);
     library.execute("begin exclusive");
-    const CopyDatabase database(library.path(), "Photos.sqlite", "copy it again");
+    const CopyDatabase database(library.path(), "Photos.sqlite");
     try {
         database.isDatabase();
         FAIL();
@@ -25,7 +25,7 @@ TEST(ToolCopyDatabase, ThatIsLockedIsNotSaidToBeDamaged)
 TEST(ToolCopyDatabase, QueryThatWouldRunOnAndOnIsStopped)
 {
     const LibraryBuilder library(ios15);
-    const CopyDatabase database(library.path(), "Photos.sqlite", "copy it again");
+    const CopyDatabase database(library.path(), "Photos.sqlite");
     try {
         database.forEachRow("with recursive endless(i) as (select 1 union all select i + 1 from "
                             "endless) select max(i) from endless",
@@ -33,6 +33,7 @@ TEST(ToolCopyDatabase, QueryThatWouldRunOnAndOnIsStopped)
         FAIL();
     } catch (const Failure &failure) {
         EXPECT_STREQ(failure.what(), "cannot read 'Photos.sqlite': it asks for more work than any "
-                                     "photo library of its size; copy it again");
+                                     "photo library of its size; copy it from the device or the "
+                                     "backup again, its -wal with it");
     }
 }

@@ -1,13 +1,19 @@
 #include "terminal/progress_bar.h"
 
 #include "support/shown_on_terminal.h"
-#include "terminal/messages.h"
 
 #include <gtest/gtest.h>
 
 using iosphoto::test::shownOnTerminal;
 using iosphoto::tool::ProgressBar;
 using iosphoto::tool::progressLine;
+using iosphoto::tool::Terminal;
+
+namespace {
+
+const Terminal terminal;
+
+} // namespace
 
 TEST(ProgressLine, ShowsHowFarACommandIs)
 {
@@ -31,7 +37,7 @@ TEST(ProgressLine, IsOnlyTheNumbersOnATerminalThatIsTooNarrow)
 TEST(ProgressBar, IsShownWhereItTakesLongAndClearedThen)
 {
     const std::string shown = shownOnTerminal([] {
-        ProgressBar progress("writing", 8, std::chrono::seconds(0));
+        ProgressBar progress(terminal, "writing", 8, std::chrono::seconds(0));
         progress.show(2);
     });
     EXPECT_EQ(shown, "\r\x1b[Kwriting [#####               ] 2/8\r\x1b[K");
@@ -39,13 +45,14 @@ TEST(ProgressBar, IsShownWhereItTakesLongAndClearedThen)
 
 TEST(ProgressBar, SparesAShortCommand)
 {
-    EXPECT_EQ(shownOnTerminal([] { ProgressBar("writing", 8).show(8); }), "");
+    EXPECT_EQ(shownOnTerminal([] { ProgressBar(terminal, "writing", 8).show(8); }), "");
 }
 
 TEST(ProgressBar, IsNotShownToWhoWantsItQuiet)
 {
-    iosphoto::tool::beQuiet(true);
-    EXPECT_EQ(shownOnTerminal([] { ProgressBar("writing", 8, std::chrono::seconds(0)).show(2); }),
-              "");
-    iosphoto::tool::beQuiet(false);
+    Terminal quiet;
+    quiet.beQuiet();
+    const std::string shown =
+        shownOnTerminal([&] { ProgressBar(quiet, "writing", 8, std::chrono::seconds(0)).show(2); });
+    EXPECT_EQ(shown, "");
 }

@@ -1,14 +1,11 @@
 #include "input/backup/backup.h"
 
-#include "files/file_use_observer.h"
 #include "formats/property_list.h"
 #include "formats/versions.h"
 #include "input/backup/manifest_db.h"
 #include "input/backup/manifest_mbdb.h"
 #include "input/backup/stored_names.h"
-#include "process/failure.h"
 #include "sqlite/rollback_journal.h"
-#include "text/translate.h"
 
 #include <algorithm>
 
@@ -48,14 +45,17 @@ std::optional<RecordedDevice> recordedDevice(const PropertyList &infoList,
 
 bool isBackup(const FileTree &tree, const std::string &folder)
 {
-    const auto has = [&](const char *name) { return tree.find(joined(folder, name)).has_value(); };
+    const auto has = [&](const char *name) {
+        return tree.find(joinedPath(folder, name)).has_value();
+    };
     // Other programs have a Manifest.db or Manifest.plist too, but not both.
     const bool hasLists = has(manifest) || has(info);
     return has(mbdb) || (has(database) && hasLists) || (has(manifest) && has(info)) ||
            StoredNames(tree, folder).locate(databaseBelowMedia);
 }
 
-Backup::Backup(const FileTree &tree, std::string folder) : tree_(tree), folder_(std::move(folder))
+Backup::Backup(Session &session, const FileTree &tree, std::string folder)
+    : fileUse_(session.files), tree_(tree), folder_(std::move(folder))
 {
     copyRecords();
     readProperties();
@@ -69,13 +69,13 @@ void Backup::copyRecords() const
     std::vector<FileToCopy> files;
     std::vector<fs::path> onDisk;
     for (const char *const name : recordNames) {
-        files.push_back({joined(folder_, name), copies_ / name});
+        files.push_back({joinedPath(folder_, name), copies_ / name});
         if (files.back().target.extension() == ".plist")
             files.back().most = PropertyList::largest;
         if (has(name))
             onDisk.push_back(tree_.onDisk(files.back().path));
     }
-    FileUseObserver::announceReading(onDisk);
+    fileUse_.willRead(onDisk);
     tree_.copyOut(files);
     forgetSuperJournal(copies_ / database);
 }
@@ -88,16 +88,9 @@ void Backup::readProperties()
     for (const auto &[list, name] :
          {std::pair(&infoList, info), std::pair(&manifestList, manifest)})
         if (list->isDamaged())
-            missing_.push_back(
-                translate("'{0}' cannot be read, so what it says of the device and the "
-                          "backup is missing; copy the whole backup again",
-                          shown(name)));
+            missing_.push_back({SourceProblem::DamagedPropertyList, {shown(name)}});
     if (manifestList.isTrue({"IsEncrypted"}))
-        throw Failure(
-            EncryptedBackup,
-            translate("'{0}' is an encrypted backup; make one without encryption, or decrypt "
-                      "it first",
-                      tree_.shown(folder_)));
+        throw SourceError(SourceProblem::EncryptedBackup, {tree_.shown(folder_)});
     device_ = recordedDevice(infoList, manifestList);
     date_ = infoList.time({"Last Backup Date"});
     if (!date_)
@@ -108,14 +101,11 @@ void Backup::readProperties()
 
 void Backup::requireKnownEncryption() const
 {
-    const std::string advice = translate("copy the whole backup again");
     if (isManifestDamaged_ &&
-        !CopyDatabase((copies_ / database).string(), shown(database), advice).isDatabase())
-        throw Failure(
-            CannotAccess,
-            translate("cannot tell whether '{0}' is encrypted, as its {1} and {2} cannot be "
-                      "read; {3}",
-                      tree_.shown(folder_), manifest, database, advice));
+        !CopyDatabase((copies_ / database).string(), shown(database), IfDamaged::CopyBackupAgain)
+             .isDatabase())
+        throw SourceError(SourceProblem::UnknownEncryption,
+                          {tree_.shown(folder_), manifest, database});
 }
 
 std::unique_ptr<BackupIndex> Backup::openIndex()
@@ -136,38 +126,27 @@ void Backup::requireDatabase() const
 {
     const auto path = locate(databaseBelowMedia);
     if (!path)
-        throw Failure(
-            WrongKindOfFile,
-            translate("'{0}' is a backup without a photo library: {1} does not list {2}; make "
-                      "one of the whole device",
-                      tree_.shown(folder_), indexName_, databaseBelowMedia));
+        throw SourceError(SourceProblem::BackupWithoutLibrary,
+                          {tree_.shown(folder_), indexName_, databaseBelowMedia});
     if (!tree_.find(*path))
-        throw Failure(
-            CannotAccess,
-            translate("'{0}' is half a backup: the stored file '{1}' of {2} is not there; "
-                      "copy the whole backup again",
-                      tree_.shown(folder_), tree_.shown(*path), databaseBelowMedia));
+        throw SourceError(SourceProblem::BackupWithoutDatabase,
+                          {tree_.shown(folder_), tree_.shown(*path), databaseBelowMedia});
 }
 
 void Backup::noteWhatIsMissing()
 {
     if (indexName_.empty()) {
-        missing_.push_back(
-            translate("'{0}' has no Manifest.db, so files that belong to its library may "
-                      "be missing; copy the whole backup again",
-                      tree_.shown(folder_)));
+        missing_.push_back({SourceProblem::BackupWithoutIndex, {tree_.shown(folder_)}});
         return;
     }
     bool isLogMissing = false;
     for (const char *const suffix : {"-wal", "-journal"}) {
-        const auto path = locate(std::string(databaseBelowMedia) + suffix);
+        const std::string log = std::string(databaseBelowMedia) + suffix;
+        const auto path = locate(log);
         if (!path || tree_.find(*path))
             continue;
         isLogMissing = true;
-        missing_.push_back(
-            translate("the latest changes are missing: the stored file '{0}' of {1}{2} "
-                      "is not there; copy the whole backup again",
-                      tree_.shown(*path), databaseBelowMedia, suffix));
+        missing_.push_back({SourceProblem::BackupWithoutLog, {tree_.shown(*path), log}});
     }
     if (!isLogMissing)
         noteMissingMedia();
@@ -177,19 +156,18 @@ void Backup::noteMissingMedia()
 {
     const std::vector<std::string> listed = index_->storedFiles();
     const auto absent = std::count_if(listed.begin(), listed.end(), [&](const std::string &path) {
-        return !tree_.find(joined(folder_, path));
+        return !tree_.find(joinedPath(folder_, path));
     });
     if (absent > 0)
-        missing_.push_back(
-            translate("'{0}' is half a backup: {1} of the {2} files of the photo library "
-                      "that {3} lists are missing; copy the whole backup again",
-                      tree_.shown(folder_), absent, listed.size(), indexName_));
+        missing_.push_back({SourceProblem::BackupWithoutMedia,
+                            {tree_.shown(folder_), std::to_string(absent),
+                             std::to_string(listed.size()), indexName_}});
 }
 
 std::optional<std::string> Backup::locate(const std::string &mediaPath) const
 {
     const auto path = index_->locate(mediaPath);
-    return path ? std::make_optional(joined(folder_, *path)) : std::nullopt;
+    return path ? std::make_optional(joinedPath(folder_, *path)) : std::nullopt;
 }
 
 std::vector<std::string> Backup::records() const
@@ -197,18 +175,18 @@ std::vector<std::string> Backup::records() const
     std::vector<std::string> paths;
     for (const char *const name : recordNames)
         if (has(name))
-            paths.push_back(joined(folder_, name));
+            paths.push_back(joinedPath(folder_, name));
     return paths;
 }
 
 bool Backup::has(const std::string &name) const
 {
-    return tree_.find(joined(folder_, name)).has_value();
+    return tree_.find(joinedPath(folder_, name)).has_value();
 }
 
 std::string Backup::shown(const std::string &name) const
 {
-    return tree_.shown(joined(folder_, name));
+    return tree_.shown(joinedPath(folder_, name));
 }
 
 } // namespace iosphoto::tool

@@ -5,6 +5,7 @@
 #include "input/backup/backup_index.h"
 #include "input/library_layout.h"
 #include "input/tree/file_tree.h"
+#include "session/session.h"
 
 #include <memory>
 
@@ -19,14 +20,14 @@ bool isBackup(const FileTree &tree, const std::string &folder);
 class Backup : public LibraryLayout
 {
 public:
-    /// Throws Failure when it is encrypted, has no database, or cannot be read.
-    Backup(const FileTree &tree, std::string folder);
+    /// Throws SourceError when it is encrypted, has no database, or cannot be read.
+    Backup(Session &session, const FileTree &tree, std::string folder);
 
     SourceKind kind() const override { return SourceKind::Backup; }
     std::optional<std::string> locate(const std::string &mediaPath) const override;
     std::optional<RecordedDevice> device() const override { return device_; }
-    std::optional<std::int64_t> backupDate() const override { return date_; }
-    std::vector<std::string> missing() const override { return missing_; }
+    std::optional<UnixTime> backupDate() const override { return date_; }
+    std::vector<SourceFinding> missing() const override { return missing_; }
     std::vector<std::string> records() const override;
 
 private:
@@ -40,14 +41,15 @@ private:
     bool has(const std::string &name) const;
     std::string shown(const std::string &name) const;
 
+    FileUse &fileUse_;
     const FileTree &tree_;
     std::string folder_;
     PrivateFolder copies_; ///< of the records
     std::unique_ptr<BackupIndex> index_;
     std::string indexName_; ///< empty when there is none
     std::optional<RecordedDevice> device_;
-    std::optional<std::int64_t> date_;
-    std::vector<std::string> missing_;
+    std::optional<UnixTime> date_;
+    std::vector<SourceFinding> missing_;
     bool isManifestDamaged_ = false;
 };
 

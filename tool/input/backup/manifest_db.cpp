@@ -1,8 +1,7 @@
 #include "input/backup/manifest_db.h"
 
 #include "input/backup/stored_names.h"
-#include "process/failure.h"
-#include "text/translate.h"
+#include "input/source_problem.h"
 
 namespace iosphoto::tool {
 
@@ -27,19 +26,12 @@ bool isStoredName(const std::string &name)
 } // namespace
 
 ManifestDb::ManifestDb(const std::filesystem::path &copy, std::string shownName)
-    : database_(copy.string(), std::move(shownName), translate("copy the whole backup again"))
+    : database_(copy.string(), std::move(shownName), IfDamaged::CopyBackupAgain)
 {
     if (!database_.isDatabase())
-        throw Failure(CannotAccess,
-                      translate("cannot read '{0}': it is not a SQLite database, or it is "
-                                "encrypted; copy the whole backup again",
-                                database_.shownName()));
+        throw SourceError(SourceProblem::IndexIsNoDatabase, {database_.shownName()});
     if (!database_.areRealTables({"Files"}, ""))
-        throw Failure(
-            WrongKindOfFile,
-            translate("'{0}' is a SQLite database whose tables are not those of a backup; "
-                      "copy the whole backup again",
-                      database_.shownName()));
+        throw SourceError(SourceProblem::IndexHasOtherTables, {database_.shownName()});
     if (!database_.prepares(lookupStatement) || !database_.prepares(listStatement))
         throw database_.unreadable();
 }
@@ -52,10 +44,7 @@ std::optional<std::string> ManifestDb::locate(const std::string &mediaPath) cons
     if (!name)
         return std::nullopt;
     if (!isStoredName(*name))
-        throw Failure(CannotAccess,
-                      translate("'{0}' names a stored file '{1}', which no backup has; "
-                                "copy the whole backup again",
-                                database_.shownName(), *name));
+        throw SourceError(SourceProblem::IndexNamesNoStoredFile, {database_.shownName(), *name});
     return inItsFolder(*name);
 }
 

@@ -12,7 +12,7 @@ namespace iosphoto::tool {
 class ManifestDb : public BackupIndex
 {
 public:
-    /// Throws Failure when it cannot be read, or is no index.
+    /// Throws when it cannot be read, or is no index.
     /// @param copy       a private copy, as SQLite may change it
     /// @param shownName  the file in the backup, for messages
     ManifestDb(const std::filesystem::path &copy, std::string shownName);

@@ -1,8 +1,7 @@
 #include "input/backup/manifest_mbdb.h"
 
+#include "formats/big_endian.h"
 #include "input/backup/stored_names.h"
-#include "process/failure.h"
-#include "text/translate.h"
 
 #include <array>
 #include <fstream>
@@ -31,13 +30,11 @@ public:
 
     unsigned number(int bytes)
     {
-        unsigned value = 0;
-        for (int i = 0; i < bytes; ++i) {
-            char byte = 0;
-            in_.get(byte);
-            value = value << 8U | static_cast<unsigned char>(byte);
-        }
-        return in_ ? value : 0;
+        std::array<char, sizeof(unsigned)> digits = {};
+        in_.read(digits.data(), bytes);
+        return in_ ? static_cast<unsigned>(
+                         bigEndian({digits.data(), static_cast<std::size_t>(bytes)}))
+                   : 0;
     }
 
     std::string text()
@@ -96,23 +93,17 @@ bool isFile(const Record &record)
     return (record.mode & typeMask) == regular;
 }
 
-Failure unreadable(const std::string &shownName, const std::string &reason)
-{
-    return {CannotAccess,
-            translate("cannot read '{0}': {1}; copy the whole backup again", shownName, reason)};
-}
-
 } // namespace
 
 ManifestMbdb::ManifestMbdb(const std::filesystem::path &file, const std::string &shownName)
 {
     MbdbStream stream(file);
     if (!stream.hasMagic())
-        throw unreadable(shownName, translate("it is not the index of a backup"));
+        throw SourceError(SourceProblem::IndexIsSomethingElse, {shownName});
     while (!stream.isAtEnd()) {
         Record record = readRecord(stream);
         if (stream.isCutOff())
-            throw unreadable(shownName, translate("it is cut short"));
+            throw SourceError(SourceProblem::IndexIsCutShort, {shownName});
         if (record.domain == mediaDomain && isFile(record))
             paths_.insert(std::move(record.path));
     }

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_MANIFEST_MBDB_H
 
 #include "input/backup/backup_index.h"
+#include "input/source_problem.h"
 
 #include <filesystem>
 #include <set>
@@ -12,7 +13,7 @@ namespace iosphoto::tool {
 class ManifestMbdb : public BackupIndex
 {
 public:
-    /// Throws Failure when it cannot be read, is something else or ends within a record.
+    /// Throws SourceError when it cannot be read, is something else or ends within a record.
     /// @param shownName  the file in the backup, for messages
     ManifestMbdb(const std::filesystem::path &file, const std::string &shownName);
 

@@ -11,7 +11,7 @@ std::optional<std::string> StoredNames::locate(const std::string &mediaPath) con
 {
     const std::string name = storedName(mediaPath);
     for (const std::string &path : {inItsFolder(name), name})
-        if (tree_.find(joined(folder_, path)))
+        if (tree_.find(joinedPath(folder_, path)))
             return path;
     return std::nullopt;
 }

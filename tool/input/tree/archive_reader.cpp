@@ -3,7 +3,6 @@
 #include "files/new_file.h"
 #include "files/source_file.h"
 #include "input/tree/file_tree.h"
-#include "text/translate.h"
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -145,7 +144,7 @@ void ArchiveReader::copyTo(const fs::path &target, std::uint64_t most)
     NewFile file(target, size());
     la_ssize_t count = 0;
     while ((count = archive_read_data(archive_.get(), buffer.data(), buffer.size())) > 0) {
-        requireNotLarger(joined(file_.string(), path()),
+        requireNotLarger(joinedPath(file_.string(), path()),
                          file.written() + static_cast<std::uint64_t>(count), most);
         if (!file.append({buffer.data(), static_cast<std::size_t>(count)}))
             throw damaged();
@@ -155,20 +154,13 @@ void ArchiveReader::copyTo(const fs::path &target, std::uint64_t most)
     file.close(modified());
 }
 
-Failure ArchiveReader::damaged() const
+SourceError ArchiveReader::damaged() const
 {
     if (archive_read_has_encrypted_entries(archive_.get()) == 1)
-        return {CannotAccess,
-                translate("'{0}' is an encrypted archive; unpack it with its password and "
-                          "name the folder",
-                          file_.string())};
-    const char *const reason = archive_error_string(archive_.get());
-    return {
-        CannotAccess,
-        reason == nullptr
-            ? translate("the archive '{0}' is damaged or cut short; copy it again", file_.string())
-            : translate("the archive '{0}' is damaged or cut short ({1}); copy it again",
-                        file_.string(), reason)};
+        return {SourceProblem::EncryptedArchive, {file_.string()}};
+    if (const char *const reason = archive_error_string(archive_.get()); reason != nullptr)
+        return {SourceProblem::DamagedArchiveBecause, {file_.string(), reason}};
+    return {SourceProblem::DamagedArchive, {file_.string()}};
 }
 
 bool isArchive(const fs::path &file)

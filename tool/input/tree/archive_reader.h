@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_ARCHIVE_READER_H
 #define IOSPHOTO_TOOL_ARCHIVE_READER_H
 
-#include "process/failure.h"
+#include "input/source_problem.h"
 #include "process/utf8_locale.h"
 
 #include <cstdint>
@@ -20,13 +20,14 @@ namespace iosphoto::tool {
 class ArchiveReader
 {
 public:
-    /// Throws Failure when the file cannot be read.
+    /// Throws when the file cannot be read.
     explicit ArchiveReader(const std::filesystem::path &file);
     ~ArchiveReader();
     ArchiveReader(const ArchiveReader &) = delete;
     ArchiveReader &operator=(const ArchiveReader &) = delete;
 
-    /// Goes to the next entry; false after the last. Throws Failure when the archive is damaged.
+    /// Goes to the next entry; false after the last. Throws SourceError when the archive is
+    /// damaged.
     bool next();
 
     /// The path of the entry without "." and slashes in front; empty when it leads out of the
@@ -40,12 +41,12 @@ public:
     std::int64_t modified() const;
 
     /// Writes the content of the entry, which must be a file, to a new file for the owner only.
-    /// Throws Failure when it is damaged, larger than the archive says or than `most` bytes, or
+    /// Throws SourceError when it is damaged, larger than the archive says or than `most` bytes, or
     /// finds no room.
     void copyTo(const std::filesystem::path &target, std::uint64_t most);
 
 private:
-    Failure damaged() const;
+    SourceError damaged() const;
 
     std::filesystem::path file_;
     Utf8Locale locale_;

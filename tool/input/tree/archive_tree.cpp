@@ -3,8 +3,6 @@
 #include "files/new_file.h"
 #include "files/source_file.h"
 #include "input/tree/archive_reader.h"
-#include "process/failure.h"
-#include "text/translate.h"
 
 #include <algorithm>
 #include <set>
@@ -33,7 +31,7 @@ ArchiveTree::ArchiveTree(fs::path archive) : archive_(std::move(archive)), state
         const std::string path = reader.path();
         if (!isOfAPhone(path) || !reader.isFile())
             continue;
-        const Entry entry = {{reader.size().value_or(0), reader.modified()},
+        const Entry entry = {{reader.size().value_or(0), {reader.modified()}},
                              reader.isHardLink(),
                              reader.isEncrypted(),
                              false};
@@ -73,26 +71,17 @@ std::vector<std::string> ArchiveTree::loneFiles() const
 
 std::string ArchiveTree::shown(const std::string &path) const
 {
-    return joined(archive_.string(), path);
-}
-
-std::string ArchiveTree::howToNameOne() const
-{
-    return translate("unpack it and name one of them");
+    return joinedPath(archive_.string(), path);
 }
 
 void ArchiveTree::requirePlain(const std::string &path, const Entry &entry) const
 {
-    std::string reason;
     if (entry.isEncrypted)
-        reason =
-            translate("it is encrypted; unpack the archive with its password and name the folder");
-    else if (entry.isHardLink)
-        reason = translate("it is a link to another entry; unpack the archive and name the folder");
-    else if (entry.isTwice)
-        reason = translate("the archive holds it more than once; unpack it and name the folder");
-    if (!reason.empty())
-        throw Failure(CannotAccess, translate("cannot read '{0}': {1}", shown(path), reason));
+        throw SourceError(SourceProblem::EncryptedEntry, {shown(path)});
+    if (entry.isHardLink)
+        throw SourceError(SourceProblem::LinkedEntry, {shown(path)});
+    if (entry.isTwice)
+        throw SourceError(SourceProblem::RepeatedEntry, {shown(path)});
 }
 
 void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
@@ -113,8 +102,7 @@ void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
         extract(std::move(targets));
     }
     if (!(FileStamp(archive_) == state_))
-        throw Failure(CannotAccess, translate("'{0}' changes while it is read; copy it first",
-                                              archive_.string()));
+        throw SourceError(SourceProblem::ChangingArchive, {archive_.string()});
 }
 
 void ArchiveTree::extract(std::map<std::string, Target> targets) const

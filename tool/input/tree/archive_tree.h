@@ -1,7 +1,7 @@
 #ifndef IOSPHOTO_TOOL_ARCHIVE_TREE_H
 #define IOSPHOTO_TOOL_ARCHIVE_TREE_H
 
-#include "files/consistent_copy.h"
+#include "files/file_stamp.h"
 #include "input/tree/file_tree.h"
 
 #include <map>
@@ -12,7 +12,7 @@ namespace iosphoto::tool {
 class ArchiveTree : public FileTree
 {
 public:
-    /// Reads the index. Throws Failure when the archive is damaged.
+    /// Reads the index. Throws SourceError when the archive is damaged.
     explicit ArchiveTree(std::filesystem::path archive);
 
     std::optional<FileFacts> find(const std::string &path) const override;
@@ -21,7 +21,7 @@ public:
     void copyOut(const std::vector<FileToCopy> &files) const override;
     std::filesystem::path onDisk(const std::string & /*path*/) const override { return archive_; }
     std::string shown(const std::string &path) const override;
-    std::string howToNameOne() const override;
+    bool isArchive() const override { return true; }
 
 private:
     struct Entry
@@ -38,7 +38,7 @@ private:
         std::uint64_t most; ///< bytes
     };
 
-    /// Throws Failure when an entry is not simply a file.
+    /// Throws SourceError when an entry is not simply a file.
     void requirePlain(const std::string &path, const Entry &entry) const;
     void extract(std::map<std::string, Target> targets) const;
 

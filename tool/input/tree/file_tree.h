@@ -1,6 +1,9 @@
 #ifndef IOSPHOTO_TOOL_FILE_TREE_H
 #define IOSPHOTO_TOOL_FILE_TREE_H
 
+#include "input/source_problem.h"
+#include "time/epochs.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <limits>
@@ -14,7 +17,7 @@ namespace iosphoto::tool {
 struct FileFacts
 {
     std::uint64_t size;
-    std::int64_t modified; ///< seconds since 1970
+    UnixTime modified;
 };
 
 /// A file of a tree, and where a copy of it goes.
@@ -26,7 +29,7 @@ struct FileToCopy
 };
 
 /// Files in folders, on disk or in an archive. Paths begin at the top of the tree, without a slash;
-/// the top itself is the empty path. All functions throw Failure when something cannot be read.
+/// the top itself is the empty path. All functions throw when something cannot be read.
 class FileTree
 {
 public:
@@ -46,7 +49,8 @@ public:
     virtual std::vector<std::string> loneFiles() const = 0;
 
     /// Copies files that belong together, as they are at one moment and for the owner's eyes only.
-    /// Those that are not there are passed over. Throws Failure when one is larger than it can be.
+    /// Those that are not there are passed over. Throws SourceError when one is larger than it can
+    /// be.
     virtual void copyOut(const std::vector<FileToCopy> &files) const = 0;
 
     /// The file on disk that is read for that path.
@@ -55,12 +59,19 @@ public:
     /// A path of the tree as messages show it.
     virtual std::string shown(const std::string &path) const = 0;
 
-    /// What to do when only one of the libraries in the tree can be read.
-    virtual std::string howToNameOne() const = 0;
+    /// Whether the tree is an archive, in which a person cannot name a single folder.
+    virtual bool isArchive() const = 0;
 };
 
+/// Throws SourceError when a file, with its name for messages, has more bytes than it can have.
+inline void requireNotLarger(const std::string &shownName, std::uint64_t bytes, std::uint64_t most)
+{
+    if (bytes > most)
+        throw SourceError(SourceProblem::TooLarge, {shownName, std::to_string(most)});
+}
+
 /// `folder` and `name` with a slash in between, where one is needed.
-inline std::string joined(const std::string &folder, const std::string &name)
+inline std::string joinedPath(const std::string &folder, const std::string &name)
 {
     return folder.empty() || name.empty() ? folder + name : folder + "/" + name;
 }

@@ -3,7 +3,6 @@
 #include "files/consistent_copy.h"
 #include "files/source_file.h"
 #include "text/system_error.h"
-#include "text/translate.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -24,8 +23,8 @@ std::optional<FileFacts> FolderTree::find(const std::string &path) const
     struct stat facts = {};
     if (stat(file.c_str(), &facts) == 0)
         return S_ISREG(facts.st_mode)
-                   ? std::make_optional(
-                         FileFacts{static_cast<std::uint64_t>(facts.st_size), facts.st_mtime})
+                   ? std::make_optional(FileFacts{static_cast<std::uint64_t>(facts.st_size),
+                                                  UnixTime{facts.st_mtime}})
                    : std::nullopt;
     if (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG)
         return std::nullopt;
@@ -58,11 +57,6 @@ void FolderTree::copyOut(const std::vector<FileToCopy> &files) const
         copies.push_back({onDisk(file.path), file.target});
     }
     copyConsistently(copies);
-}
-
-std::string FolderTree::howToNameOne() const
-{
-    return translate("name one of them");
 }
 
 } // namespace iosphoto::tool

@@ -17,7 +17,7 @@ public:
     void copyOut(const std::vector<FileToCopy> &files) const override;
     std::filesystem::path onDisk(const std::string &path) const override;
     std::string shown(const std::string &path) const override { return onDisk(path).string(); }
-    std::string howToNameOne() const override;
+    bool isArchive() const override { return false; }
 
 private:
     std::filesystem::path top_;

@@ -1,14 +1,14 @@
 #include "input/backup/manifest_mbdb.h"
 
-#include "process/failure.h"
 #include "support/backup_builder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace iosphoto::test;
-using iosphoto::tool::Failure;
 using iosphoto::tool::ManifestMbdb;
+using iosphoto::tool::SourceError;
+using iosphoto::tool::SourceProblem;
 
 namespace {
 
@@ -26,24 +26,23 @@ protected:
 
     std::filesystem::path file() const { return folder_ / "Manifest.mbdb"; }
 
-    std::string failure() const
+    /// Nothing where it is read.
+    std::optional<SourceProblem> problem() const
     {
         try {
             const ManifestMbdb index(file(), "Manifest.mbdb");
-            return "";
-        } catch (const Failure &failure) {
-            EXPECT_EQ(failure.status(), iosphoto::tool::CannotAccess);
-            return failure.what();
+            return std::nullopt;
+        } catch (const SourceError &error) {
+            EXPECT_THAT(error.finding().facts, testing::ElementsAre("Manifest.mbdb"));
+            return error.finding().kind;
         }
     }
 
     TemporaryFolder folder_;
 };
 
-const std::string cutShort =
-    "cannot read 'Manifest.mbdb': it is cut short; copy the whole backup again";
-const std::string somethingElse =
-    "cannot read 'Manifest.mbdb': it is not the index of a backup; copy the whole backup again";
+constexpr auto cutShort = SourceProblem::IndexIsCutShort;
+constexpr auto somethingElse = SourceProblem::IndexIsSomethingElse;
 
 } // namespace
 
@@ -67,7 +66,10 @@ TEST_F(ToolManifestMbdb, IsRefusedWhereverItWasCut)
     for (std::size_t size = 0; size < whole.size(); ++size) {
         writeFile(file(), whole.substr(0, size));
         const bool isWhole = size == 6 || size == endOfFirst;
-        EXPECT_EQ(failure(), size < 6 ? somethingElse : isWhole ? "" : cutShort) << size;
+        const auto expected = size < 6  ? std::optional(somethingElse)
+                              : isWhole ? std::nullopt
+                                        : std::optional(cutShort);
+        EXPECT_EQ(problem(), expected) << size;
     }
 }
 
@@ -77,7 +79,7 @@ TEST_F(ToolManifestMbdb, LengthsBeyondTheEndAreNotBelieved)
     content[6] = '\xff';
     content[7] = '\xfe';
     writeFile(file(), content);
-    EXPECT_EQ(failure(), cutShort);
+    EXPECT_EQ(problem(), cutShort);
 }
 
 TEST_F(ToolManifestMbdb, OfAnotherKindIsRefused)
@@ -85,5 +87,5 @@ TEST_F(ToolManifestMbdb, OfAnotherKindIsRefused)
     std::string content = readFile(file());
     content[4] = 6;
     writeFile(file(), content);
-    EXPECT_EQ(failure(), somethingElse);
+    EXPECT_EQ(problem(), somethingElse);
 }

@@ -1,12 +1,20 @@
-#include "schema/table_damage.h"
+#include "schema/asset_tables.h"
 
 namespace iosphoto::tool {
+
+std::string assetTableOf(const CopyDatabase &database)
+{
+    for (const char *table : {"ZASSET", "ZGENERICASSET"})
+        if (database.hasTable(table))
+            return table;
+    return {};
+}
 
 bool areAssetTablesDamaged(const CopyDatabase &database)
 {
     bool areDamaged = false;
     for (const std::string &table :
-         {database.assetTable(), std::string("ZADDITIONALASSETATTRIBUTES")})
+         {assetTableOf(database), std::string("ZADDITIONALASSETATTRIBUTES")})
         database.forEachRow("pragma integrity_check(" + table + ")", [&](const QueryRow &row) {
             areDamaged = areDamaged || row.text(0) != "ok";
         });

@@ -1,4 +1,4 @@
-#include "catalogue/reading_stop.h"
+#include "commands/reading_stop.h"
 
 #include "support/case_name.h"
 
@@ -12,7 +12,8 @@ using testing::ElementsAre;
 
 namespace {
 
-const ReadDatabase database = {"Photos.sqlite", "copy it again", 2000};
+constexpr const char *database = "Photos.sqlite";
+constexpr std::int64_t rowLimit = 2000;
 
 CReadReport stoppedIn(Pass::Code pass, int code)
 {
@@ -43,9 +44,9 @@ std::ostream &operator<<(std::ostream &stream, const Stop &stop)
 constexpr Stop stops[] = {
     {"Damage", 11,
      "'Photos.sqlite' is damaged (database disk image is malformed) and photos are missing here; "
-     "copy it again",
+     "copy it from the device or the backup again, its -wal with it",
      "'Photos.sqlite' is damaged (database disk image is malformed) and no photo could be read; "
-     "copy it again"},
+     "copy it from the device or the backup again, its -wal with it"},
     {"FullDisk", 13,
      "'Photos.sqlite' could not be read to its end (database or disk is full) and photos are "
      "missing here; make room where temporary files go, or set TMPDIR to a folder with room",
@@ -76,9 +77,10 @@ constexpr Stop stops[] = {
     {"Work", 9,
      "'Photos.sqlite' could not be read to its end (it asks for more work than any photo library "
      "of "
-     "its size) and photos are missing here; copy it again",
+     "its size) and photos are missing here; copy it from the device or the backup again, its -wal "
+     "with it",
      "cannot read 'Photos.sqlite': it asks for more work than any photo library of its size; copy "
-     "it again"},
+     "it from the device or the backup again, its -wal with it"},
 };
 
 } // namespace
@@ -89,9 +91,9 @@ class ReadingStop : public testing::TestWithParam<Stop>
 
 TEST_P(ReadingStop, SaysWhyAndWhatToDo)
 {
-    EXPECT_THAT(sentencesOf(stoppedIn(Pass::CameraRoll, GetParam().code), database),
+    EXPECT_THAT(sentencesOf(stoppedIn(Pass::CameraRoll, GetParam().code), database, rowLimit),
                 ElementsAre(GetParam().some));
-    const Failure failure = nothingRead(GetParam().code, database);
+    const Failure failure = inWords(NothingRead(database, GetParam().code));
     EXPECT_STREQ(failure.what(), GetParam().nothing);
     EXPECT_EQ(failure.status(), CannotAccess);
 }
@@ -101,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(Codes, ReadingStop, testing::ValuesIn(stops), NameOfCas
 TEST(ReadingStops, SayWhatIsMissing)
 {
     const auto missing = [](Pass::Code pass) {
-        return sentencesOf(stoppedIn(pass, 11), database).front();
+        return sentencesOf(stoppedIn(pass, 11), database, rowLimit).front();
     };
     EXPECT_THAT(missing(Pass::PhotoLibrary), testing::HasSubstr(" and photos are missing here;"));
     EXPECT_THAT(missing(Pass::UserAlbums), testing::HasSubstr(" and albums are missing here;"));
@@ -114,11 +116,12 @@ TEST(ReadingStops, AreSaidOnceForEachReason)
     CReadReport report = stoppedIn(Pass::CameraRoll, 11);
     report.passes.push_back(report.passes.back());
     report.passes.push_back(stoppedIn(Pass::AlbumContents, 4).passes.back());
-    EXPECT_THAT(sentencesOf(report, database),
+    EXPECT_THAT(sentencesOf(report, database, rowLimit),
                 ElementsAre("'Photos.sqlite' is damaged (database disk image is malformed) and "
-                            "photos are missing here; copy it again",
+                            "photos are missing here; copy it from the device or the backup again, "
+                            "its -wal with it",
                             "the tables of 'Photos.sqlite' make more than 2000 rows of its photos, "
                             "as only damage or intent does, and photos are missing from albums "
-                            "here; copy it again"));
-    EXPECT_THAT(sentencesOf({}, database), ElementsAre());
+                            "here; copy it from the device or the backup again, its -wal with it"));
+    EXPECT_THAT(sentencesOf({}, database, rowLimit), ElementsAre());
 }

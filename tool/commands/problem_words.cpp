@@ -1,0 +1,233 @@
+#include "commands/problem_words.h"
+
+#include "catalogue/library.h"
+#include "commands/reading_stop.h"
+#include "input/library_search.h"
+#include "rows/fields.h"
+#include "text/did_you_mean.h"
+#include "text/lists.h"
+#include "text/translate.h"
+
+#include <fmt/args.h>
+
+#include <algorithm>
+
+namespace iosphoto::tool {
+
+namespace {
+
+/// The words for a kind of findings, with places for the facts.
+template <typename Kind>
+struct Wording
+{
+    Kind kind;
+    ExitStatus status;
+    const char *english;
+};
+
+constexpr Wording<SourceProblem> sourceWords[] = {
+    {SourceProblem::VanishedDatabase, CannotAccess,
+     translatable("cannot read '{0}': it is not there any more; check the path")},
+    {SourceProblem::LogIsNoLog, Incomplete,
+     translatable("the -wal of '{0}' is no write-ahead log, so changes that it was to hold are "
+                  "missing; copy it from the device or the backup again, its -wal with it")},
+    {SourceProblem::TooLarge, CannotAccess,
+     translatable("cannot read '{0}': it is larger than {1} bytes, which no such file is; copy the "
+                  "whole backup again")},
+    {SourceProblem::NoLibrary, WrongKindOfFile,
+     translatable("'{0}' holds no photo library: neither {1}, such as in the Media folder of a "
+                  "phone, nor the Manifest.db of a backup; name another source")},
+    {SourceProblem::EncryptedArchive, CannotAccess,
+     translatable("'{0}' is an encrypted archive; unpack it with its password and name the "
+                  "folder")},
+    {SourceProblem::DamagedArchive, CannotAccess,
+     translatable("the archive '{0}' is damaged or cut short; copy it again")},
+    {SourceProblem::DamagedArchiveBecause, CannotAccess,
+     translatable("the archive '{0}' is damaged or cut short ({1}); copy it again")},
+    {SourceProblem::ChangingArchive, CannotAccess,
+     translatable("'{0}' changes while it is read; copy it first")},
+    {SourceProblem::EncryptedEntry, CannotAccess,
+     translatable("cannot read '{0}': it is encrypted; unpack the archive with its password and "
+                  "name the folder")},
+    {SourceProblem::LinkedEntry, CannotAccess,
+     translatable("cannot read '{0}': it is a link to another entry; unpack the archive and name "
+                  "the folder")},
+    {SourceProblem::RepeatedEntry, CannotAccess,
+     translatable("cannot read '{0}': the archive holds it more than once; unpack it and name the "
+                  "folder")},
+    {SourceProblem::EncryptedBackup, EncryptedBackup,
+     translatable("'{0}' is an encrypted backup; make one without encryption, or decrypt it "
+                  "first")},
+    {SourceProblem::UnknownEncryption, CannotAccess,
+     translatable("cannot tell whether '{0}' is encrypted, as its {1} and {2} cannot be read; copy "
+                  "the whole backup again")},
+    {SourceProblem::BackupWithoutLibrary, WrongKindOfFile,
+     translatable("'{0}' is a backup without a photo library: {1} does not list {2}; make one of "
+                  "the whole device")},
+    {SourceProblem::BackupWithoutDatabase, CannotAccess,
+     translatable("'{0}' is half a backup: the stored file '{1}' of {2} is not there; copy the "
+                  "whole backup again")},
+    {SourceProblem::BackupWithoutIndex, Incomplete,
+     translatable("'{0}' has no Manifest.db, so files that belong to its library may be missing; "
+                  "copy the whole backup again")},
+    {SourceProblem::BackupWithoutLog, Incomplete,
+     translatable("the latest changes are missing: the stored file '{0}' of {1} is not there; copy "
+                  "the whole backup again")},
+    {SourceProblem::BackupWithoutMedia, Incomplete,
+     translatable("'{0}' is half a backup: {1} of the {2} files of the photo library that {3} "
+                  "lists are missing; copy the whole backup again")},
+    {SourceProblem::DamagedPropertyList, Incomplete,
+     translatable("'{0}' cannot be read, so what it says of the device and the backup is missing; "
+                  "copy the whole backup again")},
+    {SourceProblem::IndexIsNoDatabase, CannotAccess,
+     translatable("cannot read '{0}': it is not a SQLite database, or it is encrypted; copy the "
+                  "whole backup again")},
+    {SourceProblem::IndexHasOtherTables, WrongKindOfFile,
+     translatable("'{0}' is a SQLite database whose tables are not those of a backup; copy the "
+                  "whole backup again")},
+    {SourceProblem::IndexNamesNoStoredFile, CannotAccess,
+     translatable("'{0}' names a stored file '{1}', which no backup has; copy the whole backup "
+                  "again")},
+    {SourceProblem::IndexIsSomethingElse, CannotAccess,
+     translatable("cannot read '{0}': it is not the index of a backup; copy the whole backup "
+                  "again")},
+    {SourceProblem::IndexIsCutShort, CannotAccess,
+     translatable("cannot read '{0}': it is cut short; copy the whole backup again")},
+};
+
+constexpr Wording<SchemaProblem> schemaWords[] = {
+    {SchemaProblem::EmptyFile, WrongKindOfFile,
+     translatable("'{0}' is empty; copy it from the device or the backup again")},
+    {SchemaProblem::NoDatabase, WrongKindOfFile,
+     translatable("'{0}' is not a SQLite database, or it is encrypted; name the Photos.sqlite of a "
+                  "phone or of an unencrypted backup")},
+    {SchemaProblem::TooOld, SchemaDoesNotFit,
+     translatable("'{0}' is a photo database of iOS 5 or earlier, which is not known; libraries of "
+                  "iOS 6 to 18 can be read")},
+    {SchemaProblem::NoPhotoLibrary, WrongKindOfFile,
+     translatable("'{0}' is a SQLite database without a photo library; name the Photos.sqlite of a "
+                  "phone or backup")},
+    {SchemaProblem::OtherTables, WrongKindOfFile,
+     translatable("'{0}' is a SQLite database whose tables are not those of a photo library; name "
+                  "the Photos.sqlite of a phone or backup")},
+    {SchemaProblem::NewerSchema, SchemaDoesNotFit,
+     translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet; look for a "
+                  "newer iosphoto")},
+    {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
+     translatable("'{0}' is a photo database of no known schema: no iOS from 6 to 18 has these "
+                  "tables; look for a newer iosphoto")},
+    {SchemaProblem::OtherDevice, SchemaDoesNotFit,
+     translatable("'{0}' is a photo database, but not of iOS {1} and {2}; try --ios {3} --product "
+                  "{4}")},
+    {SchemaProblem::ReadLikeNewest, Good,
+     translatable("iOS {0} is newer than all that are known, so it is read like iOS {1}; check a "
+                  "few photos against the device")},
+    {SchemaProblem::OtherIos, Good,
+     translatable("the database has the schema of {0}, not of iOS {1}, and photos may be wrong or "
+                  "missing; try --ios {2}")},
+};
+
+constexpr Wording<OutputProblem> outputWords[] = {
+    {OutputProblem::InUse, CannotAccess,
+     translatable("cannot write '{0}': '{1}' lies beside it; close what uses it, or choose another "
+                  "name")},
+    {OutputProblem::NotOurs, CannotAccess,
+     translatable("'{0}' is there and was not written by iosphoto --sqlite, so it is not replaced; "
+                  "choose another name")},
+    {OutputProblem::Unwritten, CannotAccess,
+     translatable("cannot write '{0}': {1}; choose another place for the output")},
+};
+
+/// Whether a table has words for every kind up to the last, in their order.
+template <typename Kind, std::size_t count>
+constexpr bool hasAll(const Wording<Kind> (&wordings)[count], Kind last)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        if (static_cast<std::size_t>(wordings[i].kind) != i)
+            return false;
+    return static_cast<std::size_t>(last) + 1 == count;
+}
+
+static_assert(hasAll(sourceWords, SourceProblem::IndexIsCutShort));
+static_assert(hasAll(schemaWords, SchemaProblem::OtherIos));
+static_assert(hasAll(outputWords, OutputProblem::Unwritten));
+
+std::string filledIn(const char *english, const std::vector<std::string> &facts)
+{
+    fmt::dynamic_format_arg_store<fmt::format_context> arguments;
+    for (const std::string &fact : facts)
+        arguments.push_back(fact);
+    return fmt::vformat(translateTerm(english), arguments);
+}
+
+template <typename Kind, std::size_t count>
+Failure wordsFor(const Wording<Kind> (&wordings)[count], const Finding<Kind> &finding)
+{
+    const Wording<Kind> &wording = wordings[static_cast<std::size_t>(finding.kind)];
+    return {wording.status, filledIn(wording.english, finding.facts)};
+}
+
+Failure inWords(const SeveralLibraries &libraries)
+{
+    constexpr std::size_t mostNames = 5;
+    const std::size_t count = libraries.names.size();
+    std::string what = libraries.areBackups ? translate("{0} backups", count)
+                                            : translate("{0} photo libraries", count);
+    if (count > SeveralLibraries::mostCounted)
+        what = translate("more than {0} libraries", SeveralLibraries::mostCounted);
+    const std::vector<std::string> named(
+        libraries.names.begin(),
+        libraries.names.begin() + static_cast<std::ptrdiff_t>(std::min(count, mostNames)));
+    const std::string names =
+        listForPeople(named, [](const std::string &name) { return translate("'{0}'", name); });
+    return {WrongUsage,
+            translate("'{0}' holds {1}; {2}: {3}", libraries.source, what,
+                      libraries.areInArchive ? translate("unpack it and name one of them")
+                                             : translate("name one of them"),
+                      count > mostNames ? translate("{0} and more", names) : names)};
+}
+
+Failure inWords(const UnknownField &field)
+{
+    return {WrongUsage, translate("--fields: there is no field '{0}'; there are {1}", field.key,
+                                  joinedTexts(field.known, ", ")) +
+                            didYouMean(field.key, field.known)};
+}
+
+} // namespace
+
+Failure inWords(const SourceFinding &finding)
+{
+    return wordsFor(sourceWords, finding);
+}
+
+Failure inWords(const SchemaFinding &finding)
+{
+    return wordsFor(schemaWords, finding);
+}
+
+Failure inWords(const Finding<OutputProblem> &finding)
+{
+    return wordsFor(outputWords, finding);
+}
+
+ExitStatus runWithWords(const std::function<ExitStatus()> &command)
+{
+    try {
+        return command();
+    } catch (const SourceError &error) {
+        throw inWords(error.finding());
+    } catch (const SchemaError &error) {
+        throw inWords(error.finding());
+    } catch (const OutputError &error) {
+        throw inWords(error.finding());
+    } catch (const NothingRead &nothing) {
+        throw inWords(nothing);
+    } catch (const SeveralLibraries &libraries) {
+        throw inWords(libraries);
+    } catch (const UnknownField &field) {
+        throw inWords(field);
+    }
+}
+
+} // namespace iosphoto::tool

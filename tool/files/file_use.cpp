@@ -1,0 +1,63 @@
+#include "files/file_use.h"
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+void FileUse::protectFiles(const std::vector<fs::path> &files)
+{
+    for (const fs::path &file : files)
+        protectedFiles_.add(file);
+}
+
+void FileUse::protectFolder(const fs::path &folder)
+{
+    protectedFolders_.add(folder);
+}
+
+bool FileUse::isProtected(const fs::path &file) const
+{
+    return protectedFiles_.contains(file) || isInProtectedFolder(file);
+}
+
+bool FileUse::isInProtectedFolder(const fs::path &file) const
+{
+    std::error_code error;
+    fs::path folder = fs::weakly_canonical(fs::absolute(file, error), error).parent_path();
+    for (; folder.has_relative_path(); folder = folder.parent_path())
+        if (protectedFolders_.contains(folder))
+            return true;
+    return false;
+}
+
+void FileUse::willRead(const std::vector<fs::path> &files)
+{
+    if (observer_ != nullptr)
+        observer_->willRead(files);
+}
+
+void FileUse::willWrite(const fs::path &file)
+{
+    if (observer_ != nullptr)
+        observer_->willWrite(file);
+}
+
+void FileUse::wrote(const fs::path &file, const QByteArray &content)
+{
+    if (observer_ != nullptr)
+        observer_->wrote(file, content);
+}
+
+void FileUse::wroteWhole(const fs::path &file)
+{
+    if (observer_ != nullptr)
+        observer_->wroteWhole(file);
+}
+
+void FileUse::printed(const char *bytes, std::size_t size)
+{
+    if (observer_ != nullptr)
+        observer_->printed(bytes, size);
+}
+
+} // namespace iosphoto::tool

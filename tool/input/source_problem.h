@@ -1,0 +1,42 @@
+#ifndef IOSPHOTO_TOOL_SOURCE_PROBLEM_H
+#define IOSPHOTO_TOOL_SOURCE_PROBLEM_H
+
+#include "process/finding.h"
+
+namespace iosphoto::tool {
+
+/// What can be wrong with a source, or missing from it, with the facts of each in their order. A
+/// file is named as a person finds it: one of an archive with the archive in front.
+enum class SourceProblem {
+    VanishedDatabase,       ///< file
+    LogIsNoLog,             ///< database; its -wal is something else
+    TooLarge,               ///< file, the bytes that it can have
+    NoLibrary,              ///< source, path of the database below Media
+    EncryptedArchive,       ///< archive
+    DamagedArchive,         ///< archive
+    DamagedArchiveBecause,  ///< archive, reason
+    ChangingArchive,        ///< archive
+    EncryptedEntry,         ///< file
+    LinkedEntry,            ///< file
+    RepeatedEntry,          ///< file
+    EncryptedBackup,        ///< backup
+    UnknownEncryption,      ///< backup, its property list, its index
+    BackupWithoutLibrary,   ///< backup, its index, path of the database below Media
+    BackupWithoutDatabase,  ///< backup, file, path of the database below Media
+    BackupWithoutIndex,     ///< backup
+    BackupWithoutLog,       ///< file, path of the log below Media
+    BackupWithoutMedia,     ///< backup, how many files, of how many, its index
+    DamagedPropertyList,    ///< file
+    IndexIsNoDatabase,      ///< file
+    IndexHasOtherTables,    ///< file
+    IndexNamesNoStoredFile, ///< file, the name
+    IndexIsSomethingElse,   ///< file
+    IndexIsCutShort,        ///< file
+};
+
+using SourceFinding = Finding<SourceProblem>;
+using SourceError = FindingError<SourceProblem>;
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_SOURCE_PROBLEM_H

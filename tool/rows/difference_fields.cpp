@@ -1,0 +1,160 @@
+#include "rows/difference_fields.h"
+
+#include "rows/library_head.h"
+#include "text/json.h"
+#include "text/translate.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+using Row = DifferenceRow;
+
+ListItem itemOf(const char *name)
+{
+    return {oneLine(name), name, translateTerm(name)};
+}
+
+Items itemsOf(const AlbumItems &items, const std::vector<const CAlbumGroup *> &albums)
+{
+    Items chosen;
+    for (const CAlbumGroup *album : albums)
+        chosen.push_back(items.of(*album));
+    return chosen;
+}
+
+template <typename Kind>
+Items itemsOf(const std::map<Kind, ListItem> &items, const std::vector<Kind> &kinds)
+{
+    Items chosen;
+    for (const Kind kind : kinds)
+        chosen.push_back(&items.at(kind));
+    return chosen;
+}
+
+std::optional<CPhotoData> factsOf(const std::optional<Asset> &asset)
+{
+    return asset ? std::optional(asset->facts()) : std::nullopt;
+}
+
+std::vector<Field<Row>> fieldsOfTheChange()
+{
+    return {
+        {{"uuid", Type::Text}, [](const Row &row) { return knownText(row.photo.latest().uuid()); }},
+        {{"path", Type::Path}, [](const Row &row) { return Value(row.photo.latest().path()); }},
+        {{"changes", Type::List}, [](const Row &row) { return Value(row.changes); }},
+        {{"addedTo", Type::List}, [](const Row &row) { return Value(row.addedTo); }},
+        {{"removedFrom", Type::List}, [](const Row &row) { return Value(row.removedFrom); }},
+        {{"changedFields", Type::List}, [](const Row &row) { return Value(row.changedFields); }},
+    };
+}
+
+using Side = std::optional<CPhotoData> DifferenceRow::*;
+
+template <Side side, auto member>
+Value numberOn(const Row &row)
+{
+    return row.*side ? Value(std::int64_t((row.*side).value().*member)) : Value();
+}
+
+template <Side side, bool CPhotoData::*member>
+Value flagOn(const Row &row)
+{
+    return row.*side ? Value((row.*side).value().*member) : Value();
+}
+
+template <Side side, QString CPhotoData::*member>
+Value textOn(const Row &row)
+{
+    return row.*side ? Value(((row.*side).value().*member).toStdString()) : Value();
+}
+
+template <Side side, double CPhotoData::*member>
+Value timeOn(const Row &row)
+{
+    return row.*side ? timeValue(CoreDataTime{(row.*side).value().*member}) : Value();
+}
+
+/// The facts that are compared, and the folder.
+template <Side side>
+std::vector<Field<Row>> factsOn(const std::string &group)
+{
+    using Photo = CPhotoData;
+    return {
+        {{group + ".directory", Type::Text}, textOn<side, &Photo::directory>},
+        {{group + ".fileName", Type::Text}, textOn<side, &Photo::fileName>},
+        {{group + ".created", Type::Time}, timeOn<side, &Photo::createdTime>},
+        {{group + ".modified", Type::Time}, timeOn<side, &Photo::modifiedTime>},
+        {{group + ".fileSize", Type::Bytes}, numberOn<side, &Photo::fileSize>},
+        {{group + ".width", Type::Number}, numberOn<side, &Photo::width>},
+        {{group + ".height", Type::Number}, numberOn<side, &Photo::height>},
+        {{group + ".isEdited", Type::Flag}, flagOn<side, &Photo::isEdited>},
+        {{group + ".isFavorite", Type::Flag}, flagOn<side, &Photo::isFavorite>},
+        {{group + ".isHidden", Type::Flag}, flagOn<side, &Photo::isHidden>},
+        {{group + ".isDeleted", Type::Flag}, flagOn<side, &Photo::isDeleted>},
+    };
+}
+
+Json referenceOrNull(const CAlbumGroup *album)
+{
+    return album != nullptr ? albumReference(*album) : Json();
+}
+
+template <typename Changes>
+Json countsOf(const LibraryDifference &difference, const Changes &changes)
+{
+    Json counts;
+    for (const auto change : changes)
+        counts[changeName(change)] = difference.count(change);
+    return counts;
+}
+
+} // namespace
+
+DifferenceRows::DifferenceRows(const Library &before, const Library &after)
+    : albumsBefore_(before.albums()), albumsAfter_(after.albums())
+{
+    for (const Change change : allChanges)
+        changes_[change] = itemOf(changeName(change));
+    for (const ChangedField field : allChangedFields)
+        changedFields_[field] = itemOf(fieldName(field));
+}
+
+DifferenceRow DifferenceRows::of(const PhotoDifference &photo) const
+{
+    return {photo,
+            factsOf(photo.before),
+            factsOf(photo.after),
+            itemsOf(changes_, photo.changes),
+            itemsOf(albumsAfter_, photo.addedTo),
+            itemsOf(albumsBefore_, photo.removedFrom),
+            itemsOf(changedFields_, photo.changedFields)};
+}
+
+FieldTable<DifferenceRow> differenceFields()
+{
+    FieldTable<DifferenceRow> table;
+    for (const auto &part :
+         {fieldsOfTheChange(), factsOn<&Row::before>("before"), factsOn<&Row::after>("after")})
+        table.fields.insert(table.fields.end(), part.begin(), part.end());
+    return table;
+}
+
+RowsHead differenceHead(const Library &before, const Library &after,
+                        const LibraryDifference &difference)
+{
+    Json albums = Json::array();
+    for (const AlbumDifference &album : difference.albums)
+        albums.push_back({{"change", changeName(album.change)},
+                          {"before", referenceOrNull(album.before)},
+                          {"after", referenceOrNull(album.after)}});
+    return {"photos",
+            {{"a", libraryHead(before)},
+             {"b", libraryHead(after)},
+             {"photoCounts", countsOf(difference, allChanges)},
+             {"albumCounts", countsOf(difference, allAlbumChanges)},
+             {"albums", std::move(albums)}},
+            {{"a", before.name()}, {"b", after.name()}}};
+}
+
+} // namespace iosphoto::tool

@@ -1,0 +1,28 @@
+#ifndef IOSPHOTO_TOOL_SCHEMA_PROBLEM_H
+#define IOSPHOTO_TOOL_SCHEMA_PROBLEM_H
+
+#include "process/finding.h"
+
+namespace iosphoto::tool {
+
+/// Why a database is not read as a photo library, or perhaps not read as it should be, with the
+/// facts of each in their order.
+enum class SchemaProblem {
+    EmptyFile,      ///< database
+    NoDatabase,     ///< database; it may be encrypted
+    TooOld,         ///< database
+    NoPhotoLibrary, ///< database
+    OtherTables,    ///< database
+    NewerSchema,    ///< database, its iOS
+    UnknownSchema,  ///< database
+    OtherDevice,    ///< database, iOS, model, the iOS and the model that it fits
+    ReadLikeNewest, ///< iOS, the newest that is known
+    OtherIos,       ///< the schema, iOS, the iOS to try
+};
+
+using SchemaFinding = Finding<SchemaProblem>;
+using SchemaError = FindingError<SchemaProblem>;
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_SCHEMA_PROBLEM_H
