@@ -1,6 +1,7 @@
 #include "files/output_file.h"
 
 #include "files/atomic_file.h"
+#include "files/disk_sync.h"
 #include "files/file_use_observer.h"
 #include "files/protected_sources.h"
 #include "process/failure.h"
@@ -28,6 +29,16 @@ void requirePlaceForFile(const fs::path &file)
         throw cannotWrite(file, translate("it is a folder; name a file in it"));
     if (fs::exists(status) && !fs::is_regular_file(status))
         throw cannotWrite(file, translate("it is not a file; name a file"));
+}
+
+void write(const fs::path &file, const QByteArray &content, const fs::path &source,
+           void (AtomicFile::*finish)())
+{
+    AtomicFile atomic(outputPlace(file, source));
+    atomic.write(content);
+    (atomic.*finish)();
+    if (FileUseObserver *const observer = FileUseObserver::current())
+        observer->wrote(file, content);
 }
 
 } // namespace
@@ -63,16 +74,14 @@ fs::path outputPlace(const fs::path &file, const fs::path &source)
 
 void writeOutput(const fs::path &file, const QByteArray &content, const fs::path &source)
 {
-    AtomicFile atomic(outputPlace(file, source));
-    atomic.write(content);
-    atomic.finish();
-    if (FileUseObserver *const observer = FileUseObserver::current())
-        observer->wrote(file, content);
+    write(file, content, source, &AtomicFile::finish);
 }
 
-void makeOutputFolder(const fs::path &folder)
+OutputFolder::OutputFolder(const fs::path &folder) : folder_(folder), changed_({folder})
 {
     std::error_code error;
+    for (fs::path each = fs::absolute(folder); !fs::exists(each, error); each = each.parent_path())
+        changed_.push_back(each.parent_path());
     fs::create_directories(folder, error);
     if (!error && !fs::is_directory(folder))
         error = std::make_error_code(std::errc::not_a_directory);
@@ -80,6 +89,19 @@ void makeOutputFolder(const fs::path &folder)
         throw Failure(CannotAccess, translate("cannot make the folder '{0}': {1}; choose another "
                                               "place for the output",
                                               folder.string(), systemError(error.value())));
+}
+
+void OutputFolder::write(const std::string &name, const QByteArray &content,
+                         const fs::path &source) const
+{
+    tool::write(folder_ / name, content, source, &AtomicFile::finishInFolder);
+}
+
+void OutputFolder::finish() const
+{
+    for (const fs::path &folder : changed_)
+        if (const std::error_code error = syncFolder(folder))
+            throw cannotWrite(folder, error);
 }
 
 } // namespace iosphoto::tool

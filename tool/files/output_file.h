@@ -6,6 +6,8 @@
 #include <QByteArray>
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -30,8 +32,23 @@ void requireWritable(const std::filesystem::path &file);
 /// Throws Failure when an output `file` is one of the sources.
 void requireOther(const std::filesystem::path &file, const FileSet &sources);
 
-/// Makes a folder for output, with those above it. Throws Failure when that cannot be done.
-void makeOutputFolder(const std::filesystem::path &folder);
+/// A folder for many outputs, which is synced once: that takes as long as to write one of them.
+class OutputFolder
+{
+public:
+    /// Makes it, with those above it. Throws Failure when that cannot be done.
+    explicit OutputFolder(const std::filesystem::path &folder);
+
+    /// As writeOutput() does, but for what a power cut may undo before finish().
+    void write(const std::string &name, const QByteArray &content,
+               const std::filesystem::path &source) const;
+
+    void finish() const;
+
+private:
+    std::filesystem::path folder_;
+    std::vector<std::filesystem::path> changed_; ///< the folders in which names are new
+};
 
 } // namespace iosphoto::tool
 

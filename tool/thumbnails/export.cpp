@@ -61,18 +61,18 @@ WrittenFiles exportOne(const ThumbCache &cache, const Thumbnail &thumbnail, cons
 
 WrittenFiles exportAll(const ThumbCache &cache, const std::string &folder, bool asPng)
 {
-    makeOutputFolder(folder);
+    const OutputFolder output(folder);
     const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
     ProgressBar progress(translate("writing thumbnails"), static_cast<int>(thumbnails.size()));
     WrittenFiles written;
     for (const Thumbnail &thumbnail : thumbnails) {
         const std::string name =
             paddedIndex(thumbnail.index, thumbnails.back().index) + (asPng ? ".png" : ".bmp");
-        const fs::path file = fs::path(folder) / name;
-        writeOutput(file, content(cache, thumbnail, asPng), cache.file());
-        written[thumbnail.index] = file.string();
+        output.write(name, content(cache, thumbnail, asPng), cache.file());
+        written[thumbnail.index] = (fs::path(folder) / name).string();
         progress.show(static_cast<int>(written.size()));
     }
+    output.finish();
     return written;
 }
 
