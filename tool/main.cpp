@@ -36,17 +36,17 @@ int run(int argumentCount, char **arguments)
     for (const Command &command : commands)
         addEvidenceOption(*command.options, evidence);
     addGeneralOptions(app, "iosphoto " IOSPHOTO_VERSION);
+    const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() == 0) // --help, --version
             return app.exit(error);
-        throw wrongUsage(app, error);
+        throw wrongUsage(app, commandLine, error);
     }
     const auto *const wanted =
         std::find_if(std::begin(commands), std::end(commands),
                      [](const Command &command) { return command.options->parsed(); });
-    const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
     return withEvidence(evidence, commandLine, [&] { return wanted->run(std::cout); });
 }
 

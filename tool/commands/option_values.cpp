@@ -1,10 +1,17 @@
 #include "commands/option_values.h"
 
+#include "process/failure.h"
 #include "text/translate.h"
 
 #include <QRegularExpression>
 
 namespace iosphoto::tool {
+
+void refuseAsTooLarge(const std::string &digits, const std::string &option)
+{
+    throw Failure(WrongUsage, translate("{0} = {1}: the number is too large; see iosphoto --help",
+                                        option, digits));
+}
 
 CLI::Validator looksLike(const char *pattern, const std::string &example)
 {
