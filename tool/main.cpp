@@ -4,6 +4,7 @@
 #include "evidence/evidence.h"
 #include "interruption_watch.h"
 #include "process/failure.h"
+#include "process/standard_descriptors.h"
 #include "standard_output.h"
 #include "terminal/messages.h"
 #include "text/translate.h"
@@ -54,6 +55,7 @@ int run(int argumentCount, char **arguments)
 
 int main(int argumentCount, char **arguments)
 {
+    occupyStandardDescriptors();
     for (const int signal : {SIGXFSZ, SIGPIPE}) // a write that fails is an error like others
         std::signal(signal, SIG_IGN);
     try {
