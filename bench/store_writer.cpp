@@ -63,25 +63,25 @@ insert into ZGENERICALBUM (
 
 constexpr char insertMembership[] = "insert into Z_27ASSETS values (?1, ?2, ?2 * 1024)";
 
-void bind(sqlite3_stmt *statement, int place, int value)
+int bind(sqlite3_stmt *statement, int place, int value)
 {
-    sqlite3_bind_int(statement, place, value);
+    return sqlite3_bind_int(statement, place, value);
 }
 
-void bind(sqlite3_stmt *statement, int place, std::int64_t value)
+int bind(sqlite3_stmt *statement, int place, std::int64_t value)
 {
-    sqlite3_bind_int64(statement, place, value);
+    return sqlite3_bind_int64(statement, place, value);
 }
 
-void bind(sqlite3_stmt *statement, int place, double value)
+int bind(sqlite3_stmt *statement, int place, double value)
 {
-    sqlite3_bind_double(statement, place, value);
+    return sqlite3_bind_double(statement, place, value);
 }
 
-void bind(sqlite3_stmt *statement, int place, const std::string &value)
+int bind(sqlite3_stmt *statement, int place, const std::string &value)
 {
-    sqlite3_bind_text(statement, place, value.data(), static_cast<int>(value.size()),
-                      SQLITE_STATIC);
+    return sqlite3_bind_text64(statement, place, value.data(), value.size(), SQLITE_STATIC,
+                               SQLITE_UTF8);
 }
 
 /// In the trash until 2040, so that the albums do not depend on the day of the run.
@@ -174,7 +174,7 @@ template <typename... Values>
 void StoreWriter::insert(const PreparedStatement &statement, const Values &...values) const
 {
     int place = 0;
-    (bind(statement.get(), ++place, values), ...);
+    (check(bind(statement.get(), ++place, values)), ...);
     check(sqlite3_step(statement.get()));
     check(sqlite3_reset(statement.get()));
 }

@@ -5,6 +5,7 @@
 #include "evidence/evidence.h"
 #include "interruption_watch.h"
 #include "process/failure.h"
+#include "process/standard_descriptors.h"
 #include "session/session.h"
 #include "standard_output.h"
 #include "text/translate.h"
@@ -37,17 +38,17 @@ int run(Session &session, int argumentCount, char **arguments)
     for (const Command &command : commands)
         addEvidenceOption(*command.options, evidence);
     addGeneralOptions(app, session.terminal, "iosphoto " IOSPHOTO_VERSION);
+    const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
     try {
         app.parse(argumentCount, arguments);
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() == 0) // --help, --version
             return app.exit(error);
-        throw wrongUsage(app, error);
+        throw wrongUsage(app, commandLine, error);
     }
     const auto *const wanted =
         std::find_if(std::begin(commands), std::end(commands),
                      [](const Command &command) { return command.options->parsed(); });
-    const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
     return withEvidence(session, evidence, commandLine, [&] {
         return runWithWords([&] { return wanted->run(session, std::cout); });
     });
@@ -57,6 +58,7 @@ int run(Session &session, int argumentCount, char **arguments)
 
 int main(int argumentCount, char **arguments)
 {
+    occupyStandardDescriptors();
     for (const int signal : {SIGXFSZ, SIGPIPE}) // a write that fails is an error like others
         std::signal(signal, SIG_IGN);
     Session session;

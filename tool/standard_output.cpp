@@ -1,6 +1,7 @@
 #include "standard_output.h"
 
 #include "process/interruption_lock.h"
+#include "text/system_error.h"
 #include "text/translate.h"
 
 #include <cerrno>
@@ -14,6 +15,16 @@ namespace iosphoto::tool {
 namespace {
 
 constexpr std::size_t bufferSize = std::size_t{64} * 1024;
+
+/// What an error number of a write says, and what to do.
+std::string reasonOf(int error)
+{
+    if (error == EBADF)
+        return translate("standard output is closed; send it to a terminal, a file or a program");
+    if (error == ENOSPC)
+        return translate("the disk is full; make room, or choose another place for the output");
+    return translate("{0}; choose another place for the output", systemError(error));
+}
 
 } // namespace
 
@@ -77,7 +88,7 @@ void StandardOutput::writeAll(const char *bytes, std::size_t size)
         if (step < 0 && errno == EPIPE)
             throw OutputClosed();
         if (step < 0)
-            throw Failure(CannotAccess, translate("cannot write the output; is the disk full?"));
+            throw Failure(CannotAccess, translate("cannot write the output: {0}", reasonOf(errno)));
         const auto written = static_cast<std::size_t>(step);
         files_.printed(bytes, written);
         bytes += written;

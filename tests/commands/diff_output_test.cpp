@@ -141,8 +141,8 @@ TEST_F(ToolDiffOutput, CsvHasTheFactsAsColumns)
             "before.isEdited,before.isFavorite,before.isHidden,before.isDeleted,after.directory,"
             "after.fileName,after.created,after.modified,after.fileSize,after.width,after.height,"
             "after.isEdited,after.isFavorite,after.isHidden,after.isDeleted\r\n"
-            "A0000000-0000-0000-0000-000000000001,DCIM/100APPLE/IMG_0001.JPG,edited; moved; "
-            "changed,\"Line\n🎉\",,isFavorite,DCIM/100APPLE,IMG_0001.JPG," +
+            "A0000000-0000-0000-0000-000000000001,DCIM/100APPLE/IMG_0001.JPG,\"edited; moved; "
+            "changed\",\"Line\n🎉\",,isFavorite,DCIM/100APPLE,IMG_0001.JPG," +
                 time + ",1000,4032,3024,false,false,false,false,DCIM/100APPLE,IMG_0001.JPG," +
                 time +
                 ",1000,100,3024,true,true,false,false\r\n"

@@ -46,13 +46,21 @@ const Name names[] = {
     {"Plus", "+SUM(1,2)", "+SUM(1,2)", "'+SUM(1,2)"},
     {"Minus", "-1+2", "-1+2", "'-1+2"},
     {"At", "@SUM(A1)", "@SUM(A1)", "'@SUM(A1)"},
-    {"Tab", "\t=1", "\\t=1", "'\t=1"},
-    {"CarriageReturn", "\r=1", "\\r=1", "'\r=1"},
+    {"Tab", "\t=1", "\\t=1", "'\t'=1"},
+    {"CarriageReturn", "\r=1", "\\r=1", "'\r'=1"},
     {"FullWidth", "\uFF1D1+1", "\uFF1D1+1", "'\uFF1D1+1"},
     {"FormulaWithAQuote", "=\"x\"", "=\"x\"", "'=\"x\""},
     same("NegativeNumber", "-12.5"),
     same("PhoneNumber", "+4912345"),
     {"LoneMinus", "-", "-", "'-"},
+    {"LineFeed", "\n=1", "\\n=1", "'\n'=1"},
+    {"Blank", " =1", " =1", " '=1"},
+    {"Semicolon", "x;=1+1", "x;=1+1", "x;'=1+1"},
+    {"SemicolonAndBlanks", "x; \u3000@A1;y", "x; \u3000@A1;y", "x; \u3000'@A1;y"},
+    {"SemicolonAndQuotes", "x;\"=1+1;y", "x;\"=1+1;y", "x;\"'=1+1;y"},
+    {"LaterLine", "x\r\n+1+1", "x\\r\\n+1+1", "x\r\n'+1+1"},
+    {"LaterTab", "x\t\uFF0B1+1", "x\\t\uFF0B1+1", "x\t'\uFF0B1+1"},
+    same("NumbersInAList", "x; -5;+12; and 1 - 1 = 0, +1"),
 };
 
 } // namespace

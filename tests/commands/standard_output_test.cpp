@@ -42,6 +42,52 @@ TEST(ToolStandardOutput, FullDiskIsSaidOnce)
     constexpr std::size_t room = 100;
     const ToolRun run = runToolOnFullDisk({"thumb", cache.string(), "--json"}, room);
     EXPECT_EQ(run.out.size(), room);
-    EXPECT_EQ(run.error, "iosphoto: cannot write the output; is the disk full?\n");
+    EXPECT_EQ(run.error, "iosphoto: cannot write the output: File too large; choose another place "
+                         "for the output\n");
     EXPECT_EQ(run.status, 3);
+}
+
+TEST(ToolStandardOutput, DiskWithoutRoomIsNamed)
+{
+    const fs::path withoutRoom = "/dev/full";
+    if (!exists(withoutRoom))
+        GTEST_SKIP() << "there is no such device here";
+    const TemporaryFolder folder;
+    const fs::path cache = folder / "cache";
+    writeFile(cache, sampleThumbCache(120).bytes());
+    expectFailure(runToolInto(withoutRoom, {"thumb", cache.string()}),
+                  "cannot write the output: the disk is full; make room, or choose another place",
+                  3);
+}
+
+TEST(ToolClosedDescriptors, AreNotThoseOfFilesThatItWrites)
+{
+    const TemporaryFolder folder;
+    const fs::path cache = folder / "cache";
+    const fs::path picture = folder / "picture.bmp";
+    writeFile(cache, sampleThumbCache(120).bytes());
+    const std::vector<std::string> command = {"thumb", cache.string(), "--index",
+                                              "0",     "-o",           picture.string()};
+    ASSERT_EQ(runTool(command).status, 0);
+    const std::string usual = readFile(picture);
+    for (const std::vector<int> &closed : {std::vector<int>{1}, {0, 1}, {0, 1, 2}}) {
+        fs::remove(picture);
+        EXPECT_EQ(runToolWithout(closed, command).status, 3);
+        EXPECT_EQ(readFile(picture), usual);
+        EXPECT_EQ(readFile(cache), sampleThumbCache(120).bytes());
+    }
+}
+
+TEST(ToolStandardOutput, ThatIsClosedIsNamed)
+{
+    const TemporaryFolder folder;
+    const fs::path cache = folder / "cache";
+    writeFile(cache, sampleThumbCache(120).bytes());
+    for (const std::vector<int> &closed : {std::vector<int>{1}, std::vector<int>{0, 1}})
+        EXPECT_EQ(runToolWithout(closed, {"thumb", cache.string()}),
+                  (ToolRun{"",
+                           "iosphoto: cannot write the output: standard output is closed; send it "
+                           "to a terminal, a file or a program\n",
+                           3}));
+    EXPECT_EQ(runToolWithout({1, 2}, {"thumb", cache.string()}).status, 3);
 }

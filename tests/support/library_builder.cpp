@@ -12,28 +12,31 @@ namespace {
 constexpr std::int64_t newestAsset = 600000000; // 2020-01-06 10:40:00 UTC
 constexpr std::int64_t oneDay = 24 * 60 * 60;
 
-void bind(sqlite3_stmt *statement, const Value &value)
+int bind(sqlite3_stmt *statement, const Value &value)
 {
     struct
     {
         sqlite3_stmt *statement;
-        void operator()(std::nullptr_t) const { sqlite3_bind_null(statement, 1); }
-        void operator()(int number) const { sqlite3_bind_int(statement, 1, number); }
-        void operator()(std::int64_t number) const { sqlite3_bind_int64(statement, 1, number); }
-        void operator()(double number) const { sqlite3_bind_double(statement, 1, number); }
-        void operator()(const char *text) const { (*this)(std::string(text)); }
-        void operator()(const std::string &text) const
+        int operator()(std::nullptr_t) const { return sqlite3_bind_null(statement, 1); }
+        int operator()(int number) const { return sqlite3_bind_int(statement, 1, number); }
+        int operator()(std::int64_t number) const
         {
-            sqlite3_bind_text(statement, 1, text.data(), static_cast<int>(text.size()),
-                              SQLITE_TRANSIENT);
+            return sqlite3_bind_int64(statement, 1, number);
         }
-        void operator()(const Blob &blob) const
+        int operator()(double number) const { return sqlite3_bind_double(statement, 1, number); }
+        int operator()(const char *text) const { return (*this)(std::string(text)); }
+        int operator()(const std::string &text) const
         {
-            sqlite3_bind_blob(statement, 1, blob.bytes.data(), static_cast<int>(blob.bytes.size()),
-                              SQLITE_TRANSIENT);
+            return sqlite3_bind_text64(statement, 1, text.data(), text.size(), SQLITE_TRANSIENT,
+                                       SQLITE_UTF8);
+        }
+        int operator()(const Blob &blob) const
+        {
+            return sqlite3_bind_blob64(statement, 1, blob.bytes.data(), blob.bytes.size(),
+                                       SQLITE_TRANSIENT);
         }
     } binder{statement};
-    std::visit(binder, value);
+    return std::visit(binder, value);
 }
 
 /// "A0000000-0000-0000-0000-00000000002A" for ('A', 42).
@@ -221,8 +224,9 @@ void LibraryBuilder::run(const std::string &sql, const Value &value)
     sqlite3_stmt *statement = nullptr;
     if (sqlite3_prepare_v2(connection_, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK)
         throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection_));
-    bind(statement, value);
-    const int result = sqlite3_step(statement);
+    int result = bind(statement, value);
+    if (result == SQLITE_OK)
+        result = sqlite3_step(statement);
     sqlite3_finalize(statement);
     if (result != SQLITE_DONE)
         throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection_));

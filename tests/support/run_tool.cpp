@@ -137,6 +137,21 @@ ToolRun runToolOnFullDisk(const std::vector<std::string> &arguments, std::size_t
     return RunningTool(arguments, {}, limitFiles).result();
 }
 
+ToolRun runToolInto(const std::string &file, const std::vector<std::string> &arguments)
+{
+    return RunningTool(arguments, {}, [&] { redirect(file, O_WRONLY, STDOUT_FILENO); }).result();
+}
+
+ToolRun runToolWithout(const std::vector<int> &descriptors,
+                       const std::vector<std::string> &arguments)
+{
+    const auto closeThem = [&] {
+        for (const int descriptor : descriptors)
+            close(descriptor);
+    };
+    return RunningTool(arguments, {}, closeThem).result();
+}
+
 ToolRun runToolForNoReader(const std::vector<std::string> &arguments,
                            const Environment &environment)
 {

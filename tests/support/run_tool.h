@@ -67,6 +67,13 @@ std::optional<ToolRun> runToolAsPlainUser(const std::vector<std::string> &argume
 /// Runs the tool on a disk that has no room for a file of more than `bytes`.
 ToolRun runToolOnFullDisk(const std::vector<std::string> &arguments, std::size_t bytes);
 
+/// Runs the tool with its output going into a file that is there.
+ToolRun runToolInto(const std::string &file, const std::vector<std::string> &arguments);
+
+/// Runs the tool with some of the descriptors 0 to 2 closed.
+ToolRun runToolWithout(const std::vector<int> &descriptors,
+                       const std::vector<std::string> &arguments);
+
 /// Runs the tool with its output going to somebody who does not read.
 ToolRun runToolForNoReader(const std::vector<std::string> &arguments,
                            const Environment &environment = {});

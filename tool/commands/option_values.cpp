@@ -7,6 +7,12 @@
 
 namespace iosphoto::tool {
 
+void refuseAsTooLarge(const std::string &digits, const std::string &option)
+{
+    throw Failure(WrongUsage, translate("{0} = {1}: the number is too large; see iosphoto --help",
+                                        option, digits));
+}
+
 CLI::Validator looksLike(const char *pattern, const std::string &example)
 {
     const QRegularExpression expression(QRegularExpression::anchoredPattern(pattern));

@@ -63,8 +63,11 @@ void addFlags(CLI::App &command, PhotoFilter &filter)
     CLI::Option *const deleted = command.add_flag("--deleted", filter.isDeleted,
                                                   translate("only what is in Recently Deleted"));
     command
-        .add_option(
-            "--within", filter.trashedWithinDays,
+        .add_option_function<std::string>(
+            "--within",
+            [&filter](const std::string &days) {
+                filter.trashedWithinDays = parseNumber<int>(days, "--within");
+            },
             translate(
                 "with --deleted: only what was deleted within so many days before the library's "
                 "time (--as-of)"))
@@ -87,7 +90,12 @@ void addOrder(CLI::App &command, PhotoChoice &choice)
         ->type_name(translate("ORDER"));
     command.add_flag("--reverse", choice.isReversed, translate("reverse the order"));
     command
-        .add_option("--limit", choice.limit, translate("show only so many, the first in the order"))
+        .add_option_function<std::string>(
+            "--limit",
+            [&choice](const std::string &count) {
+                choice.limit = parseNumber<std::size_t>(count, "--limit");
+            },
+            translate("show only so many, the first in the order"))
         ->type_name(translate("NUMBER"))
         ->check(looksLike("[1-9][0-9]*", "20"));
 }

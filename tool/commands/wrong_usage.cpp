@@ -2,48 +2,118 @@
 
 #include "text/translate.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace iosphoto::tool {
 
 namespace {
 
-/// A text of the parser's: its class of errors, words of it, and the same in ours, with places for
-/// what stands before and after the words.
-struct Wording
-{
-    CLI::ExitCodes error;
-    const char *words;
-    const char *english;
-};
+// The words of the parser's errors differ from version to version, and are in one language only. So
+// what is wrong is found again in the state that the parser is left in; the class of the error
+// tells where to look.
 
-constexpr Wording wordings[] = {
-    {CLI::ExitCodes::RequiredError, " is required", translatable("{0} is required")},
-    {CLI::ExitCodes::RequiresError, " requires ", translatable("{0} requires {1}")},
-    {CLI::ExitCodes::ExcludesError, " excludes ", translatable("{0} excludes {1}")},
-    {CLI::ExitCodes::ArgumentMismatch, ": 1 required ", translatable("{0} requires a value")},
-    {CLI::ExitCodes::ArgumentMismatch, ": At Most 1 required but received ",
-     translatable("{0} is given more than once")},
-    {CLI::ExitCodes::ConversionError, ": too many inputs for a flag",
-     translatable("{0} takes no value")},
-    {CLI::ExitCodes::ConversionError,
-     "Could not convert: ", translatable("{1}: the number is too large")},
-    {CLI::ExitCodes::ConversionError, ": Should be true/false or a number",
-     translatable("{0} takes no value")},
-    {CLI::ExitCodes::ValidationError, ": ", translatable("{0}: {1}")},
-};
+using Options = std::vector<CLI::Option *>;
+using Wording = std::optional<std::string>;
 
-std::string inOurWords(const CLI::ParseError &error)
+/// The command that is asked for; the whole program before there is one.
+CLI::App &commandOf(CLI::App &app)
 {
-    std::string text = error.what();
-    for (const Wording &wording : wordings) {
-        const std::string words = wording.words;
-        const std::size_t at = text.find(words);
-        if (error.get_exit_code() != static_cast<int>(wording.error) || at == std::string::npos)
+    const std::vector<CLI::App *> commands = app.get_subcommands();
+    return commands.empty() ? app : *commands.front();
+}
+
+bool isGiven(const CLI::Option *option)
+{
+    return option->count() > 0;
+}
+
+bool isFlag(const CLI::Option *option)
+{
+    return option->get_items_expected_max() == 0;
+}
+
+Wording missingOption(const Options &options)
+{
+    for (const CLI::Option *option : options)
+        if (option->get_required() && !isGiven(option))
+            return translate("{0} is required", option->get_name());
+    return std::nullopt;
+}
+
+Wording missingPartner(const Options &options)
+{
+    for (const CLI::Option *option : options)
+        for (const CLI::Option *partner : option->get_needs())
+            if (isGiven(option) && !isGiven(partner))
+                return translate("{0} requires {1}", option->get_name(), partner->get_name());
+    return std::nullopt;
+}
+
+Wording excludedOption(const Options &options)
+{
+    for (const CLI::Option *option : options)
+        for (CLI::Option *other : options)
+            if (isGiven(option) && isGiven(other) && option->get_excludes().count(other) != 0)
+                return translate("{0} excludes {1}", option->get_name(), other->get_name());
+    return std::nullopt;
+}
+
+Wording repeatedOption(const Options &options)
+{
+    for (const CLI::Option *option : options)
+        if (!isFlag(option) &&
+            option->count() > static_cast<std::size_t>(option->get_items_expected_max()))
+            return translate("{0} is given more than once", option->get_name());
+    return std::nullopt;
+}
+
+/// Only the last argument can be an option that lacks its value: "--ios", "--ios=" or "-qo".
+Wording missingValue(const CLI::App &command, const std::vector<std::string> &commandLine)
+{
+    const std::string last = commandLine.empty() ? std::string() : commandLine.back();
+    const bool isLong = last.compare(0, 2, "--") == 0;
+    const std::string name = isLong ? last.substr(0, last.find('='))
+                                    : "-" + last.substr(last.empty() ? 0 : last.size() - 1);
+    const CLI::Option *const option = command.get_option_no_throw(name);
+    return option != nullptr ? Wording(translate("{0} requires a value", option->get_name()))
+                             : std::nullopt;
+}
+
+/// Flags alone are converted by the parser.
+Wording flagWithValue(const Options &options)
+{
+    for (const CLI::Option *option : options) {
+        if (!isFlag(option) || !isGiven(option))
             continue;
-        return translate(wording.english, text.substr(0, at), text.substr(at + words.size()));
+        try {
+            (void)option->as<bool>();
+        } catch (const CLI::ConversionError &) {
+            return translate("{0} takes no value", option->get_name());
+        }
     }
-    return text;
+    return std::nullopt;
+}
+
+/// What the check of an option says of its values; empty if nothing, or if there is no check.
+std::string complaintOf(CLI::Option &option)
+{
+    try {
+        const CLI::Validator &check = *option.get_validator(0);
+        for (const std::string &value : option.results())
+            if (std::string complaint = check(value); !complaint.empty())
+                return complaint;
+    } catch (const CLI::OptionNotFound &) { // so the parser says that there is no check
+    }
+    return {};
+}
+
+Wording refusedValue(const Options &options)
+{
+    for (CLI::Option *option : options)
+        if (const std::string complaint = complaintOf(*option); !complaint.empty())
+            return translate("{0}: {1}", option->get_name(), complaint);
+    return std::nullopt;
 }
 
 /// What the parser had no use for, in the order of the command line.
@@ -63,21 +133,50 @@ std::string wrongCommand(const CLI::App &app)
                                                 : translate("'{0}' is not a command", left.front());
 }
 
-std::string textOf(const CLI::App &app, const CLI::ParseError &error)
+/// The options of the program and of the command that is asked for.
+Options optionsOf(CLI::App &app)
 {
-    const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
-    if (code == CLI::ExitCodes::ExtrasError)
+    Options options = app.get_options({});
+    if (CLI::App &command = commandOf(app); &command != &app) {
+        const Options ofCommand = command.get_options({});
+        options.insert(options.end(), ofCommand.begin(), ofCommand.end());
+    }
+    return options;
+}
+
+Wording wordingOf(CLI::App &app, const std::vector<std::string> &commandLine, CLI::ExitCodes error)
+{
+    const Options options = optionsOf(app);
+    switch (error) {
+    case CLI::ExitCodes::ExtrasError:
         return unexpected(app);
-    if (code == CLI::ExitCodes::RequiredError && app.get_subcommands().empty())
-        return wrongCommand(app);
-    return inOurWords(error);
+    case CLI::ExitCodes::RequiredError:
+        return app.get_subcommands().empty() ? wrongCommand(app) : missingOption(options);
+    case CLI::ExitCodes::RequiresError:
+        return missingPartner(options);
+    case CLI::ExitCodes::ExcludesError:
+        return excludedOption(options);
+    case CLI::ExitCodes::ArgumentMismatch: {
+        const Wording repeated = repeatedOption(options);
+        return repeated ? repeated : missingValue(commandOf(app), commandLine);
+    }
+    case CLI::ExitCodes::ConversionError:
+        return flagWithValue(options);
+    case CLI::ExitCodes::ValidationError:
+        return refusedValue(options);
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace
 
-Failure wrongUsage(const CLI::App &app, const CLI::ParseError &error)
+Failure wrongUsage(CLI::App &app, const std::vector<std::string> &commandLine,
+                   const CLI::ParseError &error)
 {
-    return {WrongUsage, translate("{0}; see iosphoto --help", textOf(app, error))};
+    const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
+    return {WrongUsage, translate("{0}; see iosphoto --help",
+                                  wordingOf(app, commandLine, code).value_or(error.what()))};
 }
 
 } // namespace iosphoto::tool

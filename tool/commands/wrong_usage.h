@@ -5,11 +5,15 @@
 
 #include <CLI/CLI.hpp>
 
+#include <string>
+#include <vector>
+
 namespace iosphoto::tool {
 
 /// What is wrong with the command line that the parser met an error in, in the language that is
 /// spoken.
-Failure wrongUsage(const CLI::App &app, const CLI::ParseError &error);
+Failure wrongUsage(CLI::App &app, const std::vector<std::string> &commandLine,
+                   const CLI::ParseError &error);
 
 } // namespace iosphoto::tool
 

@@ -1,5 +1,6 @@
 #include "files/atomic_file.h"
 
+#include "files/disk_sync.h"
 #include "text/system_error.h"
 #include "text/translate.h"
 
@@ -49,10 +50,18 @@ void AtomicFile::write(const QByteArray &content)
 
 void AtomicFile::finish()
 {
-    if (fchmod(descriptor_, modeFor(file_)) != 0 || close(std::exchange(descriptor_, -1)) != 0)
+    finishInFolder();
+    throwIf(syncFolder(file_.parent_path()));
+}
+
+void AtomicFile::finishInFolder()
+{
+    if (fchmod(descriptor_, modeFor(file_)) != 0)
         fail(errno);
-    if (const std::error_code error = temporary_.keepAs(file_))
-        fail(error.value());
+    throwIf(syncFile(descriptor_)); // first, or a power cut might leave the name to an empty file
+    if (close(std::exchange(descriptor_, -1)) != 0)
+        fail(errno);
+    throwIf(temporary_.keepAs(file_));
 }
 
 fs::path AtomicFile::make()
@@ -64,10 +73,21 @@ fs::path AtomicFile::make()
     return name;
 }
 
+void AtomicFile::throwIf(const std::error_code &error) const
+{
+    if (error)
+        fail(error.value());
+}
+
 void AtomicFile::fail(int error) const
 {
-    throw cannotWrite(file_,
-                      translate("{0}; choose another place for the output", systemError(error)));
+    throw cannotWrite(file_, std::error_code(error, std::system_category()));
+}
+
+Failure cannotWrite(const fs::path &file, const std::error_code &error)
+{
+    return cannotWrite(
+        file, translate("{0}; choose another place for the output", systemError(error.value())));
 }
 
 Failure cannotWrite(const fs::path &file, const std::string &reason)

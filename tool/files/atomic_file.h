@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace iosphoto::tool {
 
@@ -25,11 +26,16 @@ public:
 
     void write(const QByteArray &content);
 
-    /// Gives it its name, with the rights of the file that it replaces.
+    /// Gives it its name, with the rights of the file that it replaces. A power cut does not undo
+    /// that.
     void finish();
+
+    /// The same for one of many in a folder, which somebody syncs behind the last.
+    void finishInFolder();
 
 private:
     std::filesystem::path make();
+    void throwIf(const std::error_code &error) const;
     [[noreturn]] void fail(int error) const;
 
     std::filesystem::path file_;
@@ -38,6 +44,7 @@ private:
 };
 
 /// That a file cannot be written, and why.
+Failure cannotWrite(const std::filesystem::path &file, const std::error_code &error);
 Failure cannotWrite(const std::filesystem::path &file, const std::string &reason);
 
 } // namespace iosphoto::tool

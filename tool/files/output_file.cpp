@@ -1,6 +1,7 @@
 #include "files/output_file.h"
 
 #include "files/atomic_file.h"
+#include "files/disk_sync.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
@@ -64,18 +65,30 @@ fs::path outputPlace(FileUse &files, const fs::path &file, const fs::path &sourc
     return targetOf(file);
 }
 
-void writeOutput(FileUse &files, const fs::path &file, const QByteArray &content,
-                 const fs::path &source)
+namespace {
+
+void write(FileUse &files, const fs::path &file, const QByteArray &content, const fs::path &source,
+           void (AtomicFile::*finish)())
 {
     AtomicFile atomic(outputPlace(files, file, source));
     atomic.write(content);
-    atomic.finish();
+    (atomic.*finish)();
     files.wrote(file, content);
 }
 
-void makeOutputFolder(const fs::path &folder)
+} // namespace
+
+void writeOutput(FileUse &files, const fs::path &file, const QByteArray &content,
+                 const fs::path &source)
+{
+    write(files, file, content, source, &AtomicFile::finish);
+}
+
+OutputFolder::OutputFolder(const fs::path &folder) : folder_(folder), changed_({folder})
 {
     std::error_code error;
+    for (fs::path each = fs::absolute(folder); !fs::exists(each, error); each = each.parent_path())
+        changed_.push_back(each.parent_path());
     fs::create_directories(folder, error);
     if (!error && !fs::is_directory(folder))
         error = std::make_error_code(std::errc::not_a_directory);
@@ -83,6 +96,19 @@ void makeOutputFolder(const fs::path &folder)
         throw Failure(CannotAccess, translate("cannot make the folder '{0}': {1}; choose another "
                                               "place for the output",
                                               folder.string(), systemError(error.value())));
+}
+
+void OutputFolder::write(FileUse &files, const std::string &name, const QByteArray &content,
+                         const fs::path &source) const
+{
+    tool::write(files, folder_ / name, content, source, &AtomicFile::finishInFolder);
+}
+
+void OutputFolder::finish() const
+{
+    for (const fs::path &folder : changed_)
+        if (const std::error_code error = syncFolder(folder))
+            throw cannotWrite(folder, error);
 }
 
 } // namespace iosphoto::tool

@@ -6,6 +6,8 @@
 #include <QByteArray>
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -31,8 +33,23 @@ void requireOther(const std::filesystem::path &file, const FileSet &sources);
 /// Throws Failure when an output `file` would change a source.
 void requireUnprotected(const FileUse &files, const std::filesystem::path &file);
 
-/// Makes a folder for output, with those above it. Throws Failure when that cannot be done.
-void makeOutputFolder(const std::filesystem::path &folder);
+/// A folder for many outputs, which is synced once: that takes as long as to write one of them.
+class OutputFolder
+{
+public:
+    /// Makes it, with those above it. Throws Failure when that cannot be done.
+    explicit OutputFolder(const std::filesystem::path &folder);
+
+    /// As writeOutput() does, but for what a power cut may undo before finish().
+    void write(FileUse &files, const std::string &name, const QByteArray &content,
+               const std::filesystem::path &source) const;
+
+    void finish() const;
+
+private:
+    std::filesystem::path folder_;
+    std::vector<std::filesystem::path> changed_; ///< the folders in which names are new
+};
 
 } // namespace iosphoto::tool
 

@@ -29,7 +29,12 @@ plist_t parse(const std::string &content)
     plist_t root = nullptr;
     if (!isWithinBounds(content))
         return root;
-    plist_from_memory(content.data(), static_cast<std::uint32_t>(content.size()), &root);
+    // Not plist_from_memory(), whose arguments differ from version to version.
+    const auto size = static_cast<std::uint32_t>(content.size());
+    if (plist_is_binary(content.data(), size) != 0)
+        plist_from_bin(content.data(), size, &root);
+    else
+        plist_from_xml(content.data(), size, &root);
     return root;
 }
 

@@ -1,12 +1,12 @@
 #include "rows/csv_writer.h"
 
+#include "rows/formula_guard.h"
 #include "text/printable.h"
 #include "time/time_text.h"
 
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <array>
+#include <cctype>
 #include <cmath>
 #include <iterator>
 #include <string_view>
@@ -17,10 +17,34 @@ namespace {
 
 constexpr const char *lineEnd = "\r\n";
 
-/// Appends a value to a line.
+bool hasAnyOf(const char *characters, const std::string &text)
+{
+    return text.find_first_of(characters) != std::string::npos;
+}
+
+/// Whether no look for formulas is needed, as with most texts.
+bool isHarmless(const std::string &text)
+{
+    return (text.empty() || std::isalnum(static_cast<unsigned char>(text.front())) != 0) &&
+           !hasAnyOf(foreignSeparators, text);
+}
+
+void appendQuoted(std::string &line, std::string_view text)
+{
+    line += '"';
+    for (const char character : text) {
+        if (character == '"')
+            line += '"';
+        line += character;
+    }
+    line += '"';
+}
+
+/// Appends values to a line.
 struct AppendValue
 {
     std::string &line;
+    std::size_t begin; ///< of the line
 
     void operator()(std::monostate) const {}
     void operator()(bool flag) const { line += flag ? "true" : "false"; }
@@ -30,14 +54,14 @@ struct AppendValue
         if (std::isfinite(number))
             append(number);
     }
-    void operator()(const std::string &text) const { appendCsvCell(line, text); }
+    void operator()(const std::string &text) const { appendText(text); }
     void operator()(UnixTime time) const { line += utcTimeText(time); }
     void operator()(const Items &items) const
     {
         std::string cell;
         for (const ListItem *item : items)
             cell += (cell.empty() ? "" : "; ") + item->plain;
-        appendCsvCell(line, cell);
+        appendText(cell);
     }
 
     template <typename Number>
@@ -45,44 +69,27 @@ struct AppendValue
     {
         fmt::format_to(std::back_inserter(line), "{}", number);
     }
-};
 
-/// The last four are the full-width forms, which spreadsheets read alike.
-constexpr std::array<std::string_view, 10> formulaStarts = {
-    "=", "+", "-", "@", "\t", "\r", "\uFF1D", "\uFF0B", "\uFF0D", "\uFF20"};
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-/// "-5" or "+1.25", in which nothing can run.
-bool isPlainNumber(std::string_view text)
-{
-    text.remove_prefix(text.front() == '-' || text.front() == '+' ? 1 : 0);
-    const std::size_t point = std::min(text.find('.'), text.size());
-    const std::string_view whole = text.substr(0, point);
-    const std::string_view fraction = text.substr(std::min(point + 1, text.size()));
-    return !whole.empty() && std::all_of(whole.begin(), whole.end(), isDigit) &&
-           std::all_of(fraction.begin(), fraction.end(), isDigit);
-}
-
-bool runsAsFormula(std::string_view text)
-{
-    return std::any_of(
-               formulaStarts.begin(), formulaStarts.end(),
-               [&](std::string_view start) { return text.substr(0, start.size()) == start; }) &&
-           !isPlainNumber(text);
-}
-
-void appendQuoted(std::string &line, std::string_view text)
-{
-    for (const char character : text) {
-        if (character == '"')
-            line += '"';
-        line += character;
+    void appendText(const std::string &bytes) const
+    {
+        std::string changed; // hardly ever, so that most texts are not copied
+        if (!isUtf8(bytes))
+            changed = asUtf8(bytes);
+        if (!isHarmless(bytes))
+            changed = withoutFormulas(changed.empty() ? bytes : changed);
+        const std::string &text = changed.empty() ? bytes : changed;
+        if (hasAnyOf(",\"", text) || hasAnyOf(foreignSeparators, text) || beginsWithSign())
+            appendQuoted(line, text);
+        else
+            line += text;
     }
-}
+
+    /// Where `;` separates cells, "-5,1+1" is one, and a formula unless the text is quoted.
+    bool beginsWithSign() const
+    {
+        return line.size() > begin && (line[begin] == '-' || line[begin] == '+');
+    }
+};
 
 } // namespace
 
@@ -97,11 +104,12 @@ void CsvWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &colu
 
 void CsvWriter::row(const std::vector<Value> &values)
 {
+    const AppendValue append = {buffer_, buffer_.size()};
     const char *separator = "";
     for (const Value &value : values) {
         buffer_ += separator;
         separator = ",";
-        std::visit(AppendValue{buffer_}, value);
+        std::visit(append, value);
     }
     buffer_ += lineEnd;
     constexpr std::size_t full = 1 << 16;
@@ -113,23 +121,6 @@ void CsvWriter::end()
 {
     out_ << buffer_;
     buffer_.clear();
-}
-
-void appendCsvCell(std::string &line, const std::string &bytes)
-{
-    std::string repaired; // hardly ever, so that most cells are not copied
-    if (!isUtf8(bytes))
-        repaired = asUtf8(bytes);
-    const std::string &text = repaired.empty() ? bytes : repaired;
-    const bool needsGuard = runsAsFormula(text);
-    const bool needsQuotes = text.find_first_of("\",\r\n") != std::string::npos;
-    line += needsQuotes ? "\"" : "";
-    line += needsGuard ? "'" : "";
-    if (needsQuotes)
-        appendQuoted(line, text);
-    else
-        line += text;
-    line += needsQuotes ? "\"" : "";
 }
 
 } // namespace iosphoto::tool

@@ -8,8 +8,9 @@
 
 namespace iosphoto::tool {
 
-/// Comma-separated values as RFC 4180 has them, with a line of the keys first. A text that a
-/// spreadsheet would run as a formula gets an apostrophe in front.
+/// Comma-separated values as RFC 4180 has them, with a line of the keys first. Formulas in texts
+/// get an apostrophe in front: see withoutFormulas(). A text is quoted also where it has what
+/// separates cells elsewhere, such as a semicolon.
 class CsvWriter : public RowWriter
 {
 public:
@@ -23,9 +24,6 @@ private:
     std::ostream &out_;
     std::string buffer_;
 };
-
-/// Appends a text as a cell of CSV: guarded against running as a formula, and quoted where needed.
-void appendCsvCell(std::string &line, const std::string &text);
 
 } // namespace iosphoto::tool
 

@@ -44,42 +44,46 @@ void requireReplaceable(const fs::path &file)
         throw OutputError(OutputProblem::NotOurs, {file.string()});
 }
 
-/// Binds a value to a place of a statement. Text is not copied, so it stays until the step.
+/// Binds a value to a place of a statement and gives SQLite's result. Text is not copied, so it
+/// stays until the step.
 struct Bind
 {
     sqlite3_stmt *statement;
     int place;
     std::string &made; ///< keeps a text that is made here
 
-    void operator()(std::monostate) const { sqlite3_bind_null(statement, place); }
-    void operator()(bool flag) const { sqlite3_bind_int(statement, place, flag ? 1 : 0); }
-    void operator()(std::int64_t number) const { sqlite3_bind_int64(statement, place, number); }
-    void operator()(double number) const { sqlite3_bind_double(statement, place, number); }
-    void operator()(const std::string &text) const
+    int operator()(std::monostate) const { return sqlite3_bind_null(statement, place); }
+    int operator()(bool flag) const { return sqlite3_bind_int(statement, place, flag ? 1 : 0); }
+    int operator()(std::int64_t number) const
+    {
+        return sqlite3_bind_int64(statement, place, number);
+    }
+    int operator()(double number) const { return sqlite3_bind_double(statement, place, number); }
+    int operator()(const std::string &text) const
     {
         const bool isWhole = isUtf8(text);
         if (!isWhole)
             made = asUtf8(text);
-        bindText(isWhole ? text : made);
+        return bindText(isWhole ? text : made);
     }
-    void operator()(UnixTime time) const
+    int operator()(UnixTime time) const
     {
         made = utcTimeText(time);
-        made.empty() ? (*this)(std::monostate()) : bindText(made);
+        return made.empty() ? (*this)(std::monostate()) : bindText(made);
     }
-    void operator()(const Items &items) const
+    int operator()(const Items &items) const
     {
         made = "[";
         for (const ListItem *item : items)
             made += (made.size() > 1 ? "," : "") + item->json;
         made += "]";
-        bindText(made);
+        return bindText(made);
     }
 
-    void bindText(const std::string &text) const
+    int bindText(const std::string &text) const
     {
-        sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()),
-                          SQLITE_STATIC);
+        return sqlite3_bind_text64(statement, place, text.data(), text.size(), SQLITE_STATIC,
+                                   SQLITE_UTF8);
     }
 };
 
@@ -188,8 +192,11 @@ void SqliteInsert::row(const std::vector<Value> &values)
 {
     made_.resize(values.size());
     const int firstPlace = 1 + static_cast<int>(columns_ - values.size());
-    for (std::size_t i = 0; i < values.size(); ++i)
-        std::visit(Bind{statement_.get(), firstPlace + static_cast<int>(i), made_[i]}, values[i]);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const Bind bind = {statement_.get(), firstPlace + static_cast<int>(i), made_[i]};
+        if (std::visit(bind, values[i]) != SQLITE_OK)
+            throw output_.unwritable();
+    }
     const int result = sqlite3_step(statement_.get());
     sqlite3_reset(statement_.get());
     if (result != SQLITE_DONE)

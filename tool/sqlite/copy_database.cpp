@@ -103,8 +103,9 @@ void CopyDatabase::forEachRow(const std::string &query,
     if (statement == nullptr)
         return;
     for (std::size_t i = 0; i < values.size(); ++i)
-        sqlite3_bind_text64(statement.get(), static_cast<int>(i + 1), values[i].data(),
-                            values[i].size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+        if (sqlite3_bind_text64(statement.get(), static_cast<int>(i + 1), values[i].data(),
+                                values[i].size(), SQLITE_TRANSIENT, SQLITE_UTF8) != SQLITE_OK)
+            throw unreadable();
     int result = SQLITE_ROW;
     while ((result = sqlite3_step(statement.get())) == SQLITE_ROW)
         take(QueryRow(statement.get()));

@@ -63,7 +63,7 @@ WrittenFiles exportOne(Session &session, const ThumbCache &cache, const Thumbnai
 WrittenFiles exportAll(Session &session, const ThumbCache &cache, const std::string &folder,
                        bool asPng)
 {
-    makeOutputFolder(folder);
+    const OutputFolder output(folder);
     const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
     ProgressBar progress(session.terminal, translate("writing thumbnails"),
                          static_cast<int>(thumbnails.size()));
@@ -71,11 +71,11 @@ WrittenFiles exportAll(Session &session, const ThumbCache &cache, const std::str
     for (const Thumbnail &thumbnail : thumbnails) {
         const std::string name =
             paddedIndex(thumbnail.index, thumbnails.back().index) + (asPng ? ".png" : ".bmp");
-        const fs::path file = fs::path(folder) / name;
-        writeOutput(session.files, file, content(cache, thumbnail, asPng), cache.file());
-        written[thumbnail.index] = file.string();
+        output.write(session.files, name, content(cache, thumbnail, asPng), cache.file());
+        written[thumbnail.index] = (fs::path(folder) / name).string();
         progress.show(static_cast<int>(written.size()));
     }
+    output.finish();
     return written;
 }
 

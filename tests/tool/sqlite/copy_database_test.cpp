@@ -22,6 +22,17 @@ TEST(ToolCopyDatabase, ThatIsLockedIsNotSaidToBeDamaged)
     }
 }
 
+TEST(ToolCopyDatabase, ValueThatCannotBeGivenToAQueryIsNotLeftOut)
+{
+    const LibraryBuilder library(ios15);
+    const CopyDatabase database(library.path(), "Photos.sqlite");
+    const std::string query = "select ?1";
+    const std::vector<std::string> oneTooMany = {"1", "2"};
+    EXPECT_THROW(database.forEachRow(
+                     query, [](const QueryRow & /*row*/) {}, oneTooMany),
+                 Failure);
+}
+
 TEST(ToolCopyDatabase, QueryThatWouldRunOnAndOnIsStopped)
 {
     const LibraryBuilder library(ios15);

@@ -1,0 +1,21 @@
+#include "process/standard_descriptors.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <initializer_list>
+#include <unistd.h>
+
+namespace iosphoto::tool {
+
+void occupyStandardDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        const bool isClosed = fcntl(descriptor, F_GETFD) < 0 && errno == EBADF;
+        // The system gives out the lowest that is free. The root is always there, and nobody reads
+        // or writes a folder.
+        if (isClosed)
+            (void)open("/", O_RDONLY);
+    }
+}
+
+} // namespace iosphoto::tool
