@@ -129,12 +129,11 @@ std::string CopyDatabase::assetTable() const
     return {};
 }
 
-std::unique_ptr<sqlite3_stmt, CopyDatabase::Close>
-CopyDatabase::prepare(const std::string &text) const
+SqliteStatement CopyDatabase::prepare(const std::string &text) const
 {
     sqlite3_stmt *statement = nullptr;
     const int result = sqlite3_prepare_v2(connection_.get(), text.c_str(), -1, &statement, nullptr);
-    std::unique_ptr<sqlite3_stmt, Close> owned(statement);
+    SqliteStatement owned(statement);
     constexpr int primaryCode = 0xff;
     if (result != SQLITE_OK && (result & primaryCode) != SQLITE_ERROR)
         throw unreadable();
