@@ -21,7 +21,8 @@ EntityNumbers lookUpNumbers(const std::string &database)
     manager.GetPrimarykeyTabAssetInfo();
     manager.GetPrimarykeyTabAlbumInfo();
     manager.GetPrimarykeyTabPhotostreamAlbumInfo();
-    return entityNumbers(manager);
+    return {manager.albumEntity, manager.photoStreamAlbumEntity, manager.assetSuperEntity,
+            manager.assetEntity};
 }
 
 } // namespace

@@ -1,12 +1,10 @@
 #include "catalogue/library.h"
 
 #include "catalogue/reading_stop.h"
-#include "model/clock.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/store/database_path.h"
 #include "model/store/stored_bytes.h"
 #include "process/failure.h"
-#include "records/record_ownership.h"
 #include "schema/table_damage.h"
 #include "terminal/busy_line.h"
 #include "terminal/messages.h"
@@ -25,8 +23,8 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
                        [](const CAlbumGroup &album) { return album.photos.empty(); });
 }
 
-/// The clock that the library reads counts 32 bits.
-std::uint32_t clockTime(std::int64_t unixTime)
+/// The library counts times in 32 bits.
+std::uint32_t libraryTime(std::int64_t unixTime)
 {
     return static_cast<std::uint32_t>(
         std::clamp<std::int64_t>(unixTime, 0, std::numeric_limits<std::uint32_t>::max()));
@@ -61,9 +59,8 @@ Library::Library(const LibraryRequest &request, const Source &source) : request_
     isArchive_ = source.isArchive();
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);
-    const StoppedClock asOf(clockTime(asOf_.unixTime));
     read(copy);
-    leftOut_ = trash_.leftOutOf(albums_, asOf_.unixTime);
+    leftOut_ = trash_.leftOutOf(albums(), asOf_.unixTime);
 }
 
 void Library::inspect(const OpenedCopy &copy)
@@ -77,28 +74,22 @@ void Library::inspect(const OpenedCopy &copy)
         logChanges_ = readLogChanges(database);
 }
 
-Library::~Library()
-{
-    destroyRecords(albums_);
-}
-
 void Library::read(const OpenedCopy &copy)
 {
     QDevPhotoDbMgr manager(device().iosVersion, device().productType);
     manager.SetDataPath(pathFromBytes(copy.file()));
     manager.rowLimit = mostRowsOfAPass(copy.file());
+    manager.asOf = libraryTime(asOf_.unixTime);
     const ReadDatabase database = {database_, adviceToCopyAgain(), manager.rowLimit};
     const int result = [&] {
         const BusyLine busy(translate("reading photos"));
         return manager.GetPhotoAlbumDatas();
     }();
-    albums_ = std::move(manager.albums);
+    catalogue_ = OwnedCatalogue(std::move(manager.albums));
     const CPassReport *const stop = manager.report.firstStopped();
-    if (result != 0 || (stop != nullptr && isWithoutPhotos(albums_))) {
-        destroyRecords(albums_);
+    if (result != 0 || (stop != nullptr && isWithoutPhotos(albums())))
         throw nothingRead(stop != nullptr ? stop->extendedCode : -result, database);
-    }
-    if (stop == nullptr && isWithoutPhotos(albums_) && areAssetTablesDamaged(copy.connect()))
+    if (stop == nullptr && isWithoutPhotos(albums()) && areAssetTablesDamaged(copy.connect()))
         throw nothingRead(SQLITE_CORRUPT, database);
     for (const std::string &sentence : sentencesOf(manager.report, database))
         missing_.push_back(sentence);
