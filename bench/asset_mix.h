@@ -2,7 +2,7 @@
 #ifndef IOSPHOTO_BENCH_ASSET_MIX_H
 #define IOSPHOTO_BENCH_ASSET_MIX_H
 
-#include "model/asset_codes.h"
+#include "model/database_codes.h"
 
 namespace iosphoto::bench {
 
@@ -30,9 +30,9 @@ struct AssetSort
     unsigned traits;
 
     bool has(Trait trait) const { return (traits & trait) != 0; }
-    bool isVideo() const { return playbackStyle == 4; }
-    bool isSynced() const { return savedAssetType == saved_asset_type::syncedFromComputer; }
-    bool isOfTheCloud() const { return savedAssetType == saved_asset_type::cloudLibrary; }
+    bool isVideo() const { return playbackStyle == PlaybackStyle::Video; }
+    bool isSynced() const { return savedAssetType == SavedAssetType::SyncedFromComputer; }
+    bool isOfTheCloud() const { return savedAssetType == SavedAssetType::CloudLibrary; }
 };
 
 namespace uniform_type {
@@ -45,41 +45,41 @@ constexpr auto movie = "com.apple.quicktime-movie";
 constexpr auto mpeg = "public.mpeg-4";
 } // namespace uniform_type
 
-constexpr int livePhoto = 2; // ZKINDSUBTYPE
-constexpr int anyBadge = 1;  // ZPACKEDBADGEATTRIBUTES
+constexpr int anyBadge = 1; // ZPACKEDBADGEATTRIBUTES
 
 // clang-format off
 namespace mix {
-using namespace saved_asset_type;
-using namespace kind_subtype;
 using namespace uniform_type;
+using Is = KindSubtype;
+using Plays = PlaybackStyle;
+using From = SavedAssetType;
 
 /// The first is what frames of bursts are.
 constexpr AssetSort sorts[] = {
-    // file  type   of 1000 sub-type         playback saved as            badge        traits
-    {"HEIC", heic,  290,    0,               1,       camera,             anyBadge,    None},
-    {"HEIC", heic,  200,    livePhoto,       3,       camera,             anyBadge,    Live},
-    {"HEIC", heic,  25,     livePhoto,       3,       camera,             anyBadge,    Live | Favorite},
-    {"HEIC", heic,  60,     livePhoto,       3,       camera,             anyBadge,    Live | Selfie},
-    {"HEIC", heic,  30,     0,               1,       camera,             anyBadge,    Portrait},
-    {"HEIC", heic,  20,     0,               1,       camera,             anyBadge,    Portrait | Selfie},
-    {"HEIC", heic,  40,     0,               1,       camera,             anyBadge,    Edited},
-    {"HEIC", heic,  6,      panorama,        1,       camera,             anyBadge,    None},
-    {"HEIC", heic,  70,     0,               1,       cloudLibrary,       anyBadge,    None},
-    {"JPG",  jpeg,  85,     0,               1,       camera,             anyBadge,    None},
-    {"JPG",  jpeg,  10,     0,               1,       syncedFromComputer, anyBadge,    None},
-    {"PNG",  png,   60,     screenshot,      1,       camera,             anyBadge,    None},
-    {"PNG",  png,   10,     0,               1,       camera,             anyBadge,    None},
-    {"GIF",  gif,   5,      0,               2,       camera,             anyBadge,    None},
-    {"DNG",  dng,   3,      0,               1,       camera,             rawBadge,    None},
-    {"MOV",  movie, 45,     0,               4,       camera,             anyBadge,    None},
-    {"MOV",  movie, 10,     0,               4,       camera,             anyBadge,    Favorite},
-    {"MOV",  movie, 1,      0,               4,       camera,             proResBadge, None},
-    {"MOV",  movie, 6,      sloMo,           4,       camera,             anyBadge,    None},
-    {"MOV",  movie, 6,      timelapse,       4,       camera,             anyBadge,    None},
-    {"MP4",  mpeg,  4,      screenRecording, 4,       camera,             anyBadge,    None},
-    {"HEIC", heic,  8,      0,               1,       camera,             anyBadge,    Trashed},
-    {"HEIC", heic,  6,      0,               1,       camera,             anyBadge,    Hidden},
+    // file  type   of 1000 sub-type             playback          saved as                  badge          traits
+    {"HEIC", heic,  290,    Is::None,            Plays::Image,     From::Camera,             anyBadge,      None},
+    {"HEIC", heic,  200,    Is::LivePhoto,       Plays::LivePhoto, From::Camera,             anyBadge,      Live},
+    {"HEIC", heic,  25,     Is::LivePhoto,       Plays::LivePhoto, From::Camera,             anyBadge,      Live | Favorite},
+    {"HEIC", heic,  60,     Is::LivePhoto,       Plays::LivePhoto, From::Camera,             anyBadge,      Live | Selfie},
+    {"HEIC", heic,  30,     Is::None,            Plays::Image,     From::Camera,             anyBadge,      Portrait},
+    {"HEIC", heic,  20,     Is::None,            Plays::Image,     From::Camera,             anyBadge,      Portrait | Selfie},
+    {"HEIC", heic,  40,     Is::None,            Plays::Image,     From::Camera,             anyBadge,      Edited},
+    {"HEIC", heic,  6,      Is::Panorama,        Plays::Image,     From::Camera,             anyBadge,      None},
+    {"HEIC", heic,  70,     Is::None,            Plays::Image,     From::CloudLibrary,       anyBadge,      None},
+    {"JPG",  jpeg,  85,     Is::None,            Plays::Image,     From::Camera,             anyBadge,      None},
+    {"JPG",  jpeg,  10,     Is::None,            Plays::Image,     From::SyncedFromComputer, anyBadge,      None},
+    {"PNG",  png,   60,     Is::Screenshot,      Plays::Image,     From::Camera,             anyBadge,      None},
+    {"PNG",  png,   10,     Is::None,            Plays::Image,     From::Camera,             anyBadge,      None},
+    {"GIF",  gif,   5,      Is::None,            Plays::Animated,  From::Camera,             anyBadge,      None},
+    {"DNG",  dng,   3,      Is::None,            Plays::Image,     From::Camera,             Badge::Raw,    None},
+    {"MOV",  movie, 45,     Is::None,            Plays::Video,     From::Camera,             anyBadge,      None},
+    {"MOV",  movie, 10,     Is::None,            Plays::Video,     From::Camera,             anyBadge,      Favorite},
+    {"MOV",  movie, 1,      Is::None,            Plays::Video,     From::Camera,             Badge::ProRes, None},
+    {"MOV",  movie, 6,      Is::SloMo,           Plays::Video,     From::Camera,             anyBadge,      None},
+    {"MOV",  movie, 6,      Is::Timelapse,       Plays::Video,     From::Camera,             anyBadge,      None},
+    {"MP4",  mpeg,  4,      Is::ScreenRecording, Plays::Video,     From::Camera,             anyBadge,      None},
+    {"HEIC", heic,  8,      Is::None,            Plays::Image,     From::Camera,             anyBadge,      Trashed},
+    {"HEIC", heic,  6,      Is::None,            Plays::Image,     From::Camera,             anyBadge,      Hidden},
 };
 } // namespace mix
 // clang-format on

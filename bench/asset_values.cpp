@@ -51,11 +51,9 @@ Place placeOf(int key, const StoreShape &shape)
 /// The first frame is picked by the system and stands for its burst.
 int pickTypeOf(const Place &place)
 {
-    constexpr int shown = 20;
-    constexpr int notSelected = 2;
     if (place.burst < 0)
-        return 0;
-    return place.frame == 0 ? shown : notSelected;
+        return BurstPickType::NoBurst;
+    return place.frame == 0 ? BurstPickType::ShownPickedBySystem : BurstPickType::NotPicked;
 }
 
 /// Several a day; more where so many would begin before there were such phones.

@@ -5,8 +5,8 @@
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/statements/statement_tables.h"
 #include "model/store/source_protection.h"
+#include "model/store/sqlite_handles.h"
 #include "model/store/untrusted_database.h"
-#include "sqlite_handles.h"
 
 #include <stdexcept>
 
@@ -21,7 +21,8 @@ EntityNumbers lookUpNumbers(const std::string &database)
     manager.GetPrimarykeyTabAssetInfo();
     manager.GetPrimarykeyTabAlbumInfo();
     manager.GetPrimarykeyTabPhotostreamAlbumInfo();
-    return entityNumbers(manager);
+    return {manager.albumEntity, manager.photoStreamAlbumEntity, manager.assetSuperEntity,
+            manager.assetEntity};
 }
 
 } // namespace
@@ -70,11 +71,11 @@ int Floor::make(const Visit &visit) const
     sqlite3 *opened = nullptr;
     const bool isOpen =
         sqlite3_open_v2(database_.c_str(), &opened, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK;
-    const Connection connection(opened);
+    const SqliteConnection connection(opened);
     sqlite3_stmt *prepared = nullptr;
     if (isOpen && distrust(opened) == SQLITE_OK && protectSource(opened) == ReadingRisk::None)
         sqlite3_prepare_v2(opened, visit.statement.c_str(), -1, &prepared, nullptr);
-    const PreparedStatement statement(prepared);
+    const SqliteStatement statement(prepared);
     if (prepared == nullptr)
         throw std::runtime_error("cannot read " + database_ + ": " + sqlite3_errmsg(opened));
     int rows = 0;

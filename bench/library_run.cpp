@@ -6,16 +6,10 @@
 
 namespace iosphoto::bench {
 
-LibraryRun::~LibraryRun()
-{
-    for (const CAlbumGroup &album : albums_)
-        for (const CPhotoData *photo : album.photos)
-            delete photo;
-}
-
 void LibraryRun::read(const std::filesystem::path &database)
 {
-    const int result = ios_photo_get_list(database.string(), iosVersion, productType, &albums_);
+    const int result =
+        ios_photo_get_list(database.string(), iosVersion, productType, &catalogue_.albums);
     if (result != 0 || records() == 0)
         throw std::runtime_error("the library read nothing from " + database.string());
 }
@@ -23,7 +17,7 @@ void LibraryRun::read(const std::filesystem::path &database)
 std::size_t LibraryRun::records() const
 {
     std::size_t records = 0;
-    for (const CAlbumGroup &album : albums_)
+    for (const CAlbumGroup &album : catalogue_.albums)
         records += album.photos.size();
     return records;
 }

@@ -1,11 +1,10 @@
 #ifndef IOSPHOTO_BENCH_LIBRARY_RUN_H
 #define IOSPHOTO_BENCH_LIBRARY_RUN_H
 
-#include "ios_photo.h"
+#include "records/owned_catalogue.h"
 
 #include <cstddef>
 #include <filesystem>
-#include <vector>
 
 namespace iosphoto::bench {
 
@@ -13,11 +12,6 @@ namespace iosphoto::bench {
 class LibraryRun
 {
 public:
-    LibraryRun() = default;
-    ~LibraryRun();
-    LibraryRun(const LibraryRun &) = delete;
-    LibraryRun &operator=(const LibraryRun &) = delete;
-
     /// Reads the library through the public entry point. Throws where there is nothing in it, since
     /// then nothing was measured.
     void read(const std::filesystem::path &database);
@@ -26,7 +20,7 @@ public:
     std::size_t records() const;
 
 private:
-    std::vector<CAlbumGroup> albums_;
+    OwnedCatalogue catalogue_;
 };
 
 } // namespace iosphoto::bench

@@ -151,11 +151,11 @@ void StoreWriter::commit()
     execute("commit");
 }
 
-PreparedStatement StoreWriter::prepare(const char *sql) const
+SqliteStatement StoreWriter::prepare(const char *sql) const
 {
     sqlite3_stmt *statement = nullptr;
     check(sqlite3_prepare_v2(connection_.get(), sql, -1, &statement, nullptr));
-    return PreparedStatement(statement);
+    return SqliteStatement(statement);
 }
 
 void StoreWriter::execute(const char *sql) const
@@ -171,7 +171,7 @@ void StoreWriter::check(int result) const
 }
 
 template <typename... Values>
-void StoreWriter::insert(const PreparedStatement &statement, const Values &...values) const
+void StoreWriter::insert(const SqliteStatement &statement, const Values &...values) const
 {
     int place = 0;
     (check(bind(statement.get(), ++place, values)), ...);

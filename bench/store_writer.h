@@ -2,7 +2,7 @@
 #define IOSPHOTO_BENCH_STORE_WRITER_H
 
 #include "asset_values.h"
-#include "sqlite_handles.h"
+#include "model/store/sqlite_handles.h"
 
 #include <filesystem>
 
@@ -25,17 +25,17 @@ public:
     void commit();
 
 private:
-    PreparedStatement prepare(const char *sql) const;
+    SqliteStatement prepare(const char *sql) const;
     void execute(const char *sql) const;
     void check(int result) const;
     template <typename... Values>
-    void insert(const PreparedStatement &statement, const Values &...values) const;
+    void insert(const SqliteStatement &statement, const Values &...values) const;
 
-    Connection connection_;
-    PreparedStatement asset_;
-    PreparedStatement attributes_;
-    PreparedStatement album_;
-    PreparedStatement membership_;
+    SqliteConnection connection_;
+    SqliteStatement asset_;
+    SqliteStatement attributes_;
+    SqliteStatement album_;
+    SqliteStatement membership_;
 };
 
 } // namespace iosphoto::bench

@@ -1,6 +1,7 @@
 // Knows where the records of a cache and their trailers lie, which chance hardly ever hits.
 
 #include "ithmb/thumb_formats.h"
+#include "ithmb/thumb_trailer.h"
 
 #include <QtEndian>
 
@@ -81,10 +82,10 @@ private:
                                      255, 256, 257, 0x178, 0x10000, 0x80000000, 0xFFFFFFFF};
         constexpr quint32 lastWords[] = {0, 0, 0, 0, 1, 0x40000000, 0x80000000};
         const int recordSize = oneOf(thumbFormats).recordSize;
-        const int end = recordSize * (1 + upTo(size_ / recordSize));
-        put(end - 12, oneOf(sides));
-        put(end - 8, oneOf(sides));
-        put(end - 4, oneOf(lastWords));
+        const int start = recordSize * (1 + upTo(size_ / recordSize)) - trailerSize;
+        put(start + trailer_offset::width, oneOf(sides));
+        put(start + trailer_offset::height, oneOf(sides));
+        put(start + trailer_offset::zero, oneOf(lastWords));
     }
 
     /// Makes the head of a record empty or not.
@@ -93,7 +94,7 @@ private:
         const int recordSize = oneOf(thumbFormats).recordSize;
         const int start = recordSize * upTo(size_ / recordSize);
         const quint32 value = upTo(1) == 0 ? 0 : 0x7FFF;
-        for (int offset = start; offset < start + 12; offset += 4)
+        for (int offset = start; offset < start + recordHeadSize; offset += 4)
             put(offset, value);
     }
 

@@ -13,7 +13,7 @@ constexpr int emptyRunAtEnd = 17;
 /// Whether a record that starts at `offset` has content. Bytes beyond the end of the file are 0.
 bool hasContent(ifile &file, std::int64_t offset)
 {
-    std::array<char, 12> head = {};
+    std::array<char, iosphoto::recordHeadSize> head = {};
     if (file.seekg(static_cast<long>(offset)) == 0)
         file.read(head.data(), static_cast<int>(head.size()));
     return std::any_of(head.begin(), head.end(), [](char byte) { return byte != 0; });

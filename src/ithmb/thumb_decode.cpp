@@ -1,6 +1,7 @@
 #include "ithmb/thumb_decode.h"
 
 #include "ithmb/bmp_header.h"
+#include "ithmb/thumb_trailer.h"
 #include "ithmb/wrapping.h"
 
 #include <cstring>
@@ -91,8 +92,8 @@ void decodeThumb(const ThumbFormat &format, ifile &file, int index, char *buffer
     Record record; // NOLINT(cppcoreguidelines-pro-type-member-init): filled or not used
     if (buffer == nullptr || !readRecord(format, file, index, record))
         return;
-    const int trailerWidth = record.byteAt(format.trailerOffset + 16);
-    const int trailerHeight = record.byteAt(format.trailerOffset + 20);
+    const int trailerWidth = record.byteAt(format.trailerOffset + trailer_offset::width);
+    const int trailerHeight = record.byteAt(format.trailerOffset + trailer_offset::height);
     const Picture picture = format.isCentred ? centredPicture(format, trailerWidth, trailerHeight)
                                              : wholePicture(format);
     if (!isDecodable(picture, format))

@@ -2,6 +2,7 @@
 #define IOSPHOTO_THUMB_FORMATS_H
 
 #include "ithmb/bmp_header.h"
+#include "ithmb/thumb_trailer.h"
 
 #include <array>
 
@@ -26,7 +27,7 @@ struct ThumbFormat
     bool isCounted; ///< by get_bmp_count()
 };
 
-/// All formats, in the order in which files are probed for them: the last that fits counts.
+/// All formats, in the order in which files are probed for them: the last that matches counts.
 inline constexpr std::array<ThumbFormat, 7> thumbFormats = {{
     // code record pixels trailer stride row rows file size, image size, centred, counted
     {78, 12508, 12480, 12480, 160, 156, 78, 55178, 55112, false, true},
@@ -40,7 +41,8 @@ inline constexpr std::array<ThumbFormat, 7> thumbFormats = {{
 
 constexpr int largestRecord = 55804;
 constexpr int largestImage = 55178; ///< with its header; what callers' buffers hold
-constexpr int trailerSize = 28;
+/// The bytes at the start of a record that are all 0 where it is empty.
+constexpr int recordHeadSize = 12;
 
 /// Whether the numbers of a format agree with each other and with the limits.
 constexpr bool isConsistent(const ThumbFormat &format)

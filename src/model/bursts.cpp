@@ -1,10 +1,10 @@
 #include "model/bursts.h"
 
-#include "model/model_devicephoto_dbmgr.h"
-
 #include <algorithm>
 
-const CAlbumGroup *iosphoto::burstsAlbum(const std::vector<CAlbumGroup> &albums)
+namespace iosphoto {
+
+const CAlbumGroup *burstsAlbum(const std::vector<CAlbumGroup> &albums)
 {
     const auto found = std::find_if(albums.begin(), albums.end(), [](const CAlbumGroup &album) {
         return album.albumKind == AlbumKind::Bursts;
@@ -12,9 +12,9 @@ const CAlbumGroup *iosphoto::burstsAlbum(const std::vector<CAlbumGroup> &albums)
     return found != albums.end() ? &*found : nullptr;
 }
 
-int QDevPhotoDbMgr::getBurstsCount(QString burstUuid) const
+int countBurstFrames(const std::vector<CAlbumGroup> &albums, const QString &burstUuid)
 {
-    const CAlbumGroup *bursts = iosphoto::burstsAlbum(albums);
+    const CAlbumGroup *bursts = burstsAlbum(albums);
     if (bursts == nullptr)
         return 0;
     return static_cast<int>(
@@ -22,12 +22,4 @@ int QDevPhotoDbMgr::getBurstsCount(QString burstUuid) const
                       [&](const CPhotoData *frame) { return frame->burstUuid == burstUuid; }));
 }
 
-bool QDevPhotoDbMgr::isBurstsMain(int pickType) const
-{
-    return iosphoto::standsForBurst(pickType);
-}
-
-bool QDevPhotoDbMgr::isBurstsInCamera(int pickType) const
-{
-    return iosphoto::isShownInCameraRoll(pickType);
-}
+} // namespace iosphoto

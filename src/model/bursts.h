@@ -2,24 +2,29 @@
 #define IOSPHOTO_BURSTS_H
 
 #include "ios_photo.h"
+#include "model/database_codes.h"
 
 namespace iosphoto {
 
-/// Whether a frame of this pick type (`ZAVALANCHEPICKTYPE`, 0 for no burst) stands for its burst.
+/// Whether a frame of this pick type stands for its burst.
 constexpr bool standsForBurst(int pickType)
 {
-    return pickType == 16 || pickType == 20 || pickType == 52;
+    return pickType == BurstPickType::Shown || pickType == BurstPickType::ShownPickedBySystem ||
+           pickType == BurstPickType::ShownWithoutSelection;
 }
 
-/// The Camera Roll leaves out the frames that nobody picked (2) and those that only the system
-/// picked (4).
+/// Whether the Camera Roll shows an asset of this pick type.
 constexpr bool isShownInCameraRoll(int pickType)
 {
-    return pickType != 2 && pickType != 4;
+    return pickType != BurstPickType::NotPicked && pickType != BurstPickType::PickedBySystem;
 }
 
 /// The first Bursts album, smart or not, which holds every frame; a null pointer if there is none.
 const CAlbumGroup *burstsAlbum(const std::vector<CAlbumGroup> &albums);
+
+/// How many frames that album holds of a burst. Walks through all of it; see BurstSizes for many
+/// bursts.
+int countBurstFrames(const std::vector<CAlbumGroup> &albums, const QString &burstUuid);
 
 } // namespace iosphoto
 

@@ -1,9 +1,8 @@
 #include "model/catalogue_finish.h"
 
-#include "model/album_names.h"
 #include "model/burst_sizes.h"
 #include "model/bursts.h"
-#include "model/model_devicephoto_dbmgr.h"
+#include "model/display_texts.h"
 #include "records/record_ownership.h"
 
 #include <algorithm>
@@ -51,7 +50,7 @@ void moveBefore(Albums &albums, Albums::iterator album, std::ptrdiff_t target)
 /// @return whether there is one.
 bool moveImported(Albums &albums, const char *title, bool isSmart, std::ptrdiff_t target)
 {
-    const QString name = QDevPhotoDbMgr::tr(title);
+    const QString name = translated(title);
     const auto imported = std::find_if(albums.begin(), albums.end(), [&](const CAlbumGroup &album) {
         return album.isSmartAlbum == isSmart && album.albumKind == Kind::User &&
                album.albumName == name;
@@ -69,8 +68,8 @@ void moveImportedToFront(Albums &albums)
 {
     constexpr std::ptrdiff_t behindPhotoLibrary = 2;
     const bool moved =
-        moveImported(albums, album_names::importedCameraRoll, true, behindPhotoLibrary);
-    moveImported(albums, album_names::importedPhotoLibrary, false,
+        moveImported(albums, display_text::importedCameraRoll, true, behindPhotoLibrary);
+    moveImported(albums, display_text::importedPhotoLibrary, false,
                  behindPhotoLibrary + (moved ? 1 : 0));
 }
 

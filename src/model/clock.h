@@ -8,7 +8,7 @@ namespace iosphoto {
 /// Seconds since 1970-01-01 00:00:00 UTC.
 std::uint32_t currentUnixTime();
 
-/// Stops the clock of the process at one moment while it lives, to read a library as it was then.
+/// Stops the clock of the process while it lives, for tests.
 class StoppedClock
 {
 public:

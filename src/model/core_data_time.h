@@ -11,7 +11,7 @@ namespace iosphoto {
 /// Unix time of 2001-01-01 00:00:00 UTC.
 constexpr std::int64_t coreDataEpoch = 978307200;
 
-/// `seconds` without its fraction; numbers out of range become the nearest that fits.
+/// `seconds` without its fraction; numbers out of range become the nearest in range.
 std::int64_t wholeSeconds(double seconds);
 
 /// The local time of the lowest 32 bits of `unixTime`, read unsigned: dates wrap after 2106.

@@ -1,8 +1,6 @@
 #include "model/default_albums.h"
 
-#include "model/album_names.h"
-#include "model/model_devicephoto_dbmgr.h"
-#include "no_throw.h"
+#include "model/display_texts.h"
 
 #include <iterator>
 
@@ -37,40 +35,40 @@ constexpr auto pro = &DeviceProfile::proRawAndProRes;
 
 // clang-format off
 constexpr BuiltInAlbum defaultAlbums[] = {
-    // kind                 display name                    smart   from         on models that take
-    {Kind::CameraRoll,       album_names::cameraRoll,       false,  Ios::Oldest, any},
-    {Kind::PhotoLibrary,     album_names::photoLibrary,     false,  Ios::Oldest, any},
-    {Kind::Videos,           album_names::videos,           true,   Ios::Oldest, any},
-    {Kind::Selfies,          album_names::selfies,          true,   Ios::Ios9,   any},
-    {Kind::LivePhotos,       album_names::livePhotos,       true,   Ios::Oldest, live},
-    {Kind::Portrait,         album_names::portrait,         true,   Ios::Ios11,  any},
-    {Kind::Panoramas,        album_names::panoramas,        true,   Ios::Oldest, panorama},
-    {Kind::TimeLapse,        album_names::timeLapse,        true,   Ios::Ios8,   any},
-    {Kind::SloMo,            album_names::sloMo,            true,   Ios::Ios8,   any},
-    {Kind::Bursts,           album_names::bursts,           true,   Ios::Ios8,   any},
-    {Kind::Screenshots,      album_names::screenshots,      true,   Ios::Oldest, any},
-    {Kind::Animated,         album_names::animated,         true,   Ios::Ios11,  any},
-    {Kind::ScreenRecordings, album_names::screenRecordings, true,   Ios::Ios11,  any},
-    {Kind::Favorites,        album_names::favorites,        true,   Ios::Ios8,   any},
-    {Kind::RecentlyDeleted,  album_names::recentlyDeleted,  true,   Ios::Ios8,   any},
-    {Kind::AllDeleted,       album_names::allDeleted,       true,   Ios::Ios8,   any},
-    {Kind::Raw,              album_names::raw,              true,   Ios::Oldest, pro},
-    {Kind::ProRes,           album_names::proRes,           true,   Ios::Oldest, pro},
-    {Kind::Hidden,           album_names::hidden,           true,   Ios::Ios9,   any},
+    // kind                 display name                     smart   from         on models that take
+    {Kind::CameraRoll,       display_text::cameraRoll,       false,  Ios::Oldest, any},
+    {Kind::PhotoLibrary,     display_text::photoLibrary,     false,  Ios::Oldest, any},
+    {Kind::Videos,           display_text::videos,           true,   Ios::Oldest, any},
+    {Kind::Selfies,          display_text::selfies,          true,   Ios::Ios9,   any},
+    {Kind::LivePhotos,       display_text::livePhotos,       true,   Ios::Oldest, live},
+    {Kind::Portrait,         display_text::portrait,         true,   Ios::Ios11,  any},
+    {Kind::Panoramas,        display_text::panoramas,        true,   Ios::Oldest, panorama},
+    {Kind::TimeLapse,        display_text::timeLapse,        true,   Ios::Ios8,   any},
+    {Kind::SloMo,            display_text::sloMo,            true,   Ios::Ios8,   any},
+    {Kind::Bursts,           display_text::bursts,           true,   Ios::Ios8,   any},
+    {Kind::Screenshots,      display_text::screenshots,      true,   Ios::Oldest, any},
+    {Kind::Animated,         display_text::animated,         true,   Ios::Ios11,  any},
+    {Kind::ScreenRecordings, display_text::screenRecordings, true,   Ios::Ios11,  any},
+    {Kind::Favorites,        display_text::favorites,        true,   Ios::Ios8,   any},
+    {Kind::RecentlyDeleted,  display_text::recentlyDeleted,  true,   Ios::Ios8,   any},
+    {Kind::AllDeleted,       display_text::allDeleted,       true,   Ios::Ios8,   any},
+    {Kind::Raw,              display_text::raw,              true,   Ios::Oldest, pro},
+    {Kind::ProRes,           display_text::proRes,           true,   Ios::Oldest, pro},
+    {Kind::Hidden,           display_text::hidden,           true,   Ios::Ios9,   any},
 };
 
 constexpr BuiltInAlbum collectingAlbums[] = {
-    {Kind::Selfies,          album_names::selfies,          false,  Ios::Ios9,   any},
-    {Kind::Portrait,         album_names::portrait,         false,  Ios::Ios11,  any},
-    {Kind::Panoramas,        album_names::panoramas,        false,  Ios::Ios6,   any},
-    {Kind::Screenshots,      album_names::screenshots,      false,  Ios::Oldest, any},
+    {Kind::Selfies,          display_text::selfies,          false,  Ios::Ios9,   any},
+    {Kind::Portrait,         display_text::portrait,         false,  Ios::Ios11,  any},
+    {Kind::Panoramas,        display_text::panoramas,        false,  Ios::Ios6,   any},
+    {Kind::Screenshots,      display_text::screenshots,      false,  Ios::Oldest, any},
 };
 // clang-format on
 
 QString displayName(const BuiltInAlbum &album, const DeviceProfile &device)
 {
     const bool oldName = album.kind == Kind::Screenshots && device.ios < Ios::Ios9;
-    return QDevPhotoDbMgr::tr(oldName ? album_names::screenshotsBeforeIos9 : album.name);
+    return translated(oldName ? display_text::screenshotsBeforeIos9 : album.name);
 }
 
 template <std::size_t count>
@@ -106,11 +104,3 @@ void appendCollectingAlbums(std::vector<CAlbumGroup> &albums, const DeviceProfil
 }
 
 } // namespace iosphoto
-
-int QDevPhotoDbMgr::SetDefaultAlbum()
-{
-    return iosphoto::withoutThrowing([this] {
-        appendDefaultAlbums(albums, iosphoto::DeviceProfile(iosVersion, productType));
-        return 0;
-    });
-}

@@ -6,8 +6,8 @@
 
 namespace iosphoto {
 
-/// Appends Camera Roll, Photo Library and the smart albums that the device can have. Appends
-/// nothing when it throws, as the next function does.
+/// Appends Camera Roll, Photo Library and the smart albums that the device can have. When it throws
+/// it has appended nothing; nor has the next function.
 void appendDefaultAlbums(std::vector<CAlbumGroup> &albums, const DeviceProfile &device);
 
 /// Appends the second Selfies, Portrait, Panoramas and Screenshots albums. They are not smart: they

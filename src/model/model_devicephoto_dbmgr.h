@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,8 +37,8 @@ IOSPHOTO_EXPORT int cmpProductVersion(const QString &a, const QString &b);
 ///
 /// Results: a pass returns the number of rows it read, or a negated SQLite code: that of a file
 /// that could not be opened (-14 SQLITE_CANTOPEN), or -7 (SQLITE_NOMEM) when memory ran out. A
-/// statement that does not fit the database's schema gives 0 rows, a database damaged half way the
-/// rows before the damage; `report` tells that from a library with so few photos. Nothing is
+/// statement that does not match the database's schema gives 0 rows, a database damaged half way
+/// the rows before the damage; `report` tells that from a library with so few photos. Nothing is
 /// thrown, except by the constructor and the two setters for lack of memory.
 ///
 /// Ownership: the records that `albums` points to belong to the host; the manager deletes none when
@@ -117,6 +118,9 @@ public:
     /// tables may multiply each other. A sound one has at most as many rows in a pass as assets,
     /// albums and memberships together.
     std::int64_t rowLimit = 0;
+    /// The Unix time that counts as now for the trash; by default that of the clock when a pass
+    /// starts.
+    std::optional<std::uint32_t> asOf;
 };
 
 #endif // IOSPHOTO_MODEL_DEVICEPHOTO_DBMGR_H

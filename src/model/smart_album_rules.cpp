@@ -1,7 +1,6 @@
 #include "model/smart_album_rules.h"
 
-#include "model/asset_codes.h"
-#include "model/clock.h"
+#include "model/database_codes.h"
 #include "model/passes/camera_roll_columns.h"
 #include "model/trash.h"
 #include "records/record_ownership.h"
@@ -55,9 +54,9 @@ constexpr struct
     bool CPhotoData::*flag;
     Kind::Code kind;
 } videoKinds[] = {
-    {kind_subtype::timelapse,       Ios::Ios8,  &CPhotoData::isTimelapse,       Kind::TimeLapse},
-    {kind_subtype::sloMo,           Ios::Ios8,  &CPhotoData::isSlomo,           Kind::SloMo},
-    {kind_subtype::screenRecording, Ios::Ios11, &CPhotoData::isScreenRecording, Kind::ScreenRecordings},
+    {KindSubtype::Timelapse,       Ios::Ios8,  &CPhotoData::isTimelapse,       Kind::TimeLapse},
+    {KindSubtype::SloMo,           Ios::Ios8,  &CPhotoData::isSlomo,           Kind::SloMo},
+    {KindSubtype::ScreenRecording, Ios::Ios11, &CPhotoData::isScreenRecording, Kind::ScreenRecordings},
 };
 // clang-format on
 
@@ -83,8 +82,9 @@ bool isVideoType(const char *uniformTypeIdentifier)
 
 } // namespace
 
-SmartAlbumRules::SmartAlbumRules(std::vector<CAlbumGroup> &albums, const DeviceProfile &device)
-    : device_(device), now_(currentUnixTime())
+SmartAlbumRules::SmartAlbumRules(std::vector<CAlbumGroup> &albums, const DeviceProfile &device,
+                                 std::uint32_t now)
+    : device_(device), now_(now)
 {
     for (const Placement &placement : placements)
         targets_.at(static_cast<std::size_t>(placement.kind)) = {
@@ -95,7 +95,7 @@ SmartAlbumRules::SmartAlbumRules(std::vector<CAlbumGroup> &albums, const DeviceP
 bool SmartAlbumRules::sort(CPhotoData &photo, const Row &row) const
 {
     const bool isTrashed =
-        device_.ios >= Ios::Ios8 && row.int32(camera_roll::trashedState) == inTrash;
+        device_.ios >= Ios::Ios8 && row.int32(camera_roll::trashedState) == TrashedState::InTrash;
     if (isTrashed && isTrashedTooLong(row.int32(camera_roll::trashedDate), now_))
         return false;
 
@@ -135,7 +135,7 @@ void SmartAlbumRules::sortTrashed(CPhotoData &photo) const
 
 bool SmartAlbumRules::sortPanorama(CPhotoData &photo, const Row &row) const
 {
-    if (!device_.panoramas || row.int32(camera_roll::kindSubtype) != kind_subtype::panorama)
+    if (!device_.panoramas || row.int32(camera_roll::kindSubtype) != KindSubtype::Panorama)
         return false;
     photo.isPanorama = true;
     copyTo(Kind::Panoramas, photo);
@@ -201,15 +201,15 @@ bool SmartAlbumRules::isScreenshot(const Row &row) const
     if (device_.ios < Ios::Ios8 || thumbnailHeight == notKnown || savedAs == notKnown)
         return false;
     if (device_.ios < Ios::Ios9)
-        return thumbnailHeight == 0 && savedAs == saved_asset_type::camera &&
+        return thumbnailHeight == 0 && savedAs == SavedAssetType::Camera &&
                !row.hasText(camera_roll::creatorBundle);
-    return row.int32(camera_roll::kindSubtype) == kind_subtype::screenshot &&
-           (savedAs == saved_asset_type::camera || savedAs == saved_asset_type::cloudLibrary);
+    return row.int32(camera_roll::kindSubtype) == KindSubtype::Screenshot &&
+           (savedAs == SavedAssetType::Camera || savedAs == SavedAssetType::CloudLibrary);
 }
 
 void SmartAlbumRules::sortAnimated(CPhotoData &photo, const Row &row) const
 {
-    if (row.int32(camera_roll::playbackStyle) != animatedPlayback)
+    if (row.int32(camera_roll::playbackStyle) != PlaybackStyle::Animated)
         return;
     photo.isAnimated = true;
     copyTo(Kind::Animated, photo);
@@ -219,16 +219,15 @@ void SmartAlbumRules::sortPortrait(CPhotoData &photo, const Row &row) const
 {
     if (device_.ios < Ios::Ios11)
         return;
-    photo.isPortrait = device_.ios < Ios::Ios14
-                           ? row.int32(camera_roll::depthStates) == hasDepthBeforeIos14
-                           : row.int32(camera_roll::depthType) == hasDepth;
+    photo.isPortrait = isPortrait(row, camera_roll::depth, device_.ios);
     if (photo.isPortrait)
         copyTo(Kind::Portrait, photo);
 }
 
 void SmartAlbumRules::sortSelfie(CPhotoData &photo, const Row &row) const
 {
-    if (device_.ios < Ios::Ios9 || row.int32(camera_roll::cameraCaptureDevice) != frontCamera)
+    if (device_.ios < Ios::Ios9 ||
+        row.int32(camera_roll::cameraCaptureDevice) != CaptureDevice::FrontCamera)
         return;
     photo.isSelfie = true;
     copyTo(Kind::Selfies, photo);
@@ -236,7 +235,7 @@ void SmartAlbumRules::sortSelfie(CPhotoData &photo, const Row &row) const
 
 void SmartAlbumRules::sortFavorite(CPhotoData &photo, const Row &row) const
 {
-    if (device_.ios < Ios::Ios8 || row.int32(camera_roll::favorite) != isFavoriteAsset)
+    if (device_.ios < Ios::Ios8 || row.int32(camera_roll::favorite) != FavoriteFlag::IsFavorite)
         return;
     photo.isFavorite = true;
     copyTo(Kind::Favorites, photo);

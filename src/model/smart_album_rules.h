@@ -6,6 +6,7 @@
 #include "model/store/row.h"
 
 #include <array>
+#include <cstdint>
 #include <vector>
 
 namespace iosphoto {
@@ -19,7 +20,9 @@ class SmartAlbumRules
 {
 public:
     /// @param albums  must not grow or shrink while the rules are in use
-    SmartAlbumRules(std::vector<CAlbumGroup> &albums, const DeviceProfile &device);
+    /// @param now     Unix time as of which the trash is looked at
+    SmartAlbumRules(std::vector<CAlbumGroup> &albums, const DeviceProfile &device,
+                    std::uint32_t now);
 
     /// Sets the flags of `photo` and copies it to the albums it belongs to.
     /// @return false when it has been in the trash too long and is to be forgotten.

@@ -10,8 +10,8 @@ namespace iosphoto {
 
 constexpr std::int64_t trashKeptFor = 2592000; // 30 days, in seconds
 
-/// Unix time at which an asset was trashed; 0 when the database does not say. A negative date is a
-/// number of 32 unsigned bits that has no epoch added, and so lies far in the future.
+/// Unix time at which an asset was trashed; 0 when the database does not say. A negative date is
+/// read as 32 unsigned bits and gets no epoch added, so that it lies far in the future.
 inline std::int64_t trashTime(std::int32_t trashedDate)
 {
     if (trashedDate < 0)

@@ -1,26 +1,26 @@
 /// A generated library is worth measuring only if SQLite goes through it as through a real one.
 #include "floor.h"
 #include "store_generator.h"
+#include "support/database.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
+using namespace iosphoto;
 using namespace iosphoto::bench;
 using namespace iosphoto::test;
 
 namespace {
 
 /// The steps of the plan of a statement, one a line.
-std::string planOf(sqlite3 *connection, const std::string &statement)
+std::string planOf(const SqliteConnection &connection, const std::string &statement)
 {
     constexpr int detail = 3;
-    sqlite3_stmt *plan = nullptr;
+    const SqliteStatement plan = prepare(connection, "explain query plan " + statement);
     std::string steps;
-    sqlite3_prepare_v2(connection, ("explain query plan " + statement).c_str(), -1, &plan, nullptr);
-    while (sqlite3_step(plan) == SQLITE_ROW)
-        steps.append(reinterpret_cast<const char *>(sqlite3_column_text(plan, detail))) += '\n';
-    sqlite3_finalize(plan);
+    while (sqlite3_step(plan.get()) == SQLITE_ROW)
+        steps.append(reinterpret_cast<const char *>(sqlite3_column_text(plan.get(), detail))) +=
+            '\n';
     return steps;
 }
 
@@ -28,11 +28,9 @@ std::string planOf(sqlite3 *connection, const std::string &statement)
 std::vector<std::string> plansOn(const std::filesystem::path &database)
 {
     std::vector<std::string> plans;
-    sqlite3 *connection = nullptr;
-    sqlite3_open(database.c_str(), &connection);
+    const SqliteConnection connection = openDatabase(database);
     for (const std::string &statement : Floor(database).statements())
         plans.push_back(planOf(connection, statement));
-    sqlite3_close(connection);
     return plans;
 }
 

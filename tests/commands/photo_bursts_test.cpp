@@ -1,8 +1,10 @@
+#include "model/database_codes.h"
 #include "support/run_on.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+using namespace iosphoto;
 using namespace iosphoto::test;
 
 class ToolBursts : public testing::Test
@@ -21,9 +23,9 @@ protected:
         return runOn(library_, "photos", arguments);
     }
 
-    static constexpr int nobodysChoice = 2;
-    static constexpr int otherPick = 20;
-    static constexpr int pick = 16;
+    static constexpr int nobodysChoice = BurstPickType::NotPicked;
+    static constexpr int otherPick = BurstPickType::ShownPickedBySystem;
+    static constexpr int pick = BurstPickType::Shown;
     LibraryBuilder library_{ios15};
 };
 

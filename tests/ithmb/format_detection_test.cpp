@@ -151,7 +151,7 @@ TEST(FormatsInOneFile, Record2PlausibleAs125AndAs166Is166)
     EXPECT_EQ(detect(cache, 2), 166);
 }
 
-TEST(FormatsInOneFile, OfTwoThatFitTheLastOneProbedCounts)
+TEST(FormatsInOneFile, OfTwoThatMatchTheLastOneProbedCounts)
 {
     for (const ThumbCase &earlier : thumbCases)
         for (const ThumbCase *later = &earlier + 1; later != std::end(thumbCases); ++later) {

@@ -1,9 +1,10 @@
 #include "support/backup_builder.h"
 
+#include "support/database.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <plist/plist.h>
-#include <sqlite3.h>
 
 #include <stdexcept>
 
@@ -20,12 +21,6 @@ std::string fileId(const std::string &mediaPath)
     const QByteArray subject =
         QByteArray(domain) + "-Media/" + QByteArray::fromStdString(mediaPath);
     return QCryptographicHash::hash(subject, QCryptographicHash::Sha1).toHex().toStdString();
-}
-
-void execute(sqlite3 *connection, const std::string &sql)
-{
-    if (sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection));
 }
 
 std::string key(const std::string &name, const std::string &value)
@@ -144,8 +139,7 @@ void BackupBuilder::writeDb() const
         writeFile(folder_ / "Manifest.db", std::string(4096, 'e'));
         return;
     }
-    sqlite3 *connection = nullptr;
-    sqlite3_open((folder_ / "Manifest.db").c_str(), &connection);
+    const SqliteConnection connection = openDatabase(folder_ / "Manifest.db");
     execute(connection, "create table Files (fileID text primary key, domain text, "
                         "relativePath text, flags integer, file blob)");
     execute(connection, "insert into Files values ('0000000000000000000000000000000000000000', '" +
@@ -155,7 +149,6 @@ void BackupBuilder::writeDb() const
     for (const std::string &path : listedPaths())
         execute(connection, "insert into Files values ('" + fileId(path) + "', '" + domain +
                                 "', 'Media/" + path + "', 1, null)");
-    sqlite3_close(connection);
 }
 
 void BackupBuilder::writeMbdb() const

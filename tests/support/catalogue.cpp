@@ -58,11 +58,6 @@ Catalogue::Catalogue(const LibraryBuilder &library, const std::string &iosVersio
 {
 }
 
-Catalogue::~Catalogue()
-{
-    destroyRecords(albums);
-}
-
 const CAlbumGroup *Catalogue::named(const QString &name) const
 {
     const auto found = std::find_if(albums.begin(), albums.end(), [&](const CAlbumGroup &album) {

@@ -3,6 +3,7 @@
 
 #include "ios_photo.h"
 #include "model/model_devicephoto_dbmgr.h"
+#include "records/owned_catalogue.h"
 #include "support/library_builder.h"
 
 #include <string>
@@ -24,8 +25,8 @@ AlbumKinds albumKinds(const std::vector<CAlbumGroup> &albums);
 const CAlbumGroup *findAlbum(const std::vector<CAlbumGroup> &albums, AlbumKind::Code kind,
                              bool isSmart);
 
-/// A catalogue that ios_photo_get_list() returned. Owns the records.
-class Catalogue
+/// A catalogue that ios_photo_get_list() returned.
+class Catalogue : public OwnedCatalogue
 {
 public:
     Catalogue(const std::string &path, const std::string &iosVersion,
@@ -34,9 +35,6 @@ public:
     explicit Catalogue(const LibraryBuilder &library);
     Catalogue(const LibraryBuilder &library, const std::string &iosVersion,
               const std::string &productType = "iPhone14,2");
-    ~Catalogue();
-    Catalogue(const Catalogue &) = delete;
-    Catalogue &operator=(const Catalogue &) = delete;
 
     const CAlbumGroup *smart(AlbumKind::Code kind) const { return findAlbum(albums, kind, true); }
     /// The first album of the kind that is not smart: Camera Roll, Photo Library, the albums that
@@ -51,7 +49,6 @@ public:
     /// The first record of a file in the Camera Roll.
     const CPhotoData &photo(const char *fileName) const { return photo(cameraRoll(), fileName); }
 
-    std::vector<CAlbumGroup> albums;
     int result;
 };
 

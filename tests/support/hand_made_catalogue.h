@@ -12,15 +12,10 @@ namespace iosphoto::test {
 constexpr bool smart = true;
 constexpr bool plain = false;
 
-/// Albums made without a database, to be finished as a build finishes its own. Owns the records.
-class HandMadeCatalogue
+/// Albums made without a database, to be finished as a build finishes its own.
+class HandMadeCatalogue : public OwnedCatalogue
 {
 public:
-    HandMadeCatalogue() = default;
-    ~HandMadeCatalogue() { destroyRecords(albums); }
-    HandMadeCatalogue(const HandMadeCatalogue &) = delete;
-    HandMadeCatalogue &operator=(const HandMadeCatalogue &) = delete;
-
     /// Appends an album. What is returned lives until the next call.
     CAlbumGroup &add(AlbumKind::Code kind, bool isSmart, const char *name, const Files &names = {})
     {
@@ -44,8 +39,6 @@ public:
     }
 
     void finish() { finishCatalogue(albums); }
-
-    std::vector<CAlbumGroup> albums;
 };
 
 } // namespace iosphoto::test

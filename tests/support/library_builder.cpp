@@ -1,6 +1,6 @@
 #include "support/library_builder.h"
 
-#include <sqlite3.h>
+#include "support/database.h"
 
 #include <cstdio>
 #include <stdexcept>
@@ -108,24 +108,17 @@ std::string AssetRow::uuid() const
     return catalogueUuid(library_->schema_, uuidPrefix_, key_);
 }
 
-LibraryBuilder::LibraryBuilder(const Schema &schema, const std::string &encoding) : schema_(schema)
+LibraryBuilder::LibraryBuilder(const Schema &schema, const std::string &encoding)
+    : schema_(schema), connection_(openDatabase(path()))
 {
-    if (sqlite3_open(path().c_str(), &connection_) != SQLITE_OK)
-        throw std::runtime_error("cannot make " + path());
     execute("pragma synchronous = off");
     execute("pragma encoding = '" + encoding + "'");
     execute(readFile(std::string(IOSPHOTO_TEST_DATA) + "/schema/" + schema.name + ".sql"));
 }
 
-LibraryBuilder::~LibraryBuilder()
-{
-    close();
-}
-
 void LibraryBuilder::close()
 {
-    sqlite3_close(connection_);
-    connection_ = nullptr;
+    connection_.reset();
 }
 
 AssetRow LibraryBuilder::asset(const Value &fileName)
@@ -215,38 +208,28 @@ void LibraryBuilder::update(const std::string &table, const std::string &column,
 
 bool LibraryBuilder::hasColumn(const std::string &table, const std::string &column)
 {
-    return sqlite3_table_column_metadata(connection_, nullptr, table.c_str(), column.c_str(),
+    return sqlite3_table_column_metadata(connection_.get(), nullptr, table.c_str(), column.c_str(),
                                          nullptr, nullptr, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
 void LibraryBuilder::run(const std::string &sql, const Value &value)
 {
-    sqlite3_stmt *statement = nullptr;
-    if (sqlite3_prepare_v2(connection_, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection_));
-    int result = bind(statement, value);
-    if (result == SQLITE_OK)
-        result = sqlite3_step(statement);
-    sqlite3_finalize(statement);
-    if (result != SQLITE_DONE)
-        throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection_));
+    const SqliteStatement statement = prepare(connection_, sql);
+    if (bind(statement.get(), value) != SQLITE_OK || sqlite3_step(statement.get()) != SQLITE_DONE)
+        throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection_.get()));
 }
 
 int LibraryBuilder::number(const std::string &query)
 {
-    sqlite3_stmt *statement = nullptr;
-    sqlite3_prepare_v2(connection_, query.c_str(), -1, &statement, nullptr);
-    if (sqlite3_step(statement) != SQLITE_ROW)
-        throw std::runtime_error(query + ": " + sqlite3_errmsg(connection_));
-    const int found = sqlite3_column_int(statement, 0);
-    sqlite3_finalize(statement);
-    return found;
+    const SqliteStatement statement = prepare(connection_, query);
+    if (sqlite3_step(statement.get()) != SQLITE_ROW)
+        throw std::runtime_error(query + ": " + sqlite3_errmsg(connection_.get()));
+    return sqlite3_column_int(statement.get(), 0);
 }
 
 void LibraryBuilder::execute(const std::string &sql)
 {
-    if (sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sql + ": " + sqlite3_errmsg(connection_));
+    test::execute(connection_, sql);
 }
 
 } // namespace iosphoto::test

@@ -1,16 +1,14 @@
 #ifndef IOSPHOTO_TESTS_LIBRARY_BUILDER_H
 #define IOSPHOTO_TESTS_LIBRARY_BUILDER_H
 
+#include "model/store/sqlite_handles.h"
 #include "support/schema.h"
 #include "support/temporary_folder.h"
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
-
-struct sqlite3;
 
 namespace iosphoto::test {
 
@@ -76,7 +74,6 @@ class LibraryBuilder
 public:
     /// @param encoding  of its texts, such as "UTF-16"
     explicit LibraryBuilder(const Schema &schema, const std::string &encoding = "UTF-8");
-    ~LibraryBuilder();
 
     AssetRow asset(const Value &fileName);
     /// An asset that the Camera Roll shows on every schema: below iOS 8 an untitled album must hold
@@ -111,7 +108,7 @@ private:
 
     Schema schema_;
     TemporaryFolder folder_;
-    sqlite3 *connection_ = nullptr;
+    SqliteConnection connection_;
     std::optional<AlbumRow> untitledAlbum_;
     int assets_ = 0;
     int albums_ = 0;

@@ -1,8 +1,7 @@
 #include "support/query.h"
 
-#include <sqlite3.h>
+#include "support/database.h"
 
-#include <memory>
 #include <stdexcept>
 
 namespace iosphoto::test {
@@ -25,18 +24,15 @@ std::vector<std::vector<std::string>> query(const std::filesystem::path &file,
 {
     sqlite3 *opened = nullptr;
     const int result = sqlite3_open_v2(file.c_str(), &opened, SQLITE_OPEN_READONLY, nullptr);
-    const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> connection(opened, sqlite3_close);
-    sqlite3_stmt *prepared = nullptr;
-    if (result != SQLITE_OK ||
-        sqlite3_prepare_v2(opened, sql.c_str(), -1, &prepared, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sql + ": " + sqlite3_errmsg(opened));
-    const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> statement(prepared,
-                                                                               sqlite3_finalize);
+    const SqliteConnection connection(opened);
+    if (result != SQLITE_OK)
+        throw std::runtime_error(file.string() + ": " + sqlite3_errmsg(opened));
+    const SqliteStatement statement = prepare(connection, sql);
     std::vector<std::vector<std::string>> rows;
-    while (sqlite3_step(prepared) == SQLITE_ROW) {
+    while (sqlite3_step(statement.get()) == SQLITE_ROW) {
         auto &row = rows.emplace_back();
-        for (int column = 0; column < sqlite3_column_count(prepared); ++column)
-            row.push_back(text(prepared, column));
+        for (int column = 0; column < sqlite3_column_count(statement.get()); ++column)
+            row.push_back(text(statement.get(), column));
     }
     return rows;
 }

@@ -1,10 +1,8 @@
 #include "catalogue/library.h"
 
-#include "model/clock.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/store/database_path.h"
 #include "model/store/stored_bytes.h"
-#include "records/record_ownership.h"
 #include "schema/asset_tables.h"
 #include "terminal/busy_line.h"
 #include "text/translate.h"
@@ -22,8 +20,8 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
                        [](const CAlbumGroup &album) { return album.photos.empty(); });
 }
 
-/// The clock that the library reads counts 32 bits.
-std::uint32_t clockTime(UnixTime time)
+/// The library counts times in 32 bits.
+std::uint32_t libraryTime(UnixTime time)
 {
     return static_cast<std::uint32_t>(
         std::clamp<std::int64_t>(time.seconds, 0, std::numeric_limits<std::uint32_t>::max()));
@@ -62,9 +60,8 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     isArchive_ = source.isArchive();
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);
-    const StoppedClock asOf(clockTime(asOf_.time));
     read(session, copy);
-    leftOut_ = trash_.leftOutOf(albums_);
+    leftOut_ = trash_.leftOutOf(albums());
 }
 
 void Library::inspect(const OpenedCopy &copy)
@@ -78,28 +75,22 @@ void Library::inspect(const OpenedCopy &copy)
         logChanges_ = readLogChanges(database);
 }
 
-Library::~Library()
-{
-    destroyRecords(albums_);
-}
-
 void Library::read(const Session &session, const OpenedCopy &copy)
 {
     QDevPhotoDbMgr manager(device().iosVersion, device().productType);
     manager.SetDataPath(pathFromBytes(copy.file()));
     rowLimit_ = manager.rowLimit = mostRowsOfAPass(copy.file());
+    manager.asOf = libraryTime(asOf_.time);
     const int result = [&] {
         const BusyLine busy(session.terminal, translate("reading photos"));
         return manager.GetPhotoAlbumDatas();
     }();
-    albums_ = std::move(manager.albums);
+    catalogue_ = OwnedCatalogue(std::move(manager.albums));
     report_ = std::move(manager.report);
     const CPassReport *const stop = report_.firstStopped();
-    if (result != 0 || (stop != nullptr && isWithoutPhotos(albums_))) {
-        destroyRecords(albums_);
+    if (result != 0 || (stop != nullptr && isWithoutPhotos(albums())))
         throw NothingRead(database_, stop != nullptr ? stop->extendedCode : -result);
-    }
-    if (stop == nullptr && isWithoutPhotos(albums_) && areAssetTablesDamaged(copy.connect()))
+    if (stop == nullptr && isWithoutPhotos(albums()) && areAssetTablesDamaged(copy.connect()))
         throw NothingRead(database_, SQLITE_CORRUPT);
 }
 

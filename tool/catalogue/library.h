@@ -5,6 +5,7 @@
 #include "catalogue/trash.h"
 #include "ios_photo.h"
 #include "ios_photo_report.h"
+#include "records/owned_catalogue.h"
 #include "schema/opened_copy.h"
 #include "session/session.h"
 #include "time/epochs.h"
@@ -59,9 +60,6 @@ public:
     Library(Session &session, const LibraryRequest &request);
     /// The same of a source that was opened before.
     Library(Session &session, const LibraryRequest &request, const Source &source);
-    ~Library();
-    Library(const Library &) = delete;
-    Library &operator=(const Library &) = delete;
 
     const std::string &name() const { return request_.source; } ///< as the user named it
     const std::string &database() const { return database_; }   ///< that was found there
@@ -69,7 +67,7 @@ public:
     bool isArchive() const { return isArchive_; }
     const Device &device() const { return schema_.device; }
     const ProbedSchema &schema() const { return schema_; }
-    const std::vector<CAlbumGroup> &albums() const { return albums_; }
+    const std::vector<CAlbumGroup> &albums() const { return catalogue_.albums; }
     const Moment &asOf() const { return asOf_; }
     const Trash &trash() const { return trash_; }
 
@@ -102,7 +100,7 @@ private:
     Trash trash_;
     bool hasLog_ = false;
     std::vector<LogChange> logChanges_;
-    std::vector<CAlbumGroup> albums_;
+    OwnedCatalogue catalogue_;
     int leftOut_ = 0;
     std::vector<SourceFinding> missing_;
     CReadReport report_;

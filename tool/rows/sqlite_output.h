@@ -3,12 +3,11 @@
 
 #include "files/atomic_file.h"
 #include "files/file_use.h"
+#include "model/store/sqlite_handles.h"
 #include "rows/output_problem.h"
 #include "rows/row_writer.h"
 #include "rows/values.h"
 #include "text/json.h"
-
-#include <sqlite3.h>
 
 #include <cstdint>
 #include <filesystem>
@@ -40,19 +39,13 @@ public:
 private:
     friend class SqliteInsert;
 
-    struct Close
-    {
-        void operator()(sqlite3 *connection) const { sqlite3_close(connection); }
-        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
-    };
-
     void writeHead(const Json &head);
     OutputError unwritable() const;
 
     FileUse &fileUse_;
     std::filesystem::path shownFile_;
     std::unique_ptr<AtomicFile> file_;
-    std::unique_ptr<sqlite3, Close> connection_;
+    SqliteConnection connection_;
 };
 
 /// A name as SQL has it, whatever it is made of.
@@ -71,7 +64,7 @@ public:
 private:
     SqliteOutput &output_;
     std::size_t columns_;
-    std::unique_ptr<sqlite3_stmt, SqliteOutput::Close> statement_;
+    SqliteStatement statement_;
     std::vector<std::string> made_; ///< texts of the row that are not the values themselves
 };
 

@@ -122,12 +122,11 @@ bool CopyDatabase::attachWithoutLog(const std::string &name) const
            sqlite3_step(statement.get()) == SQLITE_DONE;
 }
 
-std::unique_ptr<sqlite3_stmt, CopyDatabase::Close>
-CopyDatabase::prepare(const std::string &text) const
+SqliteStatement CopyDatabase::prepare(const std::string &text) const
 {
     sqlite3_stmt *statement = nullptr;
     const int result = sqlite3_prepare_v2(connection_.get(), text.c_str(), -1, &statement, nullptr);
-    std::unique_ptr<sqlite3_stmt, Close> owned(statement);
+    SqliteStatement owned(statement);
     constexpr int primaryCode = 0xff;
     if (result != SQLITE_OK && (result & primaryCode) != SQLITE_ERROR)
         throw unreadable();

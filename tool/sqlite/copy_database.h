@@ -1,15 +1,13 @@
 #ifndef IOSPHOTO_TOOL_COPY_DATABASE_H
 #define IOSPHOTO_TOOL_COPY_DATABASE_H
 
+#include "model/store/sqlite_handles.h"
 #include "model/store/work_limit.h"
 #include "process/failure.h"
 #include "sqlite/sqlite_error.h"
 
-#include <sqlite3.h>
-
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -45,8 +43,8 @@ public:
     /// Whether the file is a database, and not encrypted. Throws Failure when it cannot be read.
     bool isDatabase() const;
 
-    /// Whether nothing runs where its tables are read: each that is among `tables`, or fits the
-    /// pattern of `like`, is no view, no virtual table, and has no column that is computed.
+    /// Whether nothing runs where its tables are read: each that is among `tables`, or matches
+    /// the pattern of `like`, is no view, no virtual table, and has no column that is computed.
     /// @param schema  "main", or what was attached
     bool areRealTables(const std::vector<std::string> &tables, const std::string &like,
                        const std::string &schema = "main") const;
@@ -73,16 +71,10 @@ public:
     Failure unreadable() const;
 
 private:
-    struct Close
-    {
-        void operator()(sqlite3 *connection) const { sqlite3_close(connection); }
-        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
-    };
-
-    std::unique_ptr<sqlite3_stmt, Close> prepare(const std::string &text) const;
+    SqliteStatement prepare(const std::string &text) const;
 
     WorkLimit workLimit_;
-    std::unique_ptr<sqlite3, Close> connection_;
+    SqliteConnection connection_;
     std::string file_;
     std::string shownName_;
     IfDamaged remedy_;

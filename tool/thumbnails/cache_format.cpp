@@ -6,12 +6,6 @@
 
 namespace iosphoto::tool {
 
-namespace {
-
-constexpr int probedBytes = 12; ///< at the start and at the end of a record
-
-} // namespace
-
 bool isZero(ifile &file, long offset, int count)
 {
     std::vector<char> bytes(static_cast<std::size_t>(count));
@@ -25,7 +19,8 @@ RecordState recordState(ifile &file, int recordSize, int index)
     const int end = start + recordSize;
     if (detect_type(end, file))
         return RecordState::Plausible;
-    return isZero(file, start, probedBytes) && isZero(file, end - probedBytes, probedBytes)
+    return isZero(file, start, recordHeadSize) &&
+                   isZero(file, end - trailerWordsSize, trailerWordsSize)
                ? RecordState::Empty
                : RecordState::Damaged;
 }

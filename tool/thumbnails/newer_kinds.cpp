@@ -1,11 +1,9 @@
 #include "thumbnails/newer_kinds.h"
 
+#include "ithmb/thumb_trailer.h"
 #include "thumbnails/cache_format.h"
 
-#include <QtEndian>
-
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 namespace iosphoto::tool {
@@ -37,12 +35,9 @@ bool isMultiple(ifile &file, int recordSize)
 /// Whether the thumbnail that a record's trailer states is no larger than the kind's pictures.
 bool fitsInto(const NewerKind &kind, ifile &file, int index)
 {
-    std::array<char, 8> sizes = {};
-    constexpr int sizesFromEnd = 12;
-    file.seekg(long{index + 1} * kind.recordSize - sizesFromEnd);
-    return file.read(sizes.data(), sizes.size()) &&
-           qFromLittleEndian<quint32>(sizes.data()) <= static_cast<quint32>(kind.side) &&
-           qFromLittleEndian<quint32>(sizes.data() + 4) <= static_cast<quint32>(kind.side);
+    const auto side = static_cast<std::uint32_t>(kind.side);
+    const auto size = readStatedSize(file, (index + 1) * kind.recordSize);
+    return size && size->width <= side && size->height <= side;
 }
 
 bool isOfKind(ifile &file, const NewerKind &kind)

@@ -1,7 +1,6 @@
 #include "model/device/device_profile.h"
 
 #include "model/device/version_compare.h"
-#include "model/model_devicephoto_dbmgr.h"
 
 #include <algorithm>
 #include <iterator>
@@ -115,20 +114,3 @@ DeviceProfile::DeviceProfile(const std::string &iosVersion, const QString &produ
 }
 
 } // namespace iosphoto
-
-using iosphoto::DeviceProfile;
-
-bool QDevPhotoDbMgr::isSupportLivePhoto() const
-{
-    return DeviceProfile(iosVersion, productType).livePhotos;
-}
-
-bool QDevPhotoDbMgr::isSupportPanorama() const
-{
-    return DeviceProfile(iosVersion, productType).panoramas;
-}
-
-bool QDevPhotoDbMgr::isSupportProRAWAndProRes() const
-{
-    return DeviceProfile(iosVersion, productType).proRawAndProRes;
-}

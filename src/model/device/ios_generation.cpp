@@ -1,6 +1,6 @@
 #include "model/device/ios_generation.h"
 
-#include "model/model_devicephoto_dbmgr.h"
+#include "model/device/version_compare.h"
 
 namespace iosphoto {
 
@@ -23,7 +23,7 @@ constexpr FirstVersion newestFirst[] = {
 IosGeneration iosGeneration(const std::string &iosVersion)
 {
     for (const FirstVersion &first : newestFirst)
-        if (cmpiOSVersion(iosVersion, first.version) >= 0)
+        if (compareVersions(iosVersion, first.version) >= 0)
             return first.generation;
     return IosGeneration::Oldest;
 }

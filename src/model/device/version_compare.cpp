@@ -1,7 +1,5 @@
 #include "model/device/version_compare.h"
 
-#include "model/model_devicephoto_dbmgr.h"
-
 #include <QChar>
 
 #include <algorithm>
@@ -10,6 +8,8 @@
 #include <limits>
 
 // Nothing here allocates: hosts ask these questions outside the operations that return codes.
+
+namespace iosphoto {
 
 namespace {
 
@@ -29,8 +29,8 @@ public:
 
     bool atEmptyOne() const { return position_ >= version_.size() || version_[position_] == '.'; }
 
-    /// What atoi gives for the component, without its undefined behaviour for numbers that do not
-    /// fit.
+    /// What atoi gives for the component, without its undefined behaviour for numbers that are
+    /// too large.
     int number() const
     {
         if (atEmptyOne())
@@ -49,8 +49,8 @@ private:
     std::size_t position_ = 0;
 };
 
-/// A number as it is read digit by digit; 0 when it does not fit an int or holds digits of a script
-/// other than ours.
+/// A number as it is read digit by digit; 0 when it is too large for an int or holds digits other
+/// than those of ASCII.
 class DigitReader
 {
 public:
@@ -102,14 +102,7 @@ ModelNumber modelNumber(QStringView productType)
 
 } // namespace
 
-int iosphoto::compareModels(QStringView a, QStringView b) noexcept
-{
-    const ModelNumber modelA = modelNumber(a);
-    const ModelNumber modelB = modelNumber(b);
-    return modelA.major != modelB.major ? modelA.major - modelB.major : modelA.minor - modelB.minor;
-}
-
-int cmpiOSVersion(const std::string &a, const std::string &b)
+int compareVersions(const std::string &a, const std::string &b) noexcept
 {
     Components componentsA(a);
     Components componentsB(b);
@@ -125,7 +118,11 @@ int cmpiOSVersion(const std::string &a, const std::string &b)
     return 0;
 }
 
-int cmpProductVersion(const QString &a, const QString &b)
+int compareModels(QStringView a, QStringView b) noexcept
 {
-    return iosphoto::compareModels(a, b);
+    const ModelNumber modelA = modelNumber(a);
+    const ModelNumber modelB = modelNumber(b);
+    return modelA.major != modelB.major ? modelA.major - modelB.major : modelA.minor - modelB.minor;
 }
+
+} // namespace iosphoto

@@ -3,9 +3,14 @@
 
 #include <QStringView>
 
+#include <string>
+
 namespace iosphoto {
 
-/// cmpProductVersion() for texts that need not be QStrings.
+/// Compares two dotted decimal versions as cmpiOSVersion() does.
+int compareVersions(const std::string &a, const std::string &b) noexcept;
+
+/// Compares two product types as cmpProductVersion() does.
 int compareModels(QStringView a, QStringView b) noexcept;
 
 } // namespace iosphoto

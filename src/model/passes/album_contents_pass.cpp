@@ -1,7 +1,10 @@
-#include "model/asset_codes.h"
+#include "model/passes/album_contents_pass.h"
+
+#include "model/database_codes.h"
 #include "model/passes/albums_by_uuid.h"
 #include "model/passes/asset_row_decoder.h"
 #include "model/passes/pass_run.h"
+#include "model/portrait_rule.h"
 #include "records/record_ownership.h"
 
 #include <algorithm>
@@ -27,11 +30,13 @@ constexpr AssetRowLayout layout = {
 };
 
 constexpr int cloudAssetGuid = column(albumContentsColumns, "ZCLOUDASSETGUID");
-constexpr int depthStates = column(albumContentsColumns, "ZDEPTHSTATES");
 constexpr int cameraCaptureDevice = column(albumContentsColumns, "ZCAMERACAPTUREDEVICE");
 constexpr int savedAssetType = column(albumContentsColumns, "ZSAVEDASSETTYPE");
 constexpr int kindSubtype = column(albumContentsColumns, "ZKINDSUBTYPE");
-constexpr int depthType = column(albumContentsColumns, "ZDEPTHTYPE");
+constexpr DepthColumns depth = {
+    column(albumContentsColumns, "ZDEPTHSTATES"),
+    column(albumContentsColumns, "ZDEPTHTYPE"),
+};
 
 /// The first album of a kind that is not smart: only these collect from albums of the table.
 CAlbumGroup *collectingAlbum(std::vector<CAlbumGroup> &albums, AlbumKind::Code kind)
@@ -60,12 +65,13 @@ bool areMostInNoAlbum(const std::vector<CAlbumGroup> &albums)
 class AlbumContentsPass
 {
 public:
-    AlbumContentsPass(std::vector<CAlbumGroup> &albums, const DeviceProfile &device)
-        : albums_(albums), device_(device), decoder_(layout, device, QString()),
-          albumsByUuid_(albums), panoramas_(collectingAlbum(albums, AlbumKind::Panoramas)),
-          screenshots_(collectingAlbum(albums, AlbumKind::Screenshots)),
-          portraits_(collectingAlbum(albums, AlbumKind::Portrait)),
-          selfies_(collectingAlbum(albums, AlbumKind::Selfies))
+    explicit AlbumContentsPass(const PassContext &context)
+        : albums_(context.albums), device_(context.device),
+          decoder_(layout, context.device, QString()), albumsByUuid_(albums_),
+          panoramas_(collectingAlbum(albums_, AlbumKind::Panoramas)),
+          screenshots_(collectingAlbum(albums_, AlbumKind::Screenshots)),
+          portraits_(collectingAlbum(albums_, AlbumKind::Portrait)),
+          selfies_(collectingAlbum(albums_, AlbumKind::Selfies))
     {
     }
 
@@ -102,14 +108,14 @@ private:
     void collect(CPhotoData &asset, const Row &row) const
     {
         const int subtype = row.int32(kindSubtype);
-        if (subtype == kind_subtype::panorama && device_.panoramas)
+        if (subtype == KindSubtype::Panorama && device_.panoramas)
             mark(asset, &CPhotoData::isPanorama, panoramas_);
-        if (subtype == kind_subtype::screenshot &&
-            row.int32(savedAssetType) == saved_asset_type::syncedFromComputer)
+        if (subtype == KindSubtype::Screenshot &&
+            row.int32(savedAssetType) == SavedAssetType::SyncedFromComputer)
             mark(asset, &CPhotoData::isScreenshot, screenshots_);
-        if (isPortrait(row))
+        if (isPortrait(row, depth, device_.ios))
             mark(asset, &CPhotoData::isPortrait, portraits_);
-        if (row.int32(cameraCaptureDevice) == frontCamera)
+        if (row.int32(cameraCaptureDevice) == CaptureDevice::FrontCamera)
             mark(asset, &CPhotoData::isSelfie, selfies_);
     }
 
@@ -118,12 +124,6 @@ private:
         asset.*flag = true;
         if (album != nullptr)
             appendCopy(*album, asset);
-    }
-
-    bool isPortrait(const Row &row) const
-    {
-        return device_.ios < IosGeneration::Ios14 ? row.int32(depthStates) == hasDepthBeforeIos14
-                                                  : row.int32(depthType) == hasDepth;
     }
 
     std::vector<CAlbumGroup> &albums_;
@@ -138,20 +138,18 @@ private:
 
 } // namespace
 
-} // namespace iosphoto
-
-int QDevPhotoDbMgr::GetPhotoDatas()
+int readAlbumContents(const PassContext &context)
 {
-    using namespace iosphoto;
-    return runPass(*this, Pass::AlbumContents, [this](PassRun &run) {
-        const DeviceProfile device(iosVersion, productType);
-        AlbumContentsPass pass(albums, device);
+    return runPass(context, Pass::AlbumContents, [&](PassRun &run) {
+        AlbumContentsPass pass(context);
         int memberships = 0;
-        Query query = {run.statementFor(device, albumContentsStatements), {}};
-        if (areMostInNoAlbum(albums))
-            query.view = run.statementFor(device, assetsOfAlbumsView);
+        Query query = {run.statementFrom(albumContentsStatements), {}};
+        if (areMostInNoAlbum(context.albums))
+            query.view = run.statementFrom(assetsOfAlbumsView);
         const int rows =
             run.readRows(query, [&](const Row &row) { memberships += pass.take(row) ? 1 : 0; });
         return rows < 0 ? rows : memberships;
     });
 }
+
+} // namespace iosphoto

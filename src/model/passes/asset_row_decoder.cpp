@@ -1,7 +1,9 @@
 #include "model/passes/asset_row_decoder.h"
 
 #include "model/core_data_time.h"
-#include "model/model_devicephoto_dbmgr.h"
+#include "model/database_codes.h"
+#include "model/display_texts.h"
+#include "model/passes/row_uuid.h"
 
 #include <limits>
 #include <utility>
@@ -28,9 +30,6 @@ constexpr int height = column(names, "ZHEIGHT");
 constexpr int originalFileSize = column(names, "ZORIGINALFILESIZE");
 } // namespace shared
 
-constexpr int edited = 1;      // ZHASADJUSTMENTS
-constexpr int editedState = 2; // ZADJUSTMENTSSTATE
-
 /// Sizes from 2 GiB on were stored as 32 bits with a sign; this gives them back, up to 4 GiB.
 std::int64_t repairedSize(std::int64_t size)
 {
@@ -48,7 +47,7 @@ float toFloat(double value)
 AssetRowDecoder::AssetRowDecoder(const AssetRowLayout &layout, const DeviceProfile &device,
                                  QString albumName)
     : layout_(layout), ios_(device.ios), albumName_(std::move(albumName)),
-      unknownDate_(QDevPhotoDbMgr::tr("未知"))
+      unknownDate_(translated(display_text::unknownDate))
 {
 }
 
@@ -94,23 +93,18 @@ double AssetRowDecoder::seconds(const Row &row, int column) const
 
 void AssetRowDecoder::readIdentifiers(CPhotoData &photo, const Row &row) const
 {
-    if (ios_ >= IosGeneration::Ios8) {
-        photo.uuid = row.bytes(layout_.uuid);
-        photo.albumUuid = row.bytes(layout_.albumUuid);
-        return;
-    }
-    photo.uuid = row.hex(layout_.uuid);
-    photo.albumUuid = row.hex(layout_.albumUuid);
-    if (photo.albumUuid.empty())
+    photo.uuid = uuidOf(row, layout_.uuid, ios_);
+    photo.albumUuid = uuidOf(row, layout_.albumUuid, ios_);
+    if (ios_ < IosGeneration::Ios8 && photo.albumUuid.empty())
         photo.albumUuid = layout_.missingAlbumUuid;
 }
 
 bool AssetRowDecoder::isEdited(const Row &row) const
 {
     if (ios_ >= IosGeneration::Ios18)
-        return row.int32(layout_.adjustmentsState) == editedState;
+        return row.int32(layout_.adjustmentsState) == AdjustmentsState::Edited;
     if (ios_ >= IosGeneration::Ios8)
-        return row.int32(layout_.hasAdjustments) == edited;
+        return row.int32(layout_.hasAdjustments) == HasAdjustments::Edited;
     return ios_ >= IosGeneration::Ios7 && row.hasText(layout_.editorBundle);
 }
 

@@ -2,6 +2,7 @@
 #define IOSPHOTO_CAMERA_ROLL_COLUMNS_H
 
 #include "model/passes/row_columns.h"
+#include "model/portrait_rule.h"
 
 namespace iosphoto::camera_roll {
 
@@ -22,9 +23,9 @@ constexpr int creatorBundle = column(cameraRollColumns, "ZCREATORBUNDLEID");
 constexpr int favorite = column(cameraRollColumns, "ZFAVORITE");
 constexpr int cameraCaptureDevice = column(cameraRollColumns, "ZCAMERACAPTUREDEVICE");
 constexpr int hidden = column(cameraRollColumns, "ZHIDDEN");
-constexpr int depthStates = column(cameraRollColumns, "ZDEPTHSTATES");
 constexpr int playbackStyle = column(cameraRollColumns, "ZPLAYBACKSTYLE");
-constexpr int depthType = column(cameraRollColumns, "ZDEPTHTYPE");
+constexpr DepthColumns depth = {column(cameraRollColumns, "ZDEPTHSTATES"),
+                                column(cameraRollColumns, "ZDEPTHTYPE")};
 constexpr int packedBadgeAttributes = column(cameraRollColumns, "ZPACKEDBADGEATTRIBUTES");
 
 } // namespace iosphoto::camera_roll

@@ -1,6 +1,8 @@
-#include "model/album_names.h"
-#include "model/asset_codes.h"
+#include "model/passes/camera_roll_pass.h"
+
 #include "model/bursts.h"
+#include "model/database_codes.h"
+#include "model/display_texts.h"
 #include "model/passes/asset_row_decoder.h"
 #include "model/passes/asset_trace.h"
 #include "model/passes/camera_roll_columns.h"
@@ -34,10 +36,10 @@ constexpr AssetRowLayout layout = {
 class CameraRollPass
 {
 public:
-    CameraRollPass(std::vector<CAlbumGroup> &albums, const DeviceProfile &device)
-        : albums_(albums), device_(device),
-          decoder_(layout, device, QDevPhotoDbMgr::tr(album_names::cameraRoll)),
-          rules_(albums, device)
+    explicit CameraRollPass(const PassContext &context)
+        : albums_(context.albums), device_(context.device),
+          decoder_(layout, context.device, translated(display_text::cameraRoll)),
+          rules_(context.albums, context.device, context.now)
     {
     }
 
@@ -49,7 +51,7 @@ public:
         const int pickType = row.int32(camera_roll::burstPickType);
         readBurst(*photo, row, pickType);
         if (device_.ios >= IosGeneration::Ios9)
-            photo->isHidden = row.int32(camera_roll::hidden) == isHiddenAsset;
+            photo->isHidden = row.int32(camera_roll::hidden) == HiddenFlag::IsHidden;
         if (device_.proRawAndProRes)
             readBadge(*photo, row);
         if (rules_.sort(*photo, row) && isInCameraRoll(*photo, pickType))
@@ -59,7 +61,7 @@ public:
 private:
     void readBurst(CPhotoData &photo, const Row &row, int pickType)
     {
-        photo.isBurst = pickType != 0;
+        photo.isBurst = pickType != BurstPickType::NoBurst;
         photo.isBurstPick = standsForBurst(pickType) ? 1 : 0;
         if (photo.isBurst && device_.ios >= IosGeneration::Ios8)
             photo.burstUuid = burstUuid_.of(row.cString(camera_roll::burstUuid));
@@ -68,9 +70,9 @@ private:
     static void readBadge(CPhotoData &photo, const Row &row)
     {
         const int badge = row.int32(camera_roll::packedBadgeAttributes);
-        photo.isProRes = badge == proResBadge;
+        photo.isProRes = badge == Badge::ProRes;
         photo.isRaw =
-            badge == rawBadge &&
+            badge == Badge::Raw &&
             QFileInfo(photo.fileName).suffix().compare(QLatin1String("DNG"), Qt::CaseInsensitive) ==
                 0;
     }
@@ -93,14 +95,12 @@ private:
 
 } // namespace
 
-} // namespace iosphoto
-
-int QDevPhotoDbMgr::GetCameraAlbum()
+int readCameraRoll(const PassContext &context)
 {
-    using namespace iosphoto;
-    return runPass(*this, Pass::CameraRoll, [this](PassRun &run) {
-        const DeviceProfile device(iosVersion, productType);
-        CameraRollPass pass(albums, device);
-        return run.readRows(cameraRollStatements, device, [&](const Row &row) { pass.take(row); });
+    return runPass(context, Pass::CameraRoll, [&](PassRun &run) {
+        CameraRollPass pass(context);
+        return run.readRows(cameraRollStatements, [&](const Row &row) { pass.take(row); });
     });
 }
+
+} // namespace iosphoto

@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::uint32_t secondsOfADay = 24 * 60 * 60;
 
-/// 2037-12-31 23:59:59 UTC: up to here Qt takes the C library's word for the local time. For later
-/// years it takes the rules of 2037.
+/// 2037-12-31 23:59:59 UTC: up to here Qt asks the C library for the local time. To later years it
+/// applies the rules of 2037.
 constexpr std::uint32_t lastOfBoth = 2145916799;
 
 /// Unlike Qt's conversions this one does not look at the time zone's file each time, which costs

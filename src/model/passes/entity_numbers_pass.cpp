@@ -1,48 +1,39 @@
-#include "model/statements/entity_numbers.h"
+#include "model/passes/entity_numbers_pass.h"
 
 #include "model/passes/pass_run.h"
 
 namespace iosphoto {
 
-EntityNumbers entityNumbers(const QDevPhotoDbMgr &manager)
-{
-    return {manager.albumEntity, manager.photoStreamAlbumEntity, manager.assetSuperEntity,
-            manager.assetEntity};
-}
-
 namespace {
 
-/// Runs a lookup; of several rows the last one counts.
 template <typename TakeRow>
-int lookUp(QDevPhotoDbMgr &manager, Pass::Code pass, const Statement &statement, TakeRow takeRow)
+int lookUp(const PassContext &context, Pass::Code pass, const Statement &statement, TakeRow takeRow)
 {
-    return runPass(manager, pass, [&](PassRun &run) {
+    return runPass(context, pass, [&](PassRun &run) {
         return run.readRows({QString::fromUtf8(statement.text), {}}, takeRow);
     });
 }
 
 } // namespace
 
-} // namespace iosphoto
-
-using namespace iosphoto;
-
-int QDevPhotoDbMgr::GetPrimarykeyTabAssetInfo()
+int readAssetEntities(const PassContext &context, std::int32_t &assetSuper, std::int32_t &asset)
 {
-    return lookUp(*this, Pass::AssetEntity, assetEntityStatement, [this](const Row &row) {
-        assetSuperEntity = row.int32(0);
-        assetEntity = row.int32(1);
+    return lookUp(context, Pass::AssetEntity, assetEntityStatement, [&](const Row &row) {
+        assetSuper = row.int32(0);
+        asset = row.int32(1);
     });
 }
 
-int QDevPhotoDbMgr::GetPrimarykeyTabAlbumInfo()
+int readAlbumEntity(const PassContext &context, std::int32_t &album)
 {
-    return lookUp(*this, Pass::AlbumEntity, albumEntityStatement,
-                  [this](const Row &row) { albumEntity = row.int32(0); });
+    return lookUp(context, Pass::AlbumEntity, albumEntityStatement,
+                  [&](const Row &row) { album = row.int32(0); });
 }
 
-int QDevPhotoDbMgr::GetPrimarykeyTabPhotostreamAlbumInfo()
+int readPhotoStreamAlbumEntity(const PassContext &context, std::int32_t &photoStreamAlbum)
 {
-    return lookUp(*this, Pass::PhotoStreamAlbumEntity, photoStreamAlbumEntityStatement,
-                  [this](const Row &row) { photoStreamAlbumEntity = row.int32(0); });
+    return lookUp(context, Pass::PhotoStreamAlbumEntity, photoStreamAlbumEntityStatement,
+                  [&](const Row &row) { photoStreamAlbum = row.int32(0); });
 }
+
+} // namespace iosphoto

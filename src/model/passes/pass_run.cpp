@@ -4,9 +4,9 @@
 
 namespace iosphoto {
 
-PassRun::PassRun(QDevPhotoDbMgr &manager, Pass::Code pass) : manager_(manager)
+PassRun::PassRun(const PassContext &context, Pass::Code pass) : context_(context)
 {
-    std::vector<CPassReport> &passes = manager.report.passes;
+    std::vector<CPassReport> &passes = context.report.passes;
     const auto isOfPass = [&](const CPassReport &entry) { return entry.pass == pass; };
     passes.erase(std::remove_if(passes.begin(), passes.end(), isOfPass), passes.end());
     passes.emplace_back().pass = pass;
@@ -16,7 +16,7 @@ PassRun::PassRun(QDevPhotoDbMgr &manager, Pass::Code pass) : manager_(manager)
 /// would not help to wait again.
 Patience PassRun::patience()
 {
-    const std::vector<CPassReport> &passes = manager_.report.passes;
+    const std::vector<CPassReport> &passes = context_.report.passes;
     const bool wasInVain =
         std::any_of(passes.begin(), passes.end(), [&](const CPassReport &earlier) {
             return earlier.pass < report().pass && earlier.code == lockedBySomebody;
@@ -31,13 +31,13 @@ void PassRun::note(const Stop &stop)
     report().text = stop.text;
 }
 
-void noteOutOfMemory(QDevPhotoDbMgr &manager, Pass::Code pass) noexcept
+void noteOutOfMemory(CReadReport &report, Pass::Code pass) noexcept
 {
-    if (manager.report.passes.empty() || manager.report.passes.back().pass != pass)
+    if (report.passes.empty() || report.passes.back().pass != pass)
         return; // not even for the entry was there memory
-    CPassReport &report = manager.report.passes.back();
-    report.code = report.extendedCode = -outOfMemory;
-    report.text = "out of memory"; // short enough to need none
+    CPassReport &entry = report.passes.back();
+    entry.code = entry.extendedCode = -outOfMemory;
+    entry.text = "out of memory"; // short enough to need none
 }
 
 } // namespace iosphoto

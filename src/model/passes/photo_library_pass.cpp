@@ -1,4 +1,6 @@
-#include "model/album_names.h"
+#include "model/passes/photo_library_pass.h"
+
+#include "model/display_texts.h"
 #include "model/passes/asset_row_decoder.h"
 #include "model/passes/pass_run.h"
 #include "records/record_ownership.h"
@@ -27,18 +29,17 @@ constexpr std::size_t photoLibraryIndex = 1;
 
 } // namespace
 
-} // namespace iosphoto
-
-int QDevPhotoDbMgr::GetPhotosAlbum()
+int readPhotoLibrary(const PassContext &context)
 {
-    using namespace iosphoto;
-    return runPass(*this, Pass::PhotoLibrary, [this](PassRun &run) {
-        const DeviceProfile device(iosVersion, productType);
-        AssetRowDecoder decoder(layout, device, tr(album_names::photoLibrary));
-        return run.readRows(photoLibraryStatements, device, [&](const Row &row) {
+    return runPass(context, Pass::PhotoLibrary, [&](PassRun &run) {
+        std::vector<CAlbumGroup> &albums = context.albums;
+        AssetRowDecoder decoder(layout, context.device, translated(display_text::photoLibrary));
+        return run.readRows(photoLibraryStatements, [&](const Row &row) {
             std::unique_ptr<CPhotoData> photo = decoder.decode(row);
             if (!photo->fileName.isEmpty() && albums.size() > photoLibraryIndex)
                 append(albums[photoLibraryIndex], std::move(photo));
         });
     });
 }
+
+} // namespace iosphoto

@@ -1,7 +1,11 @@
-#include "model/album_names.h"
+#include "model/passes/user_albums_pass.h"
+
+#include "model/database_codes.h"
+#include "model/display_texts.h"
 #include "model/passes/albums_by_uuid.h"
 #include "model/passes/pass_run.h"
 #include "model/passes/row_columns.h"
+#include "model/passes/row_uuid.h"
 
 #include <cstring>
 #include <utility>
@@ -16,8 +20,6 @@ constexpr int uuid = column(userAlbumColumns, "ZUUID");
 constexpr int title = column(userAlbumColumns, "ZTITLE");
 constexpr int kind = column(userAlbumColumns, "ZKIND");
 constexpr int entityName = column(userAlbumColumns, "Z_NAME");
-
-constexpr int madeOnDevice = 2; // ZKIND
 
 bool isEntity(const Row &row, const char *name)
 {
@@ -37,34 +39,31 @@ CAlbumGroup readAlbum(const Row &row, IosGeneration ios, const QString &photoStr
     CAlbumGroup album;
     album.albumKind = AlbumKind::PhotoLibrary;
     album.albumName = row.text(title);
-    album.isSmartAlbum = row.int32(kind) == madeOnDevice;
-    if (isEntity(row, "Album")) {
+    album.isSmartAlbum = row.int32(kind) == TableAlbumKind::MadeOnDevice;
+    if (isEntity(row, album_entity::album)) {
         if (!album.albumName.isEmpty())
             album.albumKind = AlbumKind::User;
-    } else if (isEntity(row, "PhotoStreamAlbum")) {
+    } else if (isEntity(row, album_entity::photoStreamAlbum)) {
         album.albumKind = AlbumKind::PhotoStream;
         album.albumName = photoStreamName;
         album.isSmartAlbum = true;
     }
     album.albumCount = cachedCount(row);
-    album.albumUuid = ios >= IosGeneration::Ios8 ? row.bytes(uuid) : row.hex(uuid);
+    album.albumUuid = uuidOf(row, uuid, ios);
     return album;
 }
 
 } // namespace
 
-} // namespace iosphoto
-
-int QDevPhotoDbMgr::GetPhotoGroups()
+int readUserAlbums(const PassContext &context)
 {
-    using namespace iosphoto;
-    return runPass(*this, Pass::UserAlbums, [this](PassRun &run) {
-        const DeviceProfile device(iosVersion, productType);
-        const QString photoStreamName = tr(album_names::photoStream);
+    return runPass(context, Pass::UserAlbums, [&](PassRun &run) {
+        std::vector<CAlbumGroup> &albums = context.albums;
+        const QString photoStreamName = translated(display_text::photoStream);
         // The built-in albums have no uuid, so an album of the table without one is a duplicate.
         AlbumsByUuid known(albums);
-        return run.readRows(userAlbumStatements, device, [&](const Row &row) {
-            CAlbumGroup album = readAlbum(row, device.ios, photoStreamName);
+        return run.readRows(userAlbumStatements, [&](const Row &row) {
+            CAlbumGroup album = readAlbum(row, context.device.ios, photoStreamName);
             if (!known.add(album.albumUuid, albums.size()))
                 return;
             album.albumIndex = static_cast<std::int32_t>(albums.size());
@@ -72,3 +71,5 @@ int QDevPhotoDbMgr::GetPhotoGroups()
         });
     });
 }
+
+} // namespace iosphoto

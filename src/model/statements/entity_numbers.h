@@ -3,8 +3,6 @@
 
 #include <cstdint>
 
-class QDevPhotoDbMgr;
-
 namespace iosphoto {
 
 /// The numbers that Core Data gave the entities in this database. They differ from schema to schema
@@ -16,9 +14,6 @@ struct EntityNumbers
     std::int32_t assetSuper = 0; ///< parent of `Asset`, whose number older schemas use in its place
     std::int32_t asset = 0;
 };
-
-/// Those that the manager holds now.
-EntityNumbers entityNumbers(const QDevPhotoDbMgr &manager);
 
 } // namespace iosphoto
 

@@ -94,7 +94,7 @@ const Statement photoStreamAlbumEntityStatement = sql::entity_photo_stream_album
 const StatementVariant &choose(const StatementTable &table, const DeviceProfile &device)
 {
     const StatementVariant *variant = table.begin();
-    const StatementVariant *const last = table.end() - 1; // fits every device
+    const StatementVariant *const last = table.end() - 1; // matches every device
     while (variant != last && !matches(*variant, device))
         ++variant;
     return *variant;

@@ -1,5 +1,5 @@
-/// Which statement a pass runs: one table a pass, newest iOS first, and the first row that fits the
-/// device wins.
+/// Which statement a pass runs: one table a pass, newest iOS first, and the first row that matches
+/// the device wins.
 #ifndef IOSPHOTO_STATEMENT_TABLES_H
 #define IOSPHOTO_STATEMENT_TABLES_H
 
@@ -50,8 +50,8 @@ extern const StatementTable albumContentsStatements;
 /// A view of the connection's own, under the name of a table, that leaves out the assets of no
 /// album. The statements for the contents of albums find the same with it as without, in the same
 /// order, but without it SQLite copies the rows of all assets into memory first: it is worth its
-/// cost where most assets are in no album. Its condition is put so that SQLite neither uses it to
-/// look rows up nor expects it to leave fewer.
+/// cost where most assets are in no album. Its condition is written so that SQLite neither looks
+/// rows up by it nor expects fewer rows because of it.
 extern const StatementTable assetsOfAlbumsView;
 
 /// The statements that look the entity numbers up; they are the same for every device.

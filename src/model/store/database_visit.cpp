@@ -9,8 +9,6 @@
 
 #include <QRegularExpression>
 
-#include <sqlite3.h>
-
 #include <filesystem>
 #include <set>
 #include <utility>
@@ -61,18 +59,16 @@ constexpr const char *mainSchema = "main";
 
 } // namespace
 
-void DatabaseVisit::Close::operator()(sqlite3 *connection) const
+void DatabaseVisit::Leave::operator()(sqlite3 *connection) const
 {
     protectLog(connection);
-    sqlite3_close(connection);
+    CloseSqlite::operator()(connection);
 }
 
-DatabaseVisit::Prepared::Prepared() = default;
-
-DatabaseVisit::Prepared::~Prepared()
+void DatabaseVisit::Leave::operator()(sqlite3_stmt *statement) const
 {
     sqlite3_reset(statement);
-    sqlite3_finalize(statement);
+    CloseSqlite::operator()(statement);
 }
 
 DatabaseVisit::DatabaseVisit(const QString &path, const Query &query, Patience patience)
@@ -86,7 +82,7 @@ bool DatabaseVisit::nextRow()
 {
     if (!isReadable_)
         return false;
-    const int result = sqlite3_step(prepared_->statement);
+    const int result = sqlite3_step(statement_.get());
     if (result != SQLITE_DONE)
         return result == SQLITE_ROW || check(result);
     return false;
@@ -132,8 +128,8 @@ bool DatabaseVisit::makeSafe(Patience patience)
     return true;
 }
 
-/// Waits a moment for a lock of somebody else's. SQLite's own waiting looks ten times a second and
-/// may meet one small commit of his after the other; nor does it mind when he dies.
+/// Waits a moment for somebody else's lock. SQLite's own waiting looks ten times a second, and so
+/// may meet one small commit after the other; nor does it notice that the writer has died.
 /// @return 0 when there is nothing to wait for any more
 int DatabaseVisit::waitForLock(void *self, int times)
 {
@@ -159,9 +155,10 @@ bool DatabaseVisit::createView(const QString &view)
 bool DatabaseVisit::prepare(const QString &statement)
 {
     readingOnly_.apply(connection_.get());
-    prepared_.emplace();
+    sqlite3_stmt *prepared = nullptr;
     const bool isPrepared = check(sqlite3_prepare_v2(
-        connection_.get(), statement.toUtf8().constData(), -1, &prepared_->statement, nullptr));
+        connection_.get(), statement.toUtf8().constData(), -1, &prepared, nullptr));
+    statement_.reset(prepared);
     if (readingOnly_.isOutOfMemory())
         return check(SQLITE_NOMEM);
     if (!isPrepared)
@@ -176,8 +173,8 @@ bool DatabaseVisit::prepare(const QString &statement)
     return true;
 }
 
-/// Where a statement does not prepare because of what stands in the place of a table, SQLite may
-/// speak of something inside of that.
+/// Where a statement does not prepare because of what stands in the place of a table, SQLite's
+/// message may name something inside of that.
 bool DatabaseVisit::refuseImpostor(const QString &statement)
 {
     const std::set<QString> tables = tablesNamedIn(statement);

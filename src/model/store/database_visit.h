@@ -4,6 +4,7 @@
 #include "ios_photo_report.h"
 #include "model/store/reading_only.h"
 #include "model/store/row.h"
+#include "model/store/sqlite_handles.h"
 #include "model/store/work_limit.h"
 
 #include <QMutexLocker>
@@ -11,10 +12,7 @@
 
 #include <chrono>
 #include <memory>
-#include <optional>
-
-struct sqlite3;
-struct sqlite3_stmt;
+#include <string>
 
 namespace iosphoto {
 
@@ -24,7 +22,7 @@ enum class Patience {
     Usual, ///< five seconds
 };
 
-/// The code of a stop because that was too short.
+/// The code of a stop when the lock was held for longer than that.
 constexpr int lockedBySomebody = 5;
 
 /// Why a visit had no more rows: as CPassReport has it; a code of 0 at the end of the rows.
@@ -55,7 +53,7 @@ public:
 
     /// Moves to the next row; false at the end and on any error.
     bool nextRow();
-    Row row() const { return Row(prepared_->statement); }
+    Row row() const { return Row(statement_.get()); }
 
     /// Reads no further, although there are rows.
     void abandon();
@@ -67,19 +65,10 @@ public:
     int failure() const;
 
 private:
-    struct Close
+    struct Leave : CloseSqlite
     {
-        void operator()(sqlite3 *connection) const;
-    };
-    /// Resets and finalizes, also what did not prepare: a null pointer is harmless there.
-    struct Prepared
-    {
-        Prepared();
-        ~Prepared();
-        Prepared(const Prepared &) = delete;
-        Prepared &operator=(const Prepared &) = delete;
-
-        sqlite3_stmt *statement = nullptr;
+        void operator()(sqlite3 *connection) const;     ///< protects the log first
+        void operator()(sqlite3_stmt *statement) const; ///< resets it first
     };
 
     bool open(const QString &path);
@@ -97,11 +86,11 @@ private:
     QMutexLocker lock_;
     ReadingOnly readingOnly_;
     WorkLimit workLimit_;
-    std::unique_ptr<sqlite3, Close> connection_;
-    std::optional<Prepared> prepared_;
+    std::unique_ptr<sqlite3, Leave> connection_;
+    std::unique_ptr<sqlite3_stmt, Leave> statement_;
     bool isReadable_ = false;
     bool hasFailedToOpen_ = false;
-    bool hasWriterDied_ = false; ///< while his lock was waited for
+    bool hasWriterDied_ = false; ///< while its lock was waited for
     std::chrono::steady_clock::time_point waitsSince_;
     Stop stop_;
 };

@@ -1,33 +1,21 @@
 #include "model/store/real_tables.h"
 
-#include <sqlite3.h>
-
-#include <memory>
+#include "model/store/sqlite_handles.h"
 
 namespace iosphoto {
 
 namespace {
 
-struct Finalize
-{
-    void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
-};
-struct Free
-{
-    void operator()(char *text) const { sqlite3_free(text); }
-};
-using Text = std::unique_ptr<char, Free>;
-
 /// Hands each row of a query to `take`, until that says that it is enough.
 /// @return an SQLite code
 template <typename Take>
-int forEachRow(sqlite3 *connection, const Text &query, Take take)
+int forEachRow(sqlite3 *connection, const SqliteText &query, Take take)
 {
     if (query == nullptr)
         return SQLITE_NOMEM;
     sqlite3_stmt *prepared = nullptr;
     int result = sqlite3_prepare_v2(connection, query.get(), -1, &prepared, nullptr);
-    const std::unique_ptr<sqlite3_stmt, Finalize> statement(prepared);
+    const SqliteStatement statement(prepared);
     if (result != SQLITE_OK)
         return result;
     while ((result = sqlite3_step(prepared)) == SQLITE_ROW)
@@ -43,7 +31,7 @@ int hasComputedColumn(sqlite3 *connection, const std::string &schema, const std:
 {
     constexpr int hidden = 6; // column: 0 for one that is written and read as it is
     isSo = false;
-    const Text query(
+    const SqliteText query(
         sqlite3_mprintf("pragma \"%w\".table_xinfo(%Q)", schema.c_str(), table.c_str()));
     return forEachRow(connection, query, [&](sqlite3_stmt *row) {
         isSo = isSo || sqlite3_column_int(row, hidden) != 0;
@@ -57,7 +45,7 @@ int findImpostor(sqlite3 *connection, const std::string &schema,
     impostor.clear();
     // SQLite makes sure that name and type are those of the definition, but takes a virtual table
     // for a table.
-    const Text query(
+    const SqliteText query(
         sqlite3_mprintf("select name, type = 'table' and ifnull(sql, '') like 'create table%%' "
                         "from \"%w\".sqlite_master where type in ('table', 'view')",
                         schema.c_str()));

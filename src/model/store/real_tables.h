@@ -1,4 +1,4 @@
-/// Tables that are nothing but tables. Where a view, a virtual table or a computed column has the
+/// Tables that are nothing but tables. Where a view, a virtual table or a computed column takes the
 /// place of one, reading it makes SQLite do whatever the database says.
 #ifndef IOSPHOTO_REAL_TABLES_H
 #define IOSPHOTO_REAL_TABLES_H

@@ -67,7 +67,7 @@ bool holdsAChange(const char *journal)
     return firstByte != EOF ? firstByte != 0 : std::ferror(file.get()) != 0;
 }
 
-/// Whether somebody is at work on the database, who will see to the journal himself.
+/// Whether somebody else is writing to the database, and will deal with the journal.
 bool isBeingWritten(sqlite3 *connection)
 {
     sqlite3_file *file = nullptr;
@@ -77,9 +77,9 @@ bool isBeingWritten(sqlite3 *connection)
            file->pMethods->xCheckReservedLock(file, &isReserved) == SQLITE_OK && isReserved != 0;
 }
 
-/// Whether what SQLite would act on was left by a writer that died. A writer who is just done may
-/// have had it when that was looked at and no lock any more when this was, so it is looked at
-/// again.
+/// Whether what SQLite would act on was left by a writer that died. A writer that has just finished
+/// may still have its journal when that is looked for, and no lock any more when this is; so both
+/// are looked for several times.
 bool isLeftBehind(sqlite3 *connection, const char *journal, bool (*isActedOn)(const char *))
 {
     constexpr int looks = 5;

@@ -17,7 +17,7 @@ enum class ReadingRisk {
 /// nothing may be read.
 ReadingRisk protectSource(sqlite3 *connection);
 
-/// Whether a writer has died since then, so that the next reading would roll back his journal.
+/// Whether a writer has died since then, so that the next reading would roll back its journal.
 bool hasWriterDied(sqlite3 *connection);
 
 /// To be called before the connection is closed: keeps a log that somebody else wrote meanwhile.

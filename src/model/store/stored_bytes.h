@@ -5,8 +5,8 @@
 
 namespace iosphoto {
 
-/// How many bytes a file holds at most; 0 where there is none. Those that were never written do not
-/// count, since anybody can make a file of any size of them.
+/// How many bytes a file holds at most; 0 where there is none. Holes do not count, since
+/// anybody can make a file of any size out of them.
 std::int64_t storedBytes(const char *file);
 
 /// The same of a database together with its write-ahead log.

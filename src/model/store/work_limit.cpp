@@ -30,7 +30,7 @@ int pageSizeOf(sqlite3_file *file)
     if (file->pMethods->xRead(file, bytes, sizeof bytes, offset) != SQLITE_OK)
         return smallest;
     const int size = bytes[0] << 8 | bytes[1];
-    if (size == 1) // 65536 does not fit
+    if (size == 1) // stands for 65536, which two bytes cannot hold
         return largest;
     return size < smallest ? smallest : size;
 }

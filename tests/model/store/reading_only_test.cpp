@@ -1,10 +1,10 @@
 #include "model/store/reading_only.h"
 
 #include "model/store/untrusted_database.h"
+#include "support/database.h"
 #include "support/library_builder.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <utility>
 
@@ -21,20 +21,19 @@ protected:
         library_.asset("IMG_0001.JPG");
         library_.execute("create view shown as select * from ZASSET");
         library_.execute("create virtual table box using rtree(id, low, high)");
-        sqlite3_open(library_.path().c_str(), &connection_);
-        EXPECT_EQ(distrust(connection_), SQLITE_OK);
-        readingOnly_.apply(connection_);
+        connection_ = openDatabase(library_.path());
+        EXPECT_EQ(distrust(connection_.get()), SQLITE_OK);
+        readingOnly_.apply(connection_.get());
     }
-    ~ReadingOnlyConnection() override { sqlite3_close(connection_); }
 
     int execute(const char *sql) const
     {
-        return sqlite3_exec(connection_, sql, nullptr, nullptr, nullptr);
+        return sqlite3_exec(connection_.get(), sql, nullptr, nullptr, nullptr);
     }
 
     LibraryBuilder library_;
     ReadingOnly readingOnly_;
-    sqlite3 *connection_ = nullptr;
+    SqliteConnection connection_;
 };
 
 using AllowedStatement = ReadingOnlyConnection;
@@ -44,7 +43,7 @@ using DeniedStatement = ReadingOnlyConnection;
 
 TEST_P(AllowedStatement, Runs)
 {
-    EXPECT_EQ(execute(GetParam()), SQLITE_OK) << sqlite3_errmsg(connection_);
+    EXPECT_EQ(execute(GetParam()), SQLITE_OK) << sqlite3_errmsg(connection_.get());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -76,33 +75,31 @@ class Distrust : public testing::Test
 protected:
     Distrust()
     {
-        sqlite3_open(":memory:", &connection_);
         for (const auto &[option, value] : settings_)
-            sqlite3_db_config(connection_, option, 1 - value, nullptr);
-        EXPECT_EQ(distrust(connection_), SQLITE_OK);
+            sqlite3_db_config(connection_.get(), option, 1 - value, nullptr);
+        EXPECT_EQ(distrust(connection_.get()), SQLITE_OK);
     }
-    ~Distrust() override { sqlite3_close(connection_); }
 
     const std::pair<int, int> settings_[5] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
                                               {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0},
                                               {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
                                               {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
                                               {SQLITE_DBCONFIG_ENABLE_VIEW, 0}};
-    sqlite3 *connection_ = nullptr;
+    SqliteConnection connection_ = openDatabase(":memory:");
 };
 
 TEST_F(Distrust, SwitchesOffWhatADatabaseCouldRunWhateverTheHostSwitchedOn)
 {
     for (const auto &[option, value] : settings_) {
         int found = -1;
-        sqlite3_db_config(connection_, option, -1, &found);
+        sqlite3_db_config(connection_.get(), option, -1, &found);
         EXPECT_EQ(found, value) << option;
     }
 }
 
 TEST_F(Distrust, BoundsValuesAndStatementsAndStartsNoThread)
 {
-    EXPECT_EQ(sqlite3_limit(connection_, SQLITE_LIMIT_LENGTH, -1), 64 * 1024 * 1024);
-    EXPECT_EQ(sqlite3_limit(connection_, SQLITE_LIMIT_SQL_LENGTH, -1), 1024 * 1024);
-    EXPECT_EQ(sqlite3_limit(connection_, SQLITE_LIMIT_WORKER_THREADS, -1), 0);
+    EXPECT_EQ(sqlite3_limit(connection_.get(), SQLITE_LIMIT_LENGTH, -1), 64 * 1024 * 1024);
+    EXPECT_EQ(sqlite3_limit(connection_.get(), SQLITE_LIMIT_SQL_LENGTH, -1), 1024 * 1024);
+    EXPECT_EQ(sqlite3_limit(connection_.get(), SQLITE_LIMIT_WORKER_THREADS, -1), 0);
 }

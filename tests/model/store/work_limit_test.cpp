@@ -1,9 +1,9 @@
 #include "model/store/work_limit.h"
 
+#include "support/database.h"
 #include "support/library_builder.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 using namespace iosphoto;
 using namespace iosphoto::test;
@@ -18,16 +18,13 @@ public:
     explicit LimitedConnection(const std::string &prepare = "") : library_(ios15)
     {
         library_.execute(prepare);
-        sqlite3_open(library_.path().c_str(), &connection_);
-        limit_.apply(connection_);
+        connection_ = openDatabase(library_.path());
+        limit_.apply(connection_.get());
     }
-    ~LimitedConnection() { sqlite3_close(connection_); }
-    LimitedConnection(const LimitedConnection &) = delete;
-    LimitedConnection &operator=(const LimitedConnection &) = delete;
 
     int execute(const std::string &sql) const
     {
-        return sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr);
+        return sqlite3_exec(connection_.get(), sql.c_str(), nullptr, nullptr, nullptr);
     }
     std::string pages() { return std::to_string(library_.number("pragma page_count")); }
     const WorkLimit &limit() const { return limit_; }
@@ -35,7 +32,7 @@ public:
 private:
     LibraryBuilder library_;
     WorkLimit limit_;
-    sqlite3 *connection_ = nullptr;
+    SqliteConnection connection_;
 };
 
 /// Counts so far, keeping nothing.

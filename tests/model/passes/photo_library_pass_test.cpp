@@ -194,7 +194,7 @@ TEST(PhotoLibraryPass, FillsTheSecondAlbumWhateverItsKind)
     EXPECT_EQ(files(manager.plain(AlbumKind::PhotoLibrary)), Files());
 }
 
-TEST(PhotoLibraryPass, StatementThatDoesNotFitTheSchemaGivesNoRows)
+TEST(PhotoLibraryPass, StatementThatDoesNotMatchTheSchemaGivesNoRows)
 {
     LibraryBuilder library(ios14);
     library.asset("SYNC0001.JPG").synced();

@@ -139,7 +139,7 @@ TEST(CameraRollBelowIos8, TakesAlbumsBelowAKind)
     EXPECT_FALSE(shown(ios7, 3500));
 }
 
-TEST(CameraRollResult, IsNoRowsWhereTheStatementDoesNotFitTheSchema)
+TEST(CameraRollResult, IsNoRowsWhereTheStatementDoesNotMatchTheSchema)
 {
     LibraryBuilder library(ios15);
     library.asset("A.JPG");

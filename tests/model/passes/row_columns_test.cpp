@@ -1,13 +1,12 @@
 #include "model/passes/row_columns.h"
 #include "model/statements/statement_tables.h"
 #include "support/case_name.h"
+#include "support/database.h"
 #include "support/library_builder.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <algorithm>
-#include <memory>
 #include <vector>
 
 using namespace iosphoto;
@@ -103,22 +102,19 @@ const std::vector<SelectedColumns> &allStatements()
 }
 
 /// The names of the columns that a statement selects from a library; none if it does not prepare.
-Names prepared(const StatementVariant &variant, const LibraryBuilder &library)
+Names columnsOf(const StatementVariant &variant, const LibraryBuilder &library)
 {
     const Schema &schema = library.schema();
     const EntityNumbers numbers = {schema.album, schema.photoStreamAlbum, schema.assetSuper,
                                    schema.asset};
-    sqlite3 *connection = nullptr;
-    sqlite3_open(library.path().c_str(), &connection);
-    const std::unique_ptr<sqlite3, int (*)(sqlite3 *)> closed(connection, sqlite3_close);
-    sqlite3_stmt *statement = nullptr;
-    sqlite3_prepare_v2(connection, filledIn(variant, numbers).toUtf8().constData(), -1, &statement,
-                       nullptr);
-    const std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt *)> finished(statement,
-                                                                          sqlite3_finalize);
+    const SqliteConnection connection = openDatabase(library.path());
+    sqlite3_stmt *prepared = nullptr;
+    sqlite3_prepare_v2(connection.get(), filledIn(variant, numbers).toUtf8().constData(), -1,
+                       &prepared, nullptr);
+    const SqliteStatement statement(prepared);
     Names names;
-    for (int column = 0; column < sqlite3_column_count(statement); ++column)
-        names.emplace_back(sqlite3_column_name(statement, column));
+    for (int column = 0; column < sqlite3_column_count(prepared); ++column)
+        names.emplace_back(sqlite3_column_name(prepared, column));
     return names;
 }
 
@@ -131,7 +127,7 @@ class StatementColumns : public testing::TestWithParam<SelectedColumns>
 TEST_P(StatementColumns, AreThoseThatThePassReads)
 {
     for (const Schema &schema : GetParam().schemas)
-        EXPECT_EQ(prepared(GetParam().variant(), LibraryBuilder(schema)), GetParam().columns)
+        EXPECT_EQ(columnsOf(GetParam().variant(), LibraryBuilder(schema)), GetParam().columns)
             << schema;
 }
 
@@ -139,7 +135,7 @@ TEST_P(StatementColumns, AreInNoOtherSchema)
 {
     Names readable;
     for (const Schema &schema : allSchemas)
-        if (!prepared(GetParam().variant(), LibraryBuilder(schema)).empty())
+        if (!columnsOf(GetParam().variant(), LibraryBuilder(schema)).empty())
             readable.emplace_back(schema.name);
     Names expected;
     for (const Schema &schema : GetParam().schemas)

@@ -73,6 +73,26 @@ TEST_P(TrashedAsset, IsKeptForThirtyDays)
 
 INSTANTIATE_TEST_SUITE_P(Dates, TrashedAsset, testing::ValuesIn(trashed), NameOfCase());
 
+TEST(Trash, IsLookedAtAsOfTheTimeThatTheManagerHolds)
+{
+    const StoppedClock clock(now);
+    LibraryBuilder library(ios15);
+    library.asset("A.JPG").trashedAt(limit);
+    library.asset("B.JPG").trashedAt(nowInDatabase);
+    const auto shownAsOf = [&](std::optional<std::uint32_t> asOf) {
+        OwningManager manager(library);
+        manager.asOf = asOf;
+        manager.prepare();
+        manager.GetCameraAlbum();
+        return files(manager.smart(Kind::RecentlyDeleted));
+    };
+
+    EXPECT_EQ(shownAsOf(std::nullopt), Files{"B.JPG"});
+    EXPECT_EQ(shownAsOf(now - 1), (Files{"A.JPG", "B.JPG"}));
+    EXPECT_EQ(shownAsOf(now + 30 * oneDay), Files{});
+    EXPECT_EQ(shownAsOf(0), (Files{"A.JPG", "B.JPG"}));
+}
+
 TEST(Trash, ReadsANegativeDateAsUnsignedUnixTime)
 {
     // -1500000000 stands for 2794967296, without the epoch of the other dates.

@@ -200,7 +200,7 @@ TEST_P(AlbumContentsBeforeIos8, MissingAlbumUuidBecomesAText)
 INSTANTIATE_TEST_SUITE_P(Schemas, AlbumContentsBeforeIos8,
                          testing::Values(ios6, ios7, ios7SubTypes), SchemaName());
 
-TEST(AlbumContentsPass, StatementThatDoesNotFitTheSchemaGivesNoRows)
+TEST(AlbumContentsPass, StatementThatDoesNotMatchTheSchemaGivesNoRows)
 {
     LibraryBuilder library(ios14);
     library.asset("IMG_0001.JPG").in(library.album("Holiday"));

@@ -120,7 +120,7 @@ TEST_F(AlbumOrder, ImportedAlbumsHaveToBeUserAlbums)
               (AlbumNames{"Roll", "Library", "A", importedRoll, importedLibrary}));
 }
 
-TEST_F(AlbumOrder, OfSeveralImportedAlbumsTheFirstThatFitsMoves)
+TEST_F(AlbumOrder, OfSeveralImportedAlbumsTheFirstThatMatchesMoves)
 {
     addBuiltIn();
     addUser(importedRoll, plain);

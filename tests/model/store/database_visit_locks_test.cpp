@@ -1,10 +1,10 @@
 // A database that somebody else is writing to.
 #include "model/store/database_visit.h"
+#include "support/database.h"
 #include "support/meanwhile.h"
 #include "support/report.h"
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,23 +20,20 @@ namespace {
 class Writer
 {
 public:
-    explicit Writer(const std::string &path)
+    explicit Writer(const std::string &path) : connection_(openDatabase(path))
     {
-        sqlite3_open(path.c_str(), &connection_);
-        sqlite3_busy_timeout(connection_, 10000);
+        sqlite3_busy_timeout(connection_.get(), 10000);
         execute("pragma synchronous = off");
     }
-    ~Writer() { sqlite3_close(connection_); }
-    Writer(const Writer &) = delete;
-    Writer &operator=(const Writer &) = delete;
 
     void execute(const char *sql) const
     {
-        EXPECT_EQ(sqlite3_exec(connection_, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sql;
+        EXPECT_EQ(sqlite3_exec(connection_.get(), sql, nullptr, nullptr, nullptr), SQLITE_OK)
+            << sql;
     }
 
 private:
-    sqlite3 *connection_ = nullptr;
+    SqliteConnection connection_;
 };
 
 } // namespace

@@ -112,7 +112,7 @@ TEST(UserAlbums, TrashedAlbumsAreLeftOutFromIos8On)
     EXPECT_EQ(UserAlbumsRead(library, "7.9.9").size(), 6U);
 }
 
-TEST(UserAlbums, StatementThatDoesNotFitTheSchemaGivesNoRows)
+TEST(UserAlbums, StatementThatDoesNotMatchTheSchemaGivesNoRows)
 {
     LibraryBuilder library(ios7);
     library.album("Holiday");
