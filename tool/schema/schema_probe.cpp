@@ -15,8 +15,8 @@ void requirePhotoDatabase(const CopyDatabase &database)
         throw Failure(
             SchemaDoesNotFit,
             translate("'{0}' is a photo database of iOS 5 or earlier, which is not known; "
-                      "libraries of iOS 6 to 18 can be read",
-                      database.shownName()));
+                      "libraries of iOS {1} to {2} can be read",
+                      database.shownName(), oldestSchema().firstIos, newestSchema().lastIos));
     if (!database.hasTable("Z_PRIMARYKEY") || !database.hasTable("ZGENERICALBUM") ||
         !database.hasTable("ZADDITIONALASSETATTRIBUTES") || database.assetTable().empty())
         throw Failure(WrongKindOfFile,
@@ -87,7 +87,7 @@ void decideIos(ProbedSchema &probed, const Device &wanted, const RecordedDevice 
         probed.iosOrigin = DeviceOrigin::Schema;
         probed.iosWhy = modelWords(probed.metadata);
     } else if (schema != nullptr) {
-        probed.device.iosVersion = schema->iosVersion;
+        probed.device.iosVersion = schema->iosVersion();
         probed.iosOrigin = DeviceOrigin::Schema;
         probed.iosWhy = translate("the newest with these tables and columns");
     }
@@ -145,7 +145,7 @@ std::string disagreement(const ProbedSchema &probed, const KnownSchema *schema)
 std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)
 {
     const std::optional<int> model = probed.metadata.iosMajor();
-    return agree(model, &schema) ? std::to_string(*model) : schema.iosVersion;
+    return agree(model, &schema) ? std::to_string(*model) : schema.iosVersion();
 }
 
 Failure noFit(const CopyDatabase &database, const ProbedSchema &probed, const KnownSchema *schema)
@@ -160,8 +160,8 @@ Failure noFit(const CopyDatabase &database, const ProbedSchema &probed, const Kn
                           database.shownName(), *major)};
         return {SchemaDoesNotFit,
                 translate("'{0}' is a photo database of no known schema: no iOS from "
-                          "6 to 18 has these tables; look for a newer iosphoto",
-                          database.shownName())};
+                          "{1} to {2} has these tables; look for a newer iosphoto",
+                          database.shownName(), oldestSchema().firstIos, newestSchema().lastIos)};
     }
     return {
         SchemaDoesNotFit,
