@@ -12,10 +12,20 @@ namespace {
 
 constexpr char withoutIos7SubTypes[] = "iPhone3,1";
 
+// clang-format off
 constexpr KnownSchema newestFirst[] = {
-    {18, 18}, {15, 17, "ZCREATORBUNDLEID"},         {14, 14}, {11, 13}, {9, 10}, {8, 8},
-    {7, 7},   {7, 7, nullptr, withoutIos7SubTypes}, {6, 6},
+    // first iOS, last, column that is gone, model
+    {18, 18},
+    {15, 17, "ZCREATORBUNDLEID"},
+    {14, 14},
+    {11, 13},
+    {9,  10},
+    {8,  8},
+    {7,  7},
+    {7,  7,  nullptr,            withoutIos7SubTypes},
+    {6,  6},
 };
+// clang-format on
 
 std::int32_t lastNumber(const CopyDatabase &database, const Statement &lookup, int column)
 {
