@@ -10,7 +10,6 @@
 #include <regex>
 
 using namespace iosphoto::test;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -126,7 +125,15 @@ TEST_P(IncludeGraph, FollowsTheOrderThatIsPrinted)
 
 INSTANTIATE_TEST_SUITE_P(Folders, IncludeGraph, testing::ValuesIn(printedOrders()), NameOfCase());
 
-TEST(IncludeGraph, OffencesAreFound)
+TEST(IncludeOrders, ArePrintedForTheCommandAndTheLibrary)
+{
+    std::vector<std::string> folders;
+    for (const IncludeOrder &order : printedOrders())
+        folders.push_back(order.name());
+    EXPECT_THAT(folders, testing::IsSupersetOf({"tool", "src"}));
+}
+
+TEST(IncludeOrders, OffencesAgainstThemAreFound)
 {
     const TemporaryFolder folder;
     fs::create_directories(folder / "code/low");
