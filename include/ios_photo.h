@@ -180,7 +180,7 @@ public:
 ///                      file system has it, mostly UTF-8. Always a file: neither "file:..." nor
 ///                      ":memory:" means anything else.
 /// @param iosVersion    dotted decimal, such as "15.7"; it chooses the statements. Those of iOS 6
-///                      serve all below "7", those of iOS 18 all from "18.0" on.
+///                      serve all below "7", those of the newest known all later ones.
 /// @param productType   such as "iPhone14,2"; with the version it decides which albums exist.
 /// @param albums        [out] replaced on success and left alone otherwise; records that it held
 ///                      before are not deleted. Each new record is in exactly one album and belongs

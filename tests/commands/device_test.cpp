@@ -93,7 +93,8 @@ class ToolNewerLibrary : public testing::TestWithParam<Newer>
 
 TEST_P(ToolNewerLibrary, IsReadAsTheNewestKnownWithAWarning)
 {
-    LibraryBuilder library(ios18);
+    const std::string newest = std::to_string(iosOf(allSchemas.back()));
+    LibraryBuilder library(allSchemas.back());
     library.asset("IMG_0001.HEIC");
     library.madeBy(GetParam().modelVersion);
     const std::string version = GetParam().iosVersion;
@@ -104,10 +105,10 @@ TEST_P(ToolNewerLibrary, IsReadAsTheNewestKnownWithAWarning)
                                        std::to_string(GetParam().modelVersion) + ")",
                                    anyModel) +
                              "iosphoto: iOS " + version +
-                             " is newer than all that are known, so it is read like iOS 18; check "
-                             "a few photos against the device\n");
+                             " is newer than all that are known, so it is read like iOS " + newest +
+                             "; check a few photos against the device\n");
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.out, albums(library, {"--ios", "18"}).out);
+    EXPECT_EQ(run.out, albums(library, {"--ios", newest}).out);
 }
 
 const Newer newerModels[] = {{"Ios26", 19063, "26"}, {"Ios27", 270008501, "27"}};
@@ -115,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(Models, ToolNewerLibrary, testing::ValuesIn(newerModels
 
 TEST(ToolNewerLibrary, WhoseTablesAreNotKnownAsksForANewerTool)
 {
-    LibraryBuilder library(ios18);
+    LibraryBuilder library(allSchemas.back());
     library.madeBy(270008501);
     library.execute("alter table ZASSET rename column ZFILENAME to ZNAMEOFFILE");
     expectFailure(albums(library),
@@ -164,7 +165,9 @@ TEST(ToolDevice, OfIos5OrEarlierIsNamedAsSuch)
     expectFailure(albums(library),
                   "'" + library.path() +
                       "' is a photo database of iOS 5 or earlier, which is not "
-                      "known; libraries of iOS 6 to 18 can be read\n",
+                      "known; libraries of iOS " +
+                      std::to_string(iosOf(allSchemas.front())) + " to " +
+                      std::to_string(iosOf(allSchemas.back())) + " can be read\n",
                   5);
 }
 

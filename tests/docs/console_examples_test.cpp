@@ -1,29 +1,18 @@
 // Every `$ iosphoto ...` of the documentation is run, and has to print what stands below it.
+#include "docs/documents.h"
 #include "support/case_name.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <sstream>
+#include <cstdlib>
 
 using namespace iosphoto::test;
 
 namespace fs = std::filesystem;
 
 namespace {
-
-using Lines = std::vector<std::string>;
-
-Lines linesOf(const std::string &text)
-{
-    Lines lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
-}
 
 struct Example
 {
@@ -43,14 +32,15 @@ std::ostream &operator<<(std::ostream &stream, const Example &example)
 std::vector<Example> examplesIn(const std::string &document)
 {
     std::vector<Example> examples;
-    bool isConsole = false;
-    for (const std::string &line : linesOf(readFile(fs::path(IOSPHOTO_SOURCE) / document))) {
-        if (line.rfind("```", 0) == 0)
-            isConsole = line == "```console";
-        else if (isConsole && line.rfind("$ ", 0) == 0)
-            examples.push_back({document, line.substr(2), {}});
-        else if (isConsole && !examples.empty())
-            examples.back().shown.push_back(line);
+    for (const CodeBlock &block : codeBlocksIn(document)) {
+        if (block.language != "console")
+            continue;
+        for (const std::string &line : block.lines) {
+            if (line.rfind("$ ", 0) == 0)
+                examples.push_back({document, line.substr(2), {}});
+            else if (!examples.empty())
+                examples.back().shown.push_back(line);
+        }
     }
     return examples;
 }
@@ -58,7 +48,7 @@ std::vector<Example> examplesIn(const std::string &document)
 std::vector<Example> allExamples()
 {
     std::vector<Example> ours;
-    for (const char *document : {"README.md"}) {
+    for (const std::string &document : allDocuments()) {
         for (Example &example : examplesIn(document)) {
             while (!example.shown.empty() && example.shown.back().empty())
                 example.shown.pop_back();

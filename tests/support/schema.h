@@ -2,9 +2,11 @@
 #ifndef IOSPHOTO_TESTS_SCHEMA_H
 #define IOSPHOTO_TESTS_SCHEMA_H
 
+#include <algorithm>
 #include <array>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace iosphoto::test {
 
@@ -37,8 +39,23 @@ constexpr Schema ios15        = {"ios15",         "17.4", "iPhone14,2", 27, 30, 
 constexpr Schema ios18        = {"ios18",         "18.1", "iPhone14,2", 30, 34, 0,  3,  false};
 // clang-format on
 
-constexpr std::array<Schema, 9> allSchemas = {ios6,  ios7,  ios7SubTypes, ios8, ios9,
-                                              ios11, ios14, ios15,        ios18};
+constexpr std::array allSchemas = {ios6,  ios7,  ios7SubTypes, ios8, ios9,
+                                   ios11, ios14, ios15,        ios18};
+
+/// One of them and all that are newer.
+inline std::vector<Schema> schemasFrom(const Schema &first)
+{
+    return {
+        std::find_if(allSchemas.begin(), allSchemas.end(),
+                     [&](const Schema &schema) { return std::string(schema.name) == first.name; }),
+        allSchemas.end()};
+}
+
+/// The major version of a schema's iosVersion.
+inline int iosOf(const Schema &schema)
+{
+    return std::stoi(schema.iosVersion);
+}
 
 /// Where models without ProRAW are read with statements of their own, those models.
 constexpr Schema withoutProRaw(Schema schema)
@@ -46,7 +63,12 @@ constexpr Schema withoutProRaw(Schema schema)
     schema.productType = "iPhone13,2";
     return schema;
 }
-constexpr std::array<Schema, 2> schemasWithoutProRaw = {withoutProRaw(ios15), withoutProRaw(ios18)};
+inline std::vector<Schema> schemasWithoutProRaw()
+{
+    std::vector<Schema> schemas = schemasFrom(ios15);
+    std::transform(schemas.begin(), schemas.end(), schemas.begin(), withoutProRaw);
+    return schemas;
+}
 
 inline std::ostream &operator<<(std::ostream &stream, const Schema &schema)
 {

@@ -103,19 +103,19 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
                   "phone or of an unencrypted backup")},
     {SchemaProblem::TooOld, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of iOS 5 or earlier, which is not known; libraries of "
-                  "iOS 6 to 18 can be read")},
+                  "iOS {1} to {2} can be read")},
     {SchemaProblem::NoPhotoLibrary, WrongKindOfFile,
      translatable("'{0}' is a SQLite database without a photo library; name the Photos.sqlite of a "
                   "phone or backup")},
     {SchemaProblem::OtherTables, WrongKindOfFile,
      translatable("'{0}' is a SQLite database whose tables are not those of a photo library; name "
                   "the Photos.sqlite of a phone or backup")},
+    {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
+     translatable("'{0}' is a photo database of no known schema: no iOS from {1} to {2} has these "
+                  "tables; look for a newer iosphoto")},
     {SchemaProblem::NewerSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet; look for a "
                   "newer iosphoto")},
-    {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
-     translatable("'{0}' is a photo database of no known schema: no iOS from 6 to 18 has these "
-                  "tables; look for a newer iosphoto")},
     {SchemaProblem::OtherDevice, SchemaDoesNotFit,
      translatable("'{0}' is a photo database, but not of iOS {1} and {2}; try --ios {3} --product "
                   "{4}")},

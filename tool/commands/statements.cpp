@@ -52,11 +52,11 @@ Target usualTarget(const Device &wanted)
     if (wanted.iosVersion.empty())
         throw Failure(WrongUsage, translate("name a SOURCE, or a version with --ios; see iosphoto "
                                             "statements --help"));
-    constexpr int oldestIos = 6;
+    const int oldestIos = oldestSchema().firstIos;
     if (firstNumber(wanted.iosVersion) < oldestIos)
         throw Failure(SchemaDoesNotFit, translate("the databases of iOS {0} are not known; name a "
-                                                  "version from 6 on",
-                                                  wanted.iosVersion));
+                                                  "version from {1} on",
+                                                  wanted.iosVersion, oldestIos));
     Device device = wanted;
     if (device.productType.empty())
         device.productType = productThatHidesNoAlbum;

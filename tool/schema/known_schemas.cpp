@@ -4,6 +4,7 @@
 #include "text/translate.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace iosphoto::tool {
 
@@ -11,17 +12,20 @@ namespace {
 
 constexpr char withoutIos7SubTypes[] = "iPhone3,1";
 
+// clang-format off
 constexpr KnownSchema newestFirst[] = {
-    {18, 18, "18", productThatHidesNoAlbum},
-    {15, 17, "17", productThatHidesNoAlbum, "ZCREATORBUNDLEID"},
-    {14, 14, "14", productThatHidesNoAlbum},
-    {11, 13, "13", productThatHidesNoAlbum},
-    {9, 10, "10", productThatHidesNoAlbum},
-    {8, 8, "8", productThatHidesNoAlbum},
-    {7, 7, "7", productThatHidesNoAlbum},
-    {7, 7, "7", withoutIos7SubTypes},
-    {6, 6, "6", productThatHidesNoAlbum},
+    // first iOS, last, column that is gone, model
+    {18, 18},
+    {15, 17, "ZCREATORBUNDLEID"},
+    {14, 14},
+    {11, 13},
+    {9,  10},
+    {8,  8},
+    {7,  7},
+    {7,  7,  nullptr,            withoutIos7SubTypes},
+    {6,  6},
 };
+// clang-format on
 
 std::int32_t lastNumber(const CopyDatabase &database, const Statement &lookup, int column)
 {
@@ -48,7 +52,7 @@ const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers 
     for (const KnownSchema &schema : newestFirst) {
         const bool isOlder = schema.goneColumn != nullptr &&
                              database.hasColumn("ZADDITIONALASSETATTRIBUTES", schema.goneColumn);
-        if (!isOlder && statementsFit(database, numbers, {schema.iosVersion, schema.productType}))
+        if (!isOlder && statementsFit(database, numbers, {schema.iosVersion(), schema.productType}))
             return &schema;
     }
     return nullptr;
@@ -56,7 +60,12 @@ const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers 
 
 const KnownSchema &newestSchema()
 {
-    return newestFirst[0];
+    return *std::begin(newestFirst);
+}
+
+const KnownSchema &oldestSchema()
+{
+    return *std::prev(std::end(newestFirst));
 }
 
 std::optional<SchemaFinding> warningOfNewer(const std::string &iosVersion)

@@ -9,32 +9,35 @@
 
 #include <array>
 #include <optional>
+#include <string>
 
 namespace iosphoto::tool {
+
+constexpr char productThatHidesNoAlbum[] = "iPhone14,2";
 
 /// One kind of schema: the systems that write it, and the newest device among them.
 struct KnownSchema
 {
     int firstIos; ///< major versions
     int lastIos;
-    const char *iosVersion;
-    const char *productType;
     /// A column of ZADDITIONALASSETATTRIBUTES that this schema no longer has, where the columns
     /// that its statements read do not tell it from the one before.
     const char *goneColumn = nullptr;
+    const char *productType = productThatHidesNoAlbum;
+
+    std::string iosVersion() const { return std::to_string(lastIos); }
 
     /// Such as "iOS 15 to 17", for machines in English.
     std::string name() const;
     std::string shownName() const;
 };
 
-constexpr char productThatHidesNoAlbum[] = "iPhone14,2";
-
 /// The newest schema that a database has; null when it has none of those that are known.
 const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers &numbers);
 
-/// The newest of all.
+/// The newest and the oldest of all.
 const KnownSchema &newestSchema();
+const KnownSchema &oldestSchema();
 
 /// What to say of an iOS version that is newer than all schemas; nothing of others.
 std::optional<SchemaFinding> warningOfNewer(const std::string &iosVersion);

@@ -13,7 +13,9 @@ namespace {
 void requirePhotoDatabase(const CopyDatabase &database)
 {
     if (database.hasTable("PhotoAlbum") && database.hasTable("PhotoExtras"))
-        throw SchemaError(SchemaProblem::TooOld, {database.shownName()});
+        throw SchemaError(SchemaProblem::TooOld,
+                          {database.shownName(), std::to_string(oldestSchema().firstIos),
+                           std::to_string(newestSchema().lastIos)});
     if (!database.hasTable("Z_PRIMARYKEY") || !database.hasTable("ZGENERICALBUM") ||
         !database.hasTable("ZADDITIONALASSETATTRIBUTES") || assetTableOf(database).empty())
         throw SchemaError(SchemaProblem::NoPhotoLibrary, {database.shownName()});
@@ -73,7 +75,7 @@ void decideIos(ProbedSchema &probed, const Device &wanted, const RecordedDevice 
         probed.iosOrigin = DeviceOrigin::Schema;
         probed.iosWhy = modelWords(probed.metadata);
     } else if (schema != nullptr) {
-        probed.device.iosVersion = schema->iosVersion;
+        probed.device.iosVersion = schema->iosVersion();
         probed.iosOrigin = DeviceOrigin::Schema;
         probed.iosWhy = translate("the newest with these tables and columns");
     }
@@ -129,7 +131,7 @@ std::optional<SchemaFinding> disagreement(const ProbedSchema &probed, const Know
 std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)
 {
     const std::optional<int> model = probed.metadata.iosMajor();
-    return agree(model, &schema) ? std::to_string(*model) : schema.iosVersion;
+    return agree(model, &schema) ? std::to_string(*model) : schema.iosVersion();
 }
 
 SchemaError noFit(const CopyDatabase &database, const ProbedSchema &probed,
@@ -142,7 +144,9 @@ SchemaError noFit(const CopyDatabase &database, const ProbedSchema &probed,
     const std::optional<int> major = probed.metadata.iosMajor();
     if (major && *major > newestSchema().lastIos)
         return {SchemaProblem::NewerSchema, {database.shownName(), std::to_string(*major)}};
-    return {SchemaProblem::UnknownSchema, {database.shownName()}};
+    return {SchemaProblem::UnknownSchema,
+            {database.shownName(), std::to_string(oldestSchema().firstIos),
+             std::to_string(newestSchema().lastIos)}};
 }
 
 std::string withReason(const std::string &what, const std::string &why)

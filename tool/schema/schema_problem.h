@@ -10,11 +10,11 @@ namespace iosphoto::tool {
 enum class SchemaProblem {
     EmptyFile,      ///< database
     NoDatabase,     ///< database; it may be encrypted
-    TooOld,         ///< database
+    TooOld,         ///< database, the first and the last iOS that are known
     NoPhotoLibrary, ///< database
     OtherTables,    ///< database
+    UnknownSchema,  ///< as of TooOld
     NewerSchema,    ///< database, its iOS
-    UnknownSchema,  ///< database
     OtherDevice,    ///< database, iOS, model, the iOS and the model that it fits
     ReadLikeNewest, ///< iOS, the newest that is known
     OtherIos,       ///< the schema, iOS, the iOS to try

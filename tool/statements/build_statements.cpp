@@ -3,7 +3,6 @@
 #include "text/translate.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <iterator>
 
 namespace iosphoto::tool {
@@ -44,20 +43,15 @@ constexpr Pass passes[] = {
     {"album-contents", &albumContentsStatements},
 };
 
-int firstMajor(IosGeneration generation)
-{
-    return std::atoi(firstVersion(generation));
-}
-
 std::string systems(const StatementTable &table, const StatementVariant &variant)
 {
-    const int first = firstMajor(variant.from);
+    const int first = firstIos(variant.from);
     const StatementVariant *next = &variant; // the nearest above that begins later
     while (next != table.begin() && next->from == variant.from)
         --next;
     if (next->from == variant.from)
         return translate("iOS {0} and later", first);
-    const int last = firstMajor(next->from) - 1;
+    const int last = firstIos(next->from) - 1;
     if (first == 0)
         return translate("iOS {0} and earlier", last);
     return first == last ? fmt::format("iOS {}", last) : translate("iOS {0} to {1}", first, last);

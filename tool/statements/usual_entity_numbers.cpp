@@ -1,6 +1,8 @@
 #include "statements/usual_entity_numbers.h"
 
+#include "formats/versions.h"
 #include "model/model_devicephoto_dbmgr.h"
+#include "schema/known_schemas.h"
 
 namespace iosphoto::tool {
 
@@ -15,7 +17,6 @@ struct UsualNumbers
 // clang-format off
 constexpr UsualNumbers newestFirst[] = {
     //        album, photo stream, parent of asset, asset
-    {"19",   {0,     0,            0,               0}},
     {"18",   {30,    34,           0,               3}},
     {"17.6", {29,    33,           0,               3}},
     {"16",   {28,    32,           0,               3}},
@@ -31,6 +32,8 @@ constexpr UsualNumbers newestFirst[] = {
 
 EntityNumbers usualEntityNumbers(const std::string &iosVersion)
 {
+    if (firstNumber(iosVersion) > newestSchema().lastIos)
+        return {};
     for (const UsualNumbers &usual : newestFirst)
         if (cmpiOSVersion(iosVersion, usual.from) >= 0)
             return usual.numbers;

@@ -2,38 +2,28 @@
 
 #include "model/device/version_compare.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
 namespace iosphoto {
 
 namespace {
 
-struct FirstVersion
+int leadingNumber(const std::string &text)
 {
-    IosGeneration generation;
-    const char *version;
-};
-
-constexpr FirstVersion newestFirst[] = {
-    {IosGeneration::Ios18, "18.0"}, {IosGeneration::Ios15, "15.0"}, {IosGeneration::Ios14, "14.0"},
-    {IosGeneration::Ios11, "11.0"}, {IosGeneration::Ios10, "10.0"}, {IosGeneration::Ios9, "9.0"},
-    {IosGeneration::Ios8, "8.0"},   {IosGeneration::Ios7, "7.0"},   {IosGeneration::Ios6, "6.0"},
-};
+    const long number = std::strtol(text.c_str(), nullptr, 10);
+    return static_cast<int>(std::clamp<long>(number, 0, std::numeric_limits<int>::max()));
+}
 
 } // namespace
 
 IosGeneration iosGeneration(const std::string &iosVersion)
 {
-    for (const FirstVersion &first : newestFirst)
-        if (compareVersions(iosVersion, first.version) >= 0)
-            return first.generation;
-    return IosGeneration::Oldest;
-}
-
-const char *firstVersion(IosGeneration generation)
-{
-    for (const FirstVersion &first : newestFirst)
-        if (first.generation == generation)
-            return first.version;
-    return "";
+    const int major = leadingNumber(iosVersion);
+    // "10.-1" is older than 10.0.
+    const bool isReached = compareVersions(iosVersion, std::to_string(major) + ".0") >= 0;
+    return static_cast<IosGeneration>(isReached ? major : std::max(major - 1, 0));
 }
 
 } // namespace iosphoto

@@ -7,7 +7,7 @@
 #include "model/passes/asset_trace.h"
 #include "model/passes/camera_roll_columns.h"
 #include "model/passes/pass_run.h"
-#include "model/smart_album_rules.h"
+#include "model/passes/smart_album_rules.h"
 #include "records/record_ownership.h"
 
 #include <QFileInfo>

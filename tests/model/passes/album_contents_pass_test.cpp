@@ -174,8 +174,8 @@ TEST_P(AlbumContentsFromIos8, PhotoStreamLeavesOutWhatHasACloudGuidButCountsIt)
     EXPECT_EQ(files(&contents[holiday]), (Files{"IMG_0001.JPG"}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Schemas, AlbumContentsFromIos8,
-                         testing::Values(ios8, ios9, ios11, ios14, ios15, ios18), SchemaName());
+INSTANTIATE_TEST_SUITE_P(Schemas, AlbumContentsFromIos8, testing::ValuesIn(schemasFrom(ios8)),
+                         SchemaName());
 
 class AlbumContentsBeforeIos8 : public testing::TestWithParam<Schema>
 {

@@ -88,8 +88,8 @@ TEST_P(AssetOfEverySchema, WasAddedWhenItSaysFromIos8OnAndWhenCreatedBefore)
 }
 
 INSTANTIATE_TEST_SUITE_P(Schemas, AssetOfEverySchema, testing::ValuesIn(allSchemas), SchemaName());
-INSTANTIATE_TEST_SUITE_P(WithoutProRaw, AssetOfEverySchema, testing::ValuesIn(schemasWithoutProRaw),
-                         SchemaName());
+INSTANTIATE_TEST_SUITE_P(WithoutProRaw, AssetOfEverySchema,
+                         testing::ValuesIn(schemasWithoutProRaw()), SchemaName());
 
 namespace {
 

@@ -50,7 +50,7 @@ TEST_P(CameraRollQuery, TakesRowsOfTheAssetEntityAlone)
 }
 
 INSTANTIATE_TEST_SUITE_P(Schemas, CameraRollQuery, testing::ValuesIn(allSchemas), SchemaName());
-INSTANTIATE_TEST_SUITE_P(WithoutProRaw, CameraRollQuery, testing::ValuesIn(schemasWithoutProRaw),
+INSTANTIATE_TEST_SUITE_P(WithoutProRaw, CameraRollQuery, testing::ValuesIn(schemasWithoutProRaw()),
                          SchemaName());
 
 namespace {

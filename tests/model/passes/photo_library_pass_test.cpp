@@ -160,7 +160,7 @@ TEST_P(PhotoLibraryFromIos14, AsksForNoEntity)
     EXPECT_EQ(albumUuids(read.photos()), (std::vector<std::string>{stream.uuid()}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Schemas, PhotoLibraryFromIos14, testing::Values(ios14, ios15, ios18),
+INSTANTIATE_TEST_SUITE_P(Schemas, PhotoLibraryFromIos14, testing::ValuesIn(schemasFrom(ios14)),
                          SchemaName());
 
 TEST(PhotoLibraryPass, WithFewerThanTwoAlbumsCountsRowsAndPlacesNone)

@@ -70,8 +70,8 @@ SelectedColumns contents(const char *statement, std::size_t columns, std::vector
 const std::vector<SelectedColumns> &allStatements()
 {
     static const std::vector<SelectedColumns> statements = {
-        roll("camera_roll_18_proraw", 34, {ios18}),
-        roll("camera_roll_18", 33, {ios18}),
+        roll("camera_roll_18_proraw", 34, schemasFrom(ios18)),
+        roll("camera_roll_18", 33, schemasFrom(ios18)),
         roll("camera_roll_15_proraw", 34, {ios14, ios15}),
         roll("camera_roll_15", 33, {ios14, ios15}),
         roll("camera_roll_14", 33, {ios14}),
@@ -82,14 +82,14 @@ const std::vector<SelectedColumns> &allStatements()
         roll("camera_roll_7", 29, {ios7, ios7SubTypes}),
         roll("camera_roll_6", 27, {ios6, ios7, ios7SubTypes}),
 
-        synced("photo_library_14", {ios14, ios15, ios18}),
+        synced("photo_library_14", schemasFrom(ios14)),
         synced("photo_library_8", {ios8, ios9, ios11}),
         synced("photo_library_6", {ios6, ios7, ios7SubTypes, ios8, ios9, ios11}),
 
-        userAlbums("user_albums_8", {ios8, ios9, ios11, ios14, ios15, ios18}),
-        userAlbums("user_albums_6", {allSchemas.begin(), allSchemas.end()}),
+        userAlbums("user_albums_8", schemasFrom(ios8)),
+        userAlbums("user_albums_6", schemasFrom(ios6)),
 
-        contents("album_contents_18", 23, {ios18}),
+        contents("album_contents_18", 23, schemasFrom(ios18)),
         contents("album_contents_14", 23, {ios14, ios15}),
         contents("album_contents_11", 22, {ios11}),
         contents("album_contents_9", 22, {ios9, ios11}),

@@ -1,4 +1,4 @@
-#include "model/smart_album_rules.h"
+#include "model/passes/smart_album_rules.h"
 
 #include "model/database_codes.h"
 #include "model/passes/camera_roll_columns.h"

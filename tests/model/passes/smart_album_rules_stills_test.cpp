@@ -42,6 +42,7 @@ constexpr Still stills[] = {
     {"Panorama", ios7SubTypes, "7.1", "iPhone4,1", "ZKINDSUBTYPE", 1, Kind::Panoramas, panorama},
     {"Panorama", ios8, "8.0", "iPad4,1", "ZKINDSUBTYPE", 1, Kind::Panoramas, panorama},
     {"Panorama", ios18, "18.1", phone, "ZKINDSUBTYPE", 1, Kind::Panoramas, panorama},
+    {"Ios6Panorama", ios7SubTypes, "6.1", phone, "ZKINDSUBTYPE", 1, none, panorama},
     {"OldModelPanorama", ios7SubTypes, "7.1", "iPhone3,1", "ZKINDSUBTYPE", 1, none, panorama},
     {"IpodPanorama", ios9, "9.0", "iPod7,1", "ZKINDSUBTYPE", 1, none, panorama},
     {"Subtype2", ios9, "9.0", phone, "ZKINDSUBTYPE", 2, none, panorama},
