@@ -22,7 +22,7 @@ std::optional<StatedSize> readStatedSize(ifile &file, int recordEnd)
         !file.read(words, trailerWordsSize))
         return std::nullopt;
     const auto wordAt = [&](int offset) {
-        return qFromLittleEndian<quint32>(words + offset - trailer_offset::width);
+        return qFromLittleEndian<quint32>(words + (offset - trailer_offset::width));
     };
     const StatedSize size = {wordAt(trailer_offset::width), wordAt(trailer_offset::height)};
     if (!isPlausibleSide(size.width) || !isPlausibleSide(size.height) ||
