@@ -63,9 +63,12 @@ void InterruptionWatch::waitForSignal() const
     const InterruptionLock lock; // until the process ends
     if (isOver_)
         return;
-    removeTemporaryPaths();
-    clearStatusLine(terminal_);
-    terminal_.printError(translate("interrupted; every file that was written is complete"));
+    try {
+        removeTemporaryPaths();
+        clearStatusLine(terminal_);
+        terminal_.printError(translate("interrupted; every file that was written is complete"));
+    } catch (...) { // whatever it is, the command ends here
+    }
     _exit(Interrupted + signal);
 }
 

@@ -39,6 +39,8 @@ StandardOutput::StandardOutput(FileUse &files)
 {
     setp(buffer_.data(), buffer_.data() + buffer_.size());
     std::cout.exceptions(std::ios::badbit);
+    // A message must neither fail with the output nor write it: it may come from another thread.
+    std::cerr.tie(nullptr);
 }
 
 StandardOutput::~StandardOutput()

@@ -60,6 +60,8 @@ const Name names[] = {
     {"SemicolonAndQuotes", "x;\"=1+1;y", "x;\"=1+1;y", "x;\"'=1+1;y"},
     {"LaterLine", "x\r\n+1+1", "x\\r\\n+1+1", "x\r\n'+1+1"},
     {"LaterTab", "x\t\uFF0B1+1", "x\\t\uFF0B1+1", "x\t'\uFF0B1+1"},
+    {"NumberThatGoesOnInTheNextLine", "-5\n*1", "-5\\n*1", "'-5\n*1"},
+    {"NumberThatGoesOnBehindATab", "x;-5\t&A1;y", "x;-5\\t&A1;y", "x;'-5\t&A1;y"},
     same("NumbersInAList", "x; -5;+12; and 1 - 1 = 0, +1"),
 };
 

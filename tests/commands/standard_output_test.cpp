@@ -91,3 +91,27 @@ TEST(ToolStandardOutput, ThatIsClosedIsNamed)
                            3}));
     EXPECT_EQ(runToolWithout({1, 2}, {"thumb", cache.string()}).status, 3);
 }
+
+TEST(ToolClosedDescriptors, AreNoFolderToLookIn)
+{
+    for (const char *command : {"photos", "thumb"}) {
+        const ToolRun run = runToolWithout({0}, {command, "/dev/stdin"});
+        EXPECT_THAT(run.error, testing::HasSubstr("'/dev/stdin': it is not a file"));
+        EXPECT_EQ(run.status, 3);
+    }
+}
+
+TEST(ToolStandardOutput, ThatFailsKeepsTheWordsOfEvidence)
+{
+    const fs::path withoutRoom = "/dev/full";
+    if (!exists(withoutRoom))
+        GTEST_SKIP() << "there is no such device here";
+    const TemporaryFolder folder;
+    const fs::path cache = folder / "cache";
+    const fs::path evidence = folder / "evidence.json";
+    writeFile(cache, sampleThumbCache(120).bytes());
+    const ToolRun run =
+        runToolInto(withoutRoom, {"thumb", cache.string(), "--evidence", evidence.string()});
+    EXPECT_THAT(run.error, testing::StartsWith("iosphoto: cannot write the output: the disk is"));
+    EXPECT_TRUE(exists(evidence));
+}

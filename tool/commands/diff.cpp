@@ -55,7 +55,7 @@ ExitStatus statusOf(const Library &before, const Library &after,
 {
     if (!before.isComplete() || !after.isComplete()) {
         terminal.printWarning(translate("what is missing may look like a difference, or hide one"));
-        return CannotAccess;
+        return CannotAccess; // as Incomplete is the status of libraries that differ
     }
     return difference.isNone() ? Good : Different;
 }
@@ -81,6 +81,7 @@ ExitStatus showDifference(const DiffRequest &request, Session &session, std::ost
     printHowItWasRead(session.terminal, after, "B: ");
     checkThatTheyAreRelated(before, after, difference, session.terminal);
     printDifference(request.format, before, after, difference, session.terminal.screenOf(out), out);
+    out.flush(); // before what is said of it
     return statusOf(before, after, difference, session.terminal);
 }
 

@@ -117,6 +117,7 @@ ExitStatus showThumbnails(const ThumbRequest &request, Session &session, std::os
     // Who asked for one thumbnail has all of it.
     if (request.index || cache.missing().empty())
         return Good;
+    out.flush(); // the list comes before what is missing from it
     session.terminal.printWarning(cache.missing());
     return Incomplete;
 }

@@ -80,6 +80,22 @@ Wording missingValue(const CLI::App &command, const std::vector<std::string> &co
                              : std::nullopt;
 }
 
+bool isNamed(const CLI::Option *option, const std::string &argument)
+{
+    return argument.compare(0, 1, "-") == 0 &&
+           option->check_name(argument.substr(0, argument.find('=')));
+}
+
+/// An option of several values of which all are empty: "--kind ,".
+Wording emptyValues(const Options &options, const std::vector<std::string> &commandLine)
+{
+    for (const CLI::Option *option : options)
+        for (const std::string &argument : commandLine)
+            if (!isFlag(option) && !isGiven(option) && isNamed(option, argument))
+                return translate("{0} requires a value", option->get_name());
+    return std::nullopt;
+}
+
 /// Flags alone are converted by the parser.
 Wording flagWithValue(const Options &options)
 {
@@ -157,8 +173,10 @@ Wording wordingOf(CLI::App &app, const std::vector<std::string> &commandLine, CL
     case CLI::ExitCodes::ExcludesError:
         return excludedOption(options);
     case CLI::ExitCodes::ArgumentMismatch: {
-        const Wording repeated = repeatedOption(options);
-        return repeated ? repeated : missingValue(commandOf(app), commandLine);
+        if (const Wording repeated = repeatedOption(options))
+            return repeated;
+        const Wording missing = missingValue(commandOf(app), commandLine);
+        return missing ? missing : emptyValues(options, commandLine);
     }
     case CLI::ExitCodes::ConversionError:
         return flagWithValue(options);

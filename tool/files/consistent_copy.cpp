@@ -39,12 +39,7 @@ void copyFile(const Copy &file)
     if (!error)
         fs::last_write_time(file.to, time, error);
     if (error)
-        throw Failure(
-            CannotAccess,
-            translate("cannot copy '{0}' to '{1}': {2}; set TMPDIR to a folder with room for "
-                      "it",
-                      file.from.string(), file.to.parent_path().string(),
-                      systemError(error.value())));
+        throw cannotCopy(file.from, file.to.parent_path(), systemError(error.value()));
 }
 
 std::vector<FileStamp> stampsOf(const std::vector<Copy> &files)

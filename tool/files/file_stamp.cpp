@@ -18,8 +18,10 @@ timespec changedAt(const struct stat &facts)
 
 std::int64_t nanoseconds(const timespec &time)
 {
-    constexpr std::int64_t perSecond = 1'000'000'000;
-    return std::int64_t{time.tv_sec} * perSecond + time.tv_nsec;
+    constexpr std::uint64_t perSecond = 1'000'000'000;
+    // Wraps beyond the year 2262, which does not matter where times are only compared.
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(time.tv_sec) * perSecond +
+                                     static_cast<std::uint64_t>(time.tv_nsec));
 }
 
 } // namespace

@@ -87,10 +87,11 @@ void writeOutput(FileUse &files, const fs::path &file, const QByteArray &content
 OutputFolder::OutputFolder(const fs::path &folder) : folder_(folder), changed_({folder})
 {
     std::error_code error;
-    for (fs::path each = fs::absolute(folder); !fs::exists(each, error); each = each.parent_path())
+    for (fs::path each = fs::absolute(folder, error); !each.empty() && !fs::exists(each, error);
+         each = each.parent_path())
         changed_.push_back(each.parent_path());
     fs::create_directories(folder, error);
-    if (!error && !fs::is_directory(folder))
+    if (!error && !fs::is_directory(folder, error))
         error = std::make_error_code(std::errc::not_a_directory);
     if (error)
         throw Failure(CannotAccess, translate("cannot make the folder '{0}': {1}; choose another "

@@ -7,7 +7,7 @@ namespace iosphoto::tool {
 enum ExitStatus {
     Good = 0,
     Incomplete = 1,       ///< read, but something is missing from what was shown
-    Different = 1,        ///< of a comparison: read, and not the same
+    Different = 1,        ///< of a comparison: read, and not the same; what is incomplete is 3
     WrongUsage = 2,       ///< the command line is wrong
     CannotAccess = 3,     ///< a file cannot be opened, read or written
     WrongKindOfFile = 4,  ///< the file is something else, or not a thumbnail cache

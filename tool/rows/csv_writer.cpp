@@ -78,16 +78,19 @@ struct AppendValue
         if (!isHarmless(bytes))
             changed = withoutFormulas(changed.empty() ? bytes : changed);
         const std::string &text = changed.empty() ? bytes : changed;
-        if (hasAnyOf(",\"", text) || hasAnyOf(foreignSeparators, text) || beginsWithSign())
+        if (hasAnyOf(",\"", text) || hasAnyOf(foreignSeparators, text) || mayBeginWithSign())
             appendQuoted(line, text);
         else
             line += text;
     }
 
-    /// Where `;` separates cells, "-5,1+1" is one, and a formula unless the text is quoted.
-    bool beginsWithSign() const
+    /// Where `;` separates cells, "-5,1+1" is one, and a formula unless the text is quoted. Blanks
+    /// and quotes in front do not count; what is not ASCII may be such a blank.
+    bool mayBeginWithSign() const
     {
-        return line.size() > begin && (line[begin] == '-' || line[begin] == '+');
+        const std::size_t at = line.find_first_not_of(" \"", begin);
+        return at != std::string::npos &&
+               (line[at] == '-' || line[at] == '+' || static_cast<unsigned char>(line[at]) >= 0x80);
     }
 };
 

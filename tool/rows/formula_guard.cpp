@@ -65,10 +65,11 @@ bool isDropped(utf8proc_int32_t codePoint)
     }
 }
 
-/// What stands in a text from `at` to the end of the cell that a foreign spreadsheet sees.
-std::string_view foreignCell(const std::string &text, std::size_t at)
+/// What stands in a text from `at` to the next `;`. A formula ends there at the latest, but not at
+/// a tab or line break, which are blanks in it.
+std::string_view untilSemicolon(const std::string &text, std::size_t at)
 {
-    const std::size_t end = std::min(text.find_first_of(foreignSeparators, at), text.size());
+    const std::size_t end = std::min(text.find(';', at), text.size());
     return std::string_view(text).substr(at, end - at);
 }
 
@@ -81,7 +82,7 @@ std::string withoutFormulas(const std::string &text)
     bool isAtStart = true;
     std::size_t at = 0;
     forEachCodePoint(text, [&](utf8proc_int32_t codePoint, std::size_t bytes) {
-        if (isAtStart && isSign(codePoint) && !isPlainNumber(foreignCell(text, at)))
+        if (isAtStart && isSign(codePoint) && !isPlainNumber(untilSemicolon(text, at)))
             guarded += guard;
         guarded.append(text, at, bytes);
         at += bytes;
