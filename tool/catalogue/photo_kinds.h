@@ -31,8 +31,8 @@ const std::vector<PhotoKind> &photoKinds();
 
 std::vector<std::string> kindNames();
 
-/// The kind that somebody names, in any case of letters, one or many: "screenshot" or
-/// "Screenshots"; null for an unknown one.
+/// The kind that somebody names, in the singular or plural and whatever case of letters:
+/// "screenshot" or "Screenshots". Null for an unknown one.
 const PhotoKind *findKind(const std::string &name);
 
 /// Something that a photo is or has: its flag in the record, its key in documents, its name in

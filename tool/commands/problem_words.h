@@ -19,7 +19,7 @@ Failure inWords(const SchemaFinding &finding);
 Failure inWords(const Finding<OutputProblem> &finding);
 /// @}
 
-/// Runs a command. What it throws besides Failure, of the types of what is wrong, becomes one.
+/// Runs a command. The types of problems that it throws become Failures, which have words.
 ExitStatus runWithWords(const std::function<ExitStatus()> &command);
 
 } // namespace iosphoto::tool

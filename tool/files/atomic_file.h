@@ -26,11 +26,11 @@ public:
 
     void write(const QByteArray &content);
 
-    /// Gives it its name, with the rights of the file that it replaces. A power cut does not undo
-    /// that.
+    /// Gives it its name, with the permissions of the file that it replaces. A power cut does not
+    /// undo that.
     void finish();
 
-    /// The same for one of many in a folder, which somebody syncs behind the last.
+    /// The same for one of many in a folder, which has to be synced after the last of them.
     void finishInFolder();
 
 private:

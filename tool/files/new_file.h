@@ -9,8 +9,8 @@
 
 namespace iosphoto::tool {
 
-/// A file for the owner only that is written piece by piece, by somebody whose word about its size
-/// need not be true.
+/// A file for the owner only that is written piece by piece. Its size was stated before by a source
+/// that may lie, as an archive does.
 class NewFile
 {
 public:

@@ -9,8 +9,8 @@
 
 namespace iosphoto::tool {
 
-/// A folder in TMPDIR that only this user can enter, removed with all it holds at the end, which an
-/// interruption is as well.
+/// A folder in TMPDIR that only this user can enter. It is removed with all it holds when the
+/// object goes, and on an interruption.
 class PrivateFolder
 {
 public:

@@ -57,8 +57,8 @@ class SqliteInsert
 public:
     SqliteInsert(SqliteOutput &output, const std::string &table, std::size_t columns);
 
-    /// @param values  of the last columns; those in front of them stay null, as which a primary key
-    ///                counts
+    /// @param values  of the last columns; those in front of them stay null, for which SQLite puts
+    ///                the next number into an integer primary key
     void row(const std::vector<Value> &values);
 
 private:

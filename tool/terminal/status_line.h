@@ -8,7 +8,7 @@
 namespace iosphoto::tool {
 
 /// A line on stderr that is written over and over, and cleared when the object goes. Only on a
-/// terminal, and not for who wants it quiet.
+/// terminal that is not to be quiet.
 class StatusLine
 {
 public:

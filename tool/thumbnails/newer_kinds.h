@@ -9,7 +9,7 @@
 namespace iosphoto::tool {
 
 /// A kind of the caches that later systems keep, with 32 bits per pixel or, it seems, compressed.
-/// Their records end in the same trailer, so that they can be told, but not be decoded.
+/// Their records end in the same trailer, so that they can be recognised, but not decoded.
 struct NewerKind
 {
     const char *fileName; ///< that such caches were seen under
@@ -18,11 +18,11 @@ struct NewerKind
     int bitsPerPixel;
 };
 
-/// The kinds of which the file's size and most of its records are. Two kinds have records of one
+/// The kinds that match the file's size and most of its records. Two kinds have records of one
 /// size; the file's name tells them apart, where it is one of theirs.
 std::vector<NewerKind> newerKindsOf(ifile &file, const std::filesystem::path &name);
 
-/// How many formats and kinds of caches have records of which the file is a multiple.
+/// How many formats and kinds of caches have a record size that divides the size of the file.
 int kindsOfSize(ifile &file);
 
 } // namespace iosphoto::tool

@@ -44,7 +44,7 @@ void traceIfWatched(const CPhotoData &photo, const Row &row)
     const QStringList words = {photo.fileName, dateAndTime(row, camera_roll::created),
                                dateAndTime(row, camera_roll::modified),
                                dateAndTime(row, camera_roll::added)};
-    // The place that is nowhere makes the category "default"; without one there is none.
+    // Naming no file and line here makes the category "default"; without one there is none.
     QMessageLogger(nullptr, 0, nullptr)
         .debug("%s", words.join(QLatin1Char(' ')).toUtf8().constData());
 }
