@@ -1,4 +1,4 @@
-#include "model/store/database_lock.h"
+#include "model/store/database_visit.h"
 #include "records/record_ownership.h"
 #include "support/catalogue.h"
 

@@ -1,6 +1,5 @@
 #include "model/store/database_visit.h"
 
-#include "model/store/database_lock.h"
 #include "model/store/database_path.h"
 #include "model/store/real_tables.h"
 #include "model/store/source_protection.h"

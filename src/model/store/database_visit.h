@@ -16,6 +16,10 @@
 
 namespace iosphoto {
 
+/// The lock of this process, held by every visit to a database, whichever it is, from before the
+/// open to after the close. Visits do not nest.
+extern QMutex g_Lock;
+
 /// How long to wait for somebody else's lock.
 enum class Patience {
     None,
