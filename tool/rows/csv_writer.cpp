@@ -6,8 +6,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <cstring>
 #include <iterator>
 #include <string_view>
 
@@ -17,16 +19,25 @@ namespace {
 
 constexpr const char *lineEnd = "\r\n";
 
-bool hasAnyOf(const char *characters, const std::string &text)
+/// Whether a text with this character is quoted: as it ends cells here, or for a spreadsheet that
+/// takes foreign separators.
+bool isSpecial(char character)
 {
-    return text.find_first_of(characters) != std::string::npos;
+    return character == ',' || character == '"' ||
+           (character != '\0' && std::strchr(foreignSeparators, character) != nullptr);
 }
 
-/// Whether no look for formulas is needed, as with most texts.
-bool isHarmless(const std::string &text)
+bool hasSpecial(const std::string &text)
 {
-    return (text.empty() || std::isalnum(static_cast<unsigned char>(text.front())) != 0) &&
-           !hasAnyOf(foreignSeparators, text);
+    // Most characters are neither, and this is run for all of them.
+    return std::any_of(text.begin(), text.end(), [](char character) {
+        return static_cast<unsigned char>(character) <= ';' && isSpecial(character);
+    });
+}
+
+bool isAlnum(char character)
+{
+    return std::isalnum(static_cast<unsigned char>(character)) != 0;
 }
 
 void appendQuoted(std::string &line, std::string_view text)
@@ -72,13 +83,14 @@ struct AppendValue
 
     void appendText(const std::string &bytes) const
     {
+        const bool isSplit = hasSpecial(bytes);
         std::string changed; // hardly ever, so that most texts are not copied
         if (!isUtf8(bytes))
             changed = asUtf8(bytes);
-        if (!isHarmless(bytes))
+        if (isSplit || (!bytes.empty() && !isAlnum(bytes.front())))
             changed = withoutFormulas(changed.empty() ? bytes : changed);
         const std::string &text = changed.empty() ? bytes : changed;
-        if (hasAnyOf(",\"", text) || hasAnyOf(foreignSeparators, text) || mayBeginWithSign())
+        if (isSplit || mayBeginWithSign())
             appendQuoted(line, text);
         else
             line += text;

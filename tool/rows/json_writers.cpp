@@ -23,6 +23,9 @@ struct Member
     std::vector<std::string> ofGroup; ///< keys; none for a single value
 };
 
+/// Keys and values that are JSON already, made once for all rows.
+using RawMembers = std::vector<std::pair<std::string, std::string>>;
+
 std::vector<Member> membersOf(const std::vector<Column> &columns)
 {
     std::vector<Member> members;
@@ -49,6 +52,14 @@ public:
         for (const auto &[key, member] : object.items()) {
             writeKey(key);
             write(member);
+        }
+    }
+
+    void members(const RawMembers &members)
+    {
+        for (const auto &[key, json] : members) {
+            writeKey(key);
+            writer_.RawValue(json.data(), json.size(), rapidjson::kObjectType);
         }
     }
 
@@ -204,7 +215,7 @@ struct JsonLinesWriter::State
     std::ostream &out;
     rapidjson::StringBuffer buffer;
     std::vector<Member> members;
-    Json ofEachLine;
+    RawMembers ofEachLine;
 };
 
 JsonLinesWriter::JsonLinesWriter(std::ostream &out) : state_(std::make_unique<State>(out)) {}
@@ -214,7 +225,8 @@ JsonLinesWriter::~JsonLinesWriter() = default;
 void JsonLinesWriter::begin(const RowsHead &head, const std::vector<Column> &columns)
 {
     state_->members = membersOf(columns);
-    state_->ofEachLine = head.ofEachLine;
+    for (const auto &[key, member] : head.ofEachLine.items())
+        state_->ofEachLine.emplace_back(key, oneLine(member));
 }
 
 void JsonLinesWriter::row(const std::vector<Value> &values)
