@@ -3,7 +3,7 @@
 file(GLOB statements "${SQL_FOLDER}/*.sql")
 list(SORT statements)
 set(header "// Made from the .sql files by cmake/EmbedSql.cmake.\n#pragma once\n\n")
-string(APPEND header "#include \"model/statements/statement.h\"\n\nnamespace iosphoto::sql {\n")
+string(APPEND header "#include \"model/statements/statement_tables.h\"\n\nnamespace iosphoto::sql {\n")
 foreach(statement IN LISTS statements)
     get_filename_component(name "${statement}" NAME_WE)
     file(READ "${statement}" text)

@@ -5,7 +5,6 @@
 #include "evidence/evidence.h"
 #include "interruption_watch.h"
 #include "process/failure.h"
-#include "process/standard_descriptors.h"
 #include "session/session.h"
 #include "standard_output.h"
 #include "text/translate.h"

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <fcntl.h>
 #include <iostream>
 #include <unistd.h>
 
@@ -27,6 +28,18 @@ std::string reasonOf(int error)
 }
 
 } // namespace
+
+void occupyStandardDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        const bool isClosed = fcntl(descriptor, F_GETFD) < 0 && errno == EBADF;
+        // The system gives out the lowest that is free. Which way it is open is of no use to
+        // anybody.
+        const int useless = descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY;
+        if (isClosed && open("/dev/null", useless) < 0)
+            (void)open("/", O_RDONLY);
+    }
+}
 
 OutputClosed::OutputClosed()
     : Failure(static_cast<ExitStatus>(Interrupted + SIGPIPE), translate("nobody reads the output"))

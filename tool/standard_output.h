@@ -9,6 +9,11 @@
 
 namespace iosphoto::tool {
 
+/// Takes those of the descriptors of standard input, output and error that are closed, so that no
+/// file gets one and with it what is printed. To be called before any file is opened. Using one
+/// remains an error.
+void occupyStandardDescriptors();
+
 /// Whoever reads the standard output has seen enough, as `head` does. Nothing to be said.
 class OutputClosed : public Failure
 {

@@ -1,7 +1,6 @@
 #include "support/archive_builder.h"
+#include "support/database.h"
 #include "support/source_folder.h"
-
-#include <sqlite3.h>
 
 using namespace iosphoto::test;
 using testing::HasSubstr;
@@ -161,13 +160,9 @@ TEST_F(ToolBrokenBackup, OneOfSeveralMustBeNamed)
 TEST_F(ToolBrokenBackup, IndexThatNamesAFileOutsideTheBackup)
 {
     writeBackup(backup_, library_);
-    sqlite3 *manifest = nullptr;
-    sqlite3_open((backup_ / "Manifest.db").c_str(), &manifest);
-    sqlite3_exec(manifest,
-                 "update Files set fileID = '../../etc/passwd' where flags = 1 "
-                 "and domain = 'CameraRollDomain' and relativePath like '%sqlite'",
-                 nullptr, nullptr, nullptr);
-    sqlite3_close(manifest);
+    execute(openDatabase(backup_ / "Manifest.db"),
+            "update Files set fileID = '../../etc/passwd' where flags = 1 "
+            "and domain = 'CameraRollDomain' and relativePath like '%sqlite'");
     expectFailure(albums(backup_),
                   quoted(backup_ / "Manifest.db") +
                       " names a stored file '../../etc/passwd', which no backup has; copy",
@@ -188,13 +183,11 @@ TEST_F(ToolBrokenBackup, LatestIndexIsInItsOwnLog)
 {
     writeBackup(backup_, library_);
     fs::rename(backup_ / "Manifest.db", folder_ / "m.db");
-    sqlite3 *manifest = nullptr;
-    sqlite3_open((folder_ / "m.db").c_str(), &manifest);
-    sqlite3_exec(manifest, "pragma journal_mode = wal; delete from Files", nullptr, nullptr,
-                 nullptr);
+    iosphoto::SqliteConnection manifest = openDatabase(folder_ / "m.db");
+    execute(manifest, "pragma journal_mode = wal; delete from Files");
     fs::copy_file(folder_ / "m.db", backup_ / "Manifest.db");
     fs::copy_file(folder_ / "m.db-wal", backup_ / "Manifest.db-wal");
-    sqlite3_close(manifest);
+    manifest.reset();
     const auto before = allOf(backup_);
     expectFailure(albums(backup_), quoted(backup_) + " is a backup without a photo library", 4);
     EXPECT_EQ(allOf(backup_), before);

@@ -1,8 +1,7 @@
 // Databases in which the tables that are read are something else.
 #include "support/case_name.h"
+#include "support/database.h"
 #include "support/source_folder.h"
-
-#include <sqlite3.h>
 
 using namespace iosphoto::test;
 using testing::HasSubstr;
@@ -65,14 +64,8 @@ using ToolHostileDatabase = SourceFolder;
 TEST_F(ToolHostileDatabase, IndexOfABackupThatIsAView)
 {
     const fs::path backup = writeBackup(folder_ / "backup", library_);
-    sqlite3 *manifest = nullptr;
-    sqlite3_open((backup / "Manifest.db").c_str(), &manifest);
-    EXPECT_EQ(sqlite3_exec(manifest,
-                           "alter table Files rename to real; "
-                           "create view Files as select * from real",
-                           nullptr, nullptr, nullptr),
-              SQLITE_OK);
-    sqlite3_close(manifest);
+    execute(openDatabase(backup / "Manifest.db"),
+            "alter table Files rename to real; create view Files as select * from real");
     expectFailure(albums(backup),
                   quoted(backup / "Manifest.db") +
                       " is a SQLite database whose tables are not those of a backup; copy the "

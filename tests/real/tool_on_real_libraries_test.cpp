@@ -1,14 +1,13 @@
+#include "support/database.h"
 #include "support/real_libraries.h"
 #include "support/run_tool.h"
 #include "support/schema.h"
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-#include <sqlite3.h>
-
 #include <fstream>
+#include <gtest/gtest.h>
 #include <map>
+#include <nlohmann/json.hpp>
 
 using namespace iosphoto::test;
 using nlohmann::json;
@@ -31,14 +30,12 @@ protected:
     int rowsOf(const std::string &script) const
     {
         int rows = 0;
-        sqlite3 *connection = nullptr;
-        sqlite3_open(database().c_str(), &connection);
+        const iosphoto::SqliteConnection connection = openDatabase(database());
         const auto countRow = [](void *count, int, char **, char **) {
             ++*static_cast<int *>(count);
             return 0;
         };
-        const int result = sqlite3_exec(connection, script.c_str(), countRow, &rows, nullptr);
-        sqlite3_close(connection);
+        const int result = sqlite3_exec(connection.get(), script.c_str(), countRow, &rows, nullptr);
         return result == SQLITE_OK ? rows : -1;
     }
 

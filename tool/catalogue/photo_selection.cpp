@@ -135,12 +135,10 @@ std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const st
     return matching;
 }
 
-std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &library,
-                                  const AssetList &assets)
+std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
+                                  const std::vector<const CAlbumGroup *> &albums,
+                                  const Library &library, const AssetList &assets)
 {
-    std::vector<const CAlbumGroup *> albums;
-    if (filter.album)
-        albums = matchingAlbums(library, *filter.album);
     std::vector<Asset> matching;
     for (std::size_t i = 0; i < assets.size(); ++i) {
         const Asset asset = assets[i];
@@ -184,10 +182,11 @@ void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &lib
     sortBy(photos, key, std::greater<>());
 }
 
-std::vector<Asset> choosePhotos(const PhotoChoice &choice, const Library &library,
-                                const AssetList &assets)
+std::vector<Asset> choosePhotos(const PhotoChoice &choice,
+                                const std::vector<const CAlbumGroup *> &albums,
+                                const Library &library, const AssetList &assets)
 {
-    std::vector<Asset> chosen = matchingPhotos(choice.filter, library, assets);
+    std::vector<Asset> chosen = matchingPhotos(choice.filter, albums, library, assets);
     if (!choice.hasFrames)
         chosen = BurstFrames::oneOfEach(chosen);
     sortPhotos(chosen, choice.order, library);

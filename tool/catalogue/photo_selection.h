@@ -10,7 +10,7 @@ namespace iosphoto::tool {
 /// Which photos are asked for. One that is asked for matches all that is said.
 struct PhotoFilter
 {
-    std::optional<std::string> album; ///< see matchingAlbums()
+    std::optional<std::string> album; ///< name, kind or uuid; see matchingAlbums()
     std::optional<UnixTime> since;    ///< of its creation
     std::optional<UnixTime> until;
     std::vector<KindTest> kinds; ///< any of them, if there are some
@@ -27,8 +27,10 @@ struct PhotoFilter
 std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const std::string &wanted);
 
 /// The photos that match, in the order of the list.
-std::vector<Asset> matchingPhotos(const PhotoFilter &filter, const Library &library,
-                                  const AssetList &assets);
+/// @param albums  those that match the filter's
+std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
+                                  const std::vector<const CAlbumGroup *> &albums,
+                                  const Library &library, const AssetList &assets);
 
 /// What photos are sorted by. Names from A to Z; times from the newest, numbers from the largest,
 /// those that have none last.
@@ -53,8 +55,10 @@ struct PhotoChoice
 };
 
 /// Of the photos of a library those that are chosen.
-std::vector<Asset> choosePhotos(const PhotoChoice &choice, const Library &library,
-                                const AssetList &assets);
+/// @param albums  those that match the filter's
+std::vector<Asset> choosePhotos(const PhotoChoice &choice,
+                                const std::vector<const CAlbumGroup *> &albums,
+                                const Library &library, const AssetList &assets);
 
 } // namespace iosphoto::tool
 

@@ -33,10 +33,11 @@ void printPhotos(RowStream<PhotoRow> stream, const std::vector<Asset> &photos,
 }
 
 /// The albums that are asked for, if one is.
-void checkAlbum(const PhotoFilter &filter, const Library &library, const Terminal &terminal)
+std::vector<const CAlbumGroup *> albumsOf(const PhotoFilter &filter, const Library &library,
+                                          const Terminal &terminal)
 {
     if (!filter.album)
-        return;
+        return {};
     const std::vector<const CAlbumGroup *> albums = matchingAlbums(library, *filter.album);
     if (albums.empty())
         throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
@@ -45,6 +46,7 @@ void checkAlbum(const PhotoFilter &filter, const Library &library, const Termina
         terminal.printInfo(translate(
             "'{0}' fits {1} albums, all are shown: {2}", *filter.album, albums.size(),
             listForPeople(albums, [](const CAlbumGroup *album) { return shownName(*album); })));
+    return albums;
 }
 
 void sayThatThereAreNone(const AssetList &assets, const Terminal &terminal)
@@ -65,9 +67,10 @@ ExitStatus showPhotos(const PhotosRequest &request, Session &session, std::ostre
     const auto fields =
         fieldsToShow(isTrash ? photoFieldsOfTheTrash() : photoFields(), request.format);
     const Library library(session, request.library);
-    checkAlbum(request.choice.filter, library, session.terminal);
+    const std::vector<const CAlbumGroup *> albums =
+        albumsOf(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());
-    const std::vector<Asset> photos = choosePhotos(request.choice, library, assets);
+    const std::vector<Asset> photos = choosePhotos(request.choice, albums, library, assets);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     printHowItWasRead(session.terminal, library);

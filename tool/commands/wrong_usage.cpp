@@ -68,30 +68,22 @@ Wording repeatedOption(const Options &options)
     return std::nullopt;
 }
 
-/// Only the last argument can be an option that lacks its value: "--ios", "--ios=" or "-qo".
-Wording missingValue(const CLI::App &command, const std::vector<std::string> &commandLine)
-{
-    const std::string last = commandLine.empty() ? std::string() : commandLine.back();
-    const bool isLong = last.compare(0, 2, "--") == 0;
-    const std::string name = isLong ? last.substr(0, last.find('='))
-                                    : "-" + last.substr(last.empty() ? 0 : last.size() - 1);
-    const CLI::Option *const option = command.get_option_no_throw(name);
-    return option != nullptr ? Wording(translate("{0} requires a value", option->get_name()))
-                             : std::nullopt;
-}
-
+/// Whether an argument is an option by its name, "--ios" or "--ios=", or ends in it: "-qo".
 bool isNamed(const CLI::Option *option, const std::string &argument)
 {
-    return argument.compare(0, 1, "-") == 0 &&
-           option->check_name(argument.substr(0, argument.find('=')));
+    if (argument.compare(0, 2, "--") == 0)
+        return option->check_name(argument.substr(0, argument.find('=')));
+    return argument.size() > 1 && argument.front() == '-' &&
+           option->check_name("-" + argument.substr(argument.size() - 1));
 }
 
-/// An option of several values of which all are empty: "--kind ,".
-Wording emptyValues(const Options &options, const std::vector<std::string> &commandLine)
+/// The last argument may be an option that lacks its value, and "--kind ," has none at all.
+Wording missingValue(const Options &options, const std::vector<std::string> &commandLine)
 {
     for (const CLI::Option *option : options)
         for (const std::string &argument : commandLine)
-            if (!isFlag(option) && !isGiven(option) && isNamed(option, argument))
+            if (!isFlag(option) && isNamed(option, argument) &&
+                (&argument == &commandLine.back() || !isGiven(option)))
                 return translate("{0} requires a value", option->get_name());
     return std::nullopt;
 }
@@ -173,10 +165,8 @@ Wording wordingOf(CLI::App &app, const std::vector<std::string> &commandLine, CL
     case CLI::ExitCodes::ExcludesError:
         return excludedOption(options);
     case CLI::ExitCodes::ArgumentMismatch: {
-        if (const Wording repeated = repeatedOption(options))
-            return repeated;
-        const Wording missing = missingValue(commandOf(app), commandLine);
-        return missing ? missing : emptyValues(options, commandLine);
+        const Wording repeated = repeatedOption(options);
+        return repeated ? repeated : missingValue(options, commandLine);
     }
     case CLI::ExitCodes::ConversionError:
         return flagWithValue(options);

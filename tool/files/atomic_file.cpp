@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The rights of the file that is replaced; of a new one, what the process gives.
+/// The permissions of the file that is replaced; of a new one, what the process gives.
 mode_t modeFor(const fs::path &file)
 {
     struct stat old = {};

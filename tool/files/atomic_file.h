@@ -12,7 +12,8 @@
 
 namespace iosphoto::tool {
 
-/// A file under a passing name beside the one that it becomes. Gone with the object otherwise.
+/// A file under a temporary name beside the one that it becomes. It is removed with the object
+/// unless it was finished.
 /// Throws Failure when the disk does not let it.
 class AtomicFile
 {

@@ -1,6 +1,7 @@
 #include "rows/csv_writer.h"
 
 #include "rows/formula_guard.h"
+#include "text/lists.h"
 #include "text/printable.h"
 #include "time/time_text.h"
 
@@ -69,10 +70,7 @@ struct AppendValue
     void operator()(UnixTime time) const { line += utcTimeText(time); }
     void operator()(const Items &items) const
     {
-        std::string cell;
-        for (const ListItem *item : items)
-            cell += (cell.empty() ? "" : "; ") + item->plain;
-        appendText(cell);
+        appendText(joinedTexts(items, "; ", [](const ListItem *item) { return item->plain; }));
     }
 
     template <typename Number>

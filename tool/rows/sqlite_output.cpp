@@ -3,6 +3,7 @@
 #include "files/output_file.h"
 #include "formats/big_endian.h"
 #include "sqlite/sqlite_error.h"
+#include "text/lists.h"
 #include "text/printable.h"
 #include "time/time_text.h"
 
@@ -73,10 +74,7 @@ struct Bind
     }
     int operator()(const Items &items) const
     {
-        made = "[";
-        for (const ListItem *item : items)
-            made += (made.size() > 1 ? "," : "") + item->json;
-        made += "]";
+        made = "[" + joinedTexts(items, ",", [](const ListItem *item) { return item->json; }) + "]";
         return bindText(made);
     }
 
@@ -135,10 +133,10 @@ SqliteOutput::~SqliteOutput() = default;
 
 void SqliteOutput::writeHead(const Json &head)
 {
-    std::string columns;
+    std::vector<std::string> columns;
     std::vector<Value> values;
     for (const auto &[key, member] : head.items()) {
-        columns += (columns.empty() ? "" : ", ") + quotedName(key);
+        columns.push_back(quotedName(key));
         if (member.is_null())
             values.emplace_back();
         else if (member.is_boolean())
@@ -150,7 +148,7 @@ void SqliteOutput::writeHead(const Json &head)
         else
             values.emplace_back(oneLine(member));
     }
-    execute("create table library (" + columns + ")");
+    execute("create table library (" + joinedTexts(columns, ", ") + ")");
     SqliteInsert(*this, "library", values.size()).row(values);
 }
 
@@ -176,9 +174,7 @@ OutputError SqliteOutput::unwritable() const
 SqliteInsert::SqliteInsert(SqliteOutput &output, const std::string &table, std::size_t columns)
     : output_(output), columns_(columns)
 {
-    std::string places;
-    for (std::size_t i = 0; i < columns; ++i)
-        places += i == 0 ? "?" : ", ?";
+    const std::string places = joinedTexts(std::vector<std::string>(columns, "?"), ", ");
     const std::string sql = "insert into " + quotedName(table) + " values (" + places + ")";
     sqlite3_stmt *statement = nullptr;
     const int result =
@@ -212,11 +208,14 @@ void SqliteRows::begin(const RowsHead &head, const std::vector<Column> &columns)
 {
     const bool isCounting = std::none_of(columns.begin(), columns.end(),
                                          [&](const Column &column) { return column.key == key_; });
-    std::string definitions = isCounting ? quotedName(key_) + " integer primary key" : "";
+    std::vector<std::string> definitions;
+    if (isCounting)
+        definitions.push_back(quotedName(key_) + " integer primary key");
     for (const Column &column : columns)
-        definitions += (definitions.empty() ? "" : ", ") + quotedName(column.key) + " " +
-                       sqlType(column.type) + (column.key == key_ ? " primary key" : "");
-    output_.execute("create table " + quotedName(head.rows) + " (" + definitions + ")");
+        definitions.push_back(quotedName(column.key) + " " + sqlType(column.type) +
+                              (column.key == key_ ? " primary key" : ""));
+    output_.execute("create table " + quotedName(head.rows) + " (" +
+                    joinedTexts(definitions, ", ") + ")");
     insert_ =
         std::make_unique<SqliteInsert>(output_, head.rows, columns.size() + (isCounting ? 1 : 0));
 }

@@ -8,6 +8,8 @@
 #include <limits>
 #include <utility>
 
+#include <cstring>
+
 namespace iosphoto {
 
 namespace {
@@ -43,6 +45,17 @@ float toFloat(double value)
 }
 
 } // namespace
+
+QString RepeatedText::of(const char *utf8)
+{
+    if (utf8 == nullptr)
+        return {};
+    if (text_.isNull() || std::strcmp(utf8, utf8_.c_str()) != 0) {
+        text_ = QString::fromUtf8(utf8);
+        utf8_ = utf8;
+    }
+    return text_;
+}
 
 AssetRowDecoder::AssetRowDecoder(const AssetRowLayout &layout, const DeviceProfile &device,
                                  QString albumName)

@@ -4,13 +4,25 @@
 #include "ios_photo.h"
 #include "model/device/device_profile.h"
 #include "model/passes/day_text.h"
-#include "model/passes/repeated_text.h"
 #include "model/passes/row_columns.h"
 #include "model/store/row.h"
 
 #include <memory>
+#include <string>
 
 namespace iosphoto {
+
+/// Makes texts of a column whose neighbouring rows mostly hold the same, so that they share one.
+class RepeatedText
+{
+public:
+    /// @param utf8  a null pointer gives an empty text
+    QString of(const char *utf8);
+
+private:
+    std::string utf8_;
+    QString text_;
+};
 
 /// How one pass's rows differ from another's in what they share. The first columns, up to the
 /// file size, are the same in all.

@@ -5,7 +5,6 @@
 
 #include "model/device/device_profile.h"
 #include "model/statements/entity_numbers.h"
-#include "model/statements/statement.h"
 
 #include <QString>
 
@@ -13,6 +12,13 @@
 #include <functional>
 
 namespace iosphoto {
+
+/// A statement of src/model/statements/sql/, embedded at build time.
+struct Statement
+{
+    const char *name; ///< the file's name without ".sql"
+    const char *text; ///< UTF-8, with the placeholders %1, %2, ...
+};
 
 /// The entity numbers that fill a statement's placeholders, %1 first.
 struct Placeholders

@@ -2,6 +2,8 @@
 
 #include "model/store/stored_bytes.h"
 
+#include <QtEndian>
+
 #include <sqlite3.h>
 
 namespace iosphoto {
@@ -29,7 +31,7 @@ int pageSizeOf(sqlite3_file *file)
     unsigned char bytes[2] = {};
     if (file->pMethods->xRead(file, bytes, sizeof bytes, offset) != SQLITE_OK)
         return smallest;
-    const int size = bytes[0] << 8 | bytes[1];
+    const int size = qFromBigEndian<quint16>(bytes);
     if (size == 1) // stands for 65536, which two bytes cannot hold
         return largest;
     return size < smallest ? smallest : size;

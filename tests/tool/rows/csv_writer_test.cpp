@@ -125,6 +125,16 @@ INSTANTIATE_TEST_SUITE_P(Signs, CsvFormula,
                                          "\uFF20"),
                          [](const auto &tested) { return "Sign" + std::to_string(tested.index); });
 
+TEST(CsvFormulas, GoOnBehindABreak)
+{
+    for (const char *number : {"-5\n*A1", "+5\t&A1", "-5\r*1"})
+        for (const char *before : {"", "x;", "x\n"}) {
+            const std::string csv = csvOf({std::string(before) + number});
+            for (const char *separators : {",", ";"})
+                EXPECT_THAT(formulasIn(csv, separators), IsEmpty()) << csv << separators;
+        }
+}
+
 TEST(CsvCells, OfAListAreGuardedItemByItem)
 {
     const ListItem items[] = {{"", "a", ""}, {"", "=1+1", ""}, {"", "-5", ""}, {"", "@b;+c", ""}};
@@ -143,6 +153,7 @@ TEST(CsvCells, BehindANumberWithASignAreQuotedSoThatBothMakeNoFormula)
 {
     EXPECT_EQ(csvOf({-5.5, std::string("1+1"), true}), "-5.5,\"1+1\",true\r\n");
     EXPECT_EQ(csvOf({std::string("+5"), std::string("1+1")}), "+5,\"1+1\"\r\n");
+    EXPECT_EQ(csvOf({std::string(" -5"), std::string("1+1")}), " -5,\"1+1\"\r\n");
 }
 
 TEST(CsvCells, WithWhatSeparatesCellsElsewhereAreQuoted)

@@ -2,9 +2,8 @@
 #include "sqlite/rollback_journal.h"
 
 #include "support/archive_builder.h"
+#include "support/database.h"
 #include "support/source_folder.h"
-
-#include <sqlite3.h>
 
 using namespace iosphoto::test;
 
@@ -100,10 +99,7 @@ TEST_F(ToolSuperJournal, IsDeletedBySqliteItself)
     const fs::path source = folder_ / "Photos.sqlite";
     writeFile(source, database_);
     writeFile(source.string() + "-journal", journalOf(database_, victim_.string()));
-    sqlite3 *connection = nullptr;
-    sqlite3_open(source.c_str(), &connection);
-    sqlite3_exec(connection, "select count(*) from ZASSET", nullptr, nullptr, nullptr);
-    sqlite3_close(connection);
+    execute(openDatabase(source), "select count(*) from ZASSET");
     EXPECT_FALSE(fs::exists(victim_)) << "otherwise the tests here show nothing";
 }
 

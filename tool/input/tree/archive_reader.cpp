@@ -17,6 +17,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+#ifdef __APPLE__
+constexpr const char *utf8LocaleName = "en_US.UTF-8";
+#else
+constexpr const char *utf8LocaleName = "C.UTF-8";
+#endif
+
 /// Only what is an archive beyond doubt: a format that takes any file would take a database.
 void supportFormats(archive *reader)
 {
@@ -85,6 +91,18 @@ bool isDatabase(const fs::path &file)
 }
 
 } // namespace
+
+Utf8Locale::Utf8Locale()
+    : utf8_(newlocale(LC_CTYPE_MASK, utf8LocaleName, nullptr)), before_(uselocale(utf8_))
+{
+}
+
+Utf8Locale::~Utf8Locale()
+{
+    uselocale(before_);
+    if (utf8_ != nullptr)
+        freelocale(utf8_);
+}
 
 ArchiveReader::ArchiveReader(const fs::path &file) : file_(file), archive_(newReader())
 {

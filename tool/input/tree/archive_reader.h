@@ -2,18 +2,37 @@
 #define IOSPHOTO_TOOL_ARCHIVE_READER_H
 
 #include "input/source_problem.h"
-#include "process/utf8_locale.h"
 
+#include <clocale>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
 
+#ifdef __APPLE__
+#include <xlocale.h>
+#endif
+
 struct archive;
 struct archive_entry;
 
 namespace iosphoto::tool {
+
+/// Makes the C functions of this thread take texts as UTF-8 while it lives, whatever the user's
+/// locale. Without it names in some archives are lost.
+class Utf8Locale
+{
+public:
+    Utf8Locale();
+    ~Utf8Locale();
+    Utf8Locale(const Utf8Locale &) = delete;
+    Utf8Locale &operator=(const Utf8Locale &) = delete;
+
+private:
+    locale_t utf8_; ///< null where there is none, and then nothing changes
+    locale_t before_;
+};
 
 /// Reads a zip, tar or 7zip archive from its beginning, one entry after the other. What it holds is
 /// not to be trusted: names and sizes may be made up.
