@@ -23,8 +23,17 @@ struct KindSubtype
 /// ZSAVEDASSETTYPE
 struct SavedAssetType
 {
-    enum Code : std::int32_t { Camera = 3, CloudLibrary = 6, SyncedFromComputer = 256 };
+    enum Code : std::int32_t {
+        Camera = 3,
+        SharedAlbum = 4,
+        CloudLibrary = 6,
+        SyncedFromComputer = 256
+    };
 };
+
+/// Those that the statements of the Camera Roll select, of whatever iOS.
+constexpr std::int32_t cameraRollSavedTypes[] = {0, 1, SavedAssetType::Camera, 5,
+                                                 SavedAssetType::CloudLibrary};
 
 /// ZPLAYBACKSTYLE
 struct PlaybackStyle
@@ -100,16 +109,26 @@ struct AdjustmentsState
     enum Code : std::int32_t { Edited = 2 };
 };
 
-/// ZKIND of an album: who made it
+/// ZKIND of an album: who made it, or what it is besides
 struct TableAlbumKind
 {
-    enum Code : std::int32_t { MadeOnDevice = 2 };
+    enum Code : std::int32_t {
+        MadeOnDevice = 2,
+        Shared = 1505,
+        Project = 1508,
+        ProjectsFolder = 3998,
+        RootFolder = 3999,
+        Folder = 4000
+    };
+    static constexpr std::int32_t firstOfSystem = 3500; ///< of those that the statements leave out
 };
 
 /// Z_NAME of the entities of albums
 namespace album_entity {
 constexpr auto album = "Album";
 constexpr auto photoStreamAlbum = "PhotoStreamAlbum";
+constexpr auto sharedAlbum = "CloudSharedAlbum";
+constexpr auto project = "ProjectAlbum";
 } // namespace album_entity
 
 } // namespace iosphoto

@@ -1,5 +1,7 @@
 #include "catalogue/library.h"
 
+#include "catalogue/album_account.h"
+
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/store/database_path.h"
 #include "model/store/stored_bytes.h"
@@ -61,7 +63,14 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);
     read(session, copy);
-    leftOut_ = trash_.leftOutOf(albums());
+    accountFor(copy);
+}
+
+std::int64_t Library::leftOutOfTrash() const
+{
+    return account_ ? account_->photos.leftOutFor(PhotoReason::TrashedTooLong) +
+                          account_->photos.leftOutFor(PhotoReason::TrashedWithoutDate)
+                    : 0;
 }
 
 void Library::inspect(const OpenedCopy &copy)
@@ -92,6 +101,23 @@ void Library::read(const Session &session, const OpenedCopy &copy)
         throw NothingRead(database_, stop != nullptr ? stop->extendedCode : -result);
     if (stop == nullptr && isWithoutPhotos(albums()) && areAssetTablesDamaged(copy.connect()))
         throw NothingRead(database_, SQLITE_CORRUPT);
+}
+
+/// Damage can be where no statement of the catalogue comes by.
+void Library::accountFor(const OpenedCopy &copy)
+{
+    const CopyDatabase database = copy.connect();
+    const ReadingFacts reading = {schema_, albums(), asOf_.time, report_.firstStopped() == nullptr};
+    try {
+        Account account;
+        account.photos =
+            accountOfPhotos(database, reading, request_.keepsLeftOut ? &leftOutPhotos_ : nullptr);
+        account.albums = accountOfAlbums(database, reading);
+        dates_ = KnownDates(database, albums());
+        account_ = account;
+    } catch (const Failure &failure) {
+        uncounted_ = failure.what();
+    }
 }
 
 } // namespace iosphoto::tool

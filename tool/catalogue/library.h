@@ -1,6 +1,9 @@
 #ifndef IOSPHOTO_TOOL_LIBRARY_H
 #define IOSPHOTO_TOOL_LIBRARY_H
 
+#include "catalogue/known_dates.h"
+#include "catalogue/left_out_photos.h"
+#include "catalogue/left_out_reasons.h"
 #include "catalogue/log_changes.h"
 #include "catalogue/trash.h"
 #include "ios_photo.h"
@@ -31,6 +34,14 @@ struct LibraryRequest
     Device device;              ///< as far as the user named it
     std::optional<Moment> asOf; ///< by default the source's own time
     bool comparesLog = false;   ///< whether to find out what the write-ahead log holds
+    bool keepsLeftOut = false;  ///< whether to read the photos that the catalogue leaves out
+};
+
+/// What became of every row of the tables that a library is made of.
+struct Account
+{
+    PhotoAccount photos;
+    AlbumAccount albums;
 };
 
 /// The time that a source is of: when the backup was made, else when it last changed.
@@ -71,8 +82,15 @@ public:
     const Moment &asOf() const { return asOf_; }
     const Trash &trash() const { return trash_; }
 
+    /// The dates of its photos, which their records do not tell for sure.
+    const KnownDates &dates() const { return dates_; }
+    /// Nothing where the rows could not be counted, which uncounted() says then.
+    const std::optional<Account> &account() const { return account_; }
+    const std::string &uncounted() const { return uncounted_; }
     /// How many assets are left out since they were in the trash for too long.
-    int leftOut() const { return leftOut_; }
+    std::int64_t leftOutOfTrash() const;
+    /// If the request said so.
+    const LeftOutPhotos &leftOutPhotos() const { return leftOutPhotos_; }
 
     /// Whether there is a write-ahead log, and if the request said so what it changes.
     bool hasLog() const { return hasLog_; }
@@ -85,11 +103,15 @@ public:
     /// The most rows that a pass was to read.
     std::int64_t rowLimit() const { return rowLimit_; }
     /// Whether nothing is missing from what was read.
-    bool isComplete() const { return missing_.empty() && report_.firstStopped() == nullptr; }
+    bool isComplete() const
+    {
+        return missing_.empty() && report_.firstStopped() == nullptr && uncounted_.empty();
+    }
 
 private:
     void inspect(const OpenedCopy &copy);
     void read(const Session &session, const OpenedCopy &copy);
+    void accountFor(const OpenedCopy &copy);
 
     LibraryRequest request_;
     std::string database_;
@@ -101,7 +123,10 @@ private:
     bool hasLog_ = false;
     std::vector<LogChange> logChanges_;
     OwnedCatalogue catalogue_;
-    int leftOut_ = 0;
+    KnownDates dates_;
+    std::optional<Account> account_;
+    std::string uncounted_;
+    LeftOutPhotos leftOutPhotos_;
     std::vector<SourceFinding> missing_;
     CReadReport report_;
     std::int64_t rowLimit_ = 0;

@@ -1,5 +1,6 @@
 #include "catalogue/summary.h"
 
+#include "catalogue/burst_frames.h"
 #include "catalogue/photo_kinds.h"
 
 #include <algorithm>
@@ -16,17 +17,25 @@ void add(Tally &tally, const CPhotoData &photo)
     tally.bytes = std::min(most, tally.bytes + std::clamp<std::int64_t>(photo.fileSize, 0, most));
 }
 
-void addTime(Summary &summary, CoreDataTime created)
+void addTime(Summary &summary, const std::optional<CoreDataTime> &created)
 {
-    if (!isOfTheCalendar(created))
+    if (!created || !isOfTheCalendar(*created))
         return;
-    summary.firstCreated = std::min(summary.firstCreated.value_or(created), created);
-    summary.lastCreated = std::max(summary.lastCreated.value_or(created), created);
+    summary.firstCreated = std::min(summary.firstCreated.value_or(*created), *created);
+    summary.lastCreated = std::max(summary.lastCreated.value_or(*created), *created);
+}
+
+std::size_t foldedFramesOf(const AssetList &assets)
+{
+    std::vector<Asset> all;
+    for (std::size_t i = 0; i < assets.size(); ++i)
+        all.push_back(assets[i]);
+    return all.size() - BurstFrames::oneOfEach(all).size();
 }
 
 } // namespace
 
-Summary summaryOf(const AssetList &assets)
+Summary summaryOf(const AssetList &assets, const KnownDates &dates)
 {
     const std::vector<PhotoKind> &kinds = photoKinds();
     Summary summary;
@@ -38,8 +47,9 @@ Summary summaryOf(const AssetList &assets)
         for (std::size_t kind = 0; kind < kinds.size(); ++kind)
             if (kinds[kind].test(asset))
                 add(summary.byKind[kind], photo);
-        addTime(summary, CoreDataTime{photo.createdTime});
+        addTime(summary, dates.created(photo));
     }
+    summary.foldedFrames = foldedFramesOf(assets);
     return summary;
 }
 

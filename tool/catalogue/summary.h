@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_SUMMARY_H
 
 #include "catalogue/assets.h"
+#include "catalogue/known_dates.h"
 #include "time/epochs.h"
 
 #include <cstdint>
@@ -24,9 +25,10 @@ struct Summary
     std::vector<Tally> byKind; ///< as photoKinds() lists them
     std::optional<CoreDataTime> firstCreated;
     std::optional<CoreDataTime> lastCreated;
+    std::size_t foldedFrames = 0; ///< of bursts, for each of which a list shows one
 };
 
-Summary summaryOf(const AssetList &assets);
+Summary summaryOf(const AssetList &assets, const KnownDates &dates);
 
 } // namespace iosphoto::tool
 

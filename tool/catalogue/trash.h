@@ -21,8 +21,7 @@ struct TrashStay
     std::int64_t daysLeft; ///< from the moment that the library is read as of; a begun day counts
 };
 
-/// What the records of a catalogue do not tell of the trash: since when an asset is in it, and
-/// which assets are missing because the trash was emptied of them.
+/// What the records of a catalogue do not tell of the trash: since when an asset is in it.
 class Trash
 {
 public:
@@ -34,18 +33,9 @@ public:
     /// Nothing for an asset that is not there, and where the database does not say since when.
     std::optional<TrashStay> stayOf(const Asset &asset) const;
 
-    /// The assets that are in no album of a catalogue since they were in the trash for 30 days.
-    int leftOutOf(const std::vector<CAlbumGroup> &catalogue) const;
-
 private:
-    struct Entry
-    {
-        std::optional<CoreDataTime> trashedAt;
-        std::int32_t rawDate = 0; ///< as the library reads it
-    };
-
     UnixTime asOf_;
-    std::map<std::string, Entry> entries_; // by uuid; ordered: no choice of uuids makes it slow
+    std::map<std::string, CoreDataTime> trashedAt_; // ordered: no choice of uuids makes it slow
 };
 
 } // namespace iosphoto::tool

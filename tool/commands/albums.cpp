@@ -22,7 +22,7 @@ struct AlbumsRequest
 void printAlbums(RowStream<AlbumRow> stream, const Library &library)
 {
     for (const CAlbumGroup &album : library.albums())
-        stream.write(AlbumRow(album));
+        stream.write(AlbumRow(album, library.dates()));
     stream.end();
 }
 

@@ -65,7 +65,6 @@ void printFacts(const Library &library, const Summary &summary, const Screen &sc
     add(translate("Albums"), std::to_string(library.albums().size()));
     add(translate("First taken"), localTimeOf(summary.firstCreated));
     add(translate("Last taken"), localTimeOf(summary.lastCreated));
-    add(translate("Left out of the trash"), std::to_string(library.leftOut()));
     printBlocks(out, labels, {facts}, screen);
 }
 
@@ -83,6 +82,39 @@ void printCounts(const Summary &summary, const Screen &screen, std::ostream &out
         if (summary.byKind[i].count > 0)
             add(translateTerm(photoKinds()[i].word), summary.byKind[i]);
     table.print(out, screen);
+}
+
+/// Every row of the tables of photos and albums: listed, or left out for a reason.
+void printAccount(const Library &library, const Summary &summary, const Screen &screen,
+                  std::ostream &out)
+{
+    if (!library.account()) {
+        printParagraph(out, screen,
+                       translate("The rows of the database could not all be counted."));
+        return;
+    }
+    TextTable table(
+        {{translate("IN THE DATABASE")}, {translate("COUNT"), TextTable::Align::Right}});
+    const auto addRows = [&](const std::string &what, const auto &account, auto reasonOf) {
+        table.add({what, std::to_string(account.rows)});
+        table.add({translate("- listed"), std::to_string(account.listed)});
+        for (std::size_t i = 0; i < account.leftOut.size(); ++i)
+            if (account.leftOut[i] > 0)
+                table.add({translate("- left out: {0}", translateTerm(words(reasonOf(i)))),
+                           std::to_string(account.leftOut[i])});
+    };
+    addRows(translate("photos"), library.account()->photos,
+            [](std::size_t i) { return PhotoReason(i); });
+    addRows(translate("albums"), library.account()->albums,
+            [](std::size_t i) { return AlbumReason(i); });
+    table.print(out, screen);
+    if (summary.foldedFrames > 0)
+        printParagraph(out, screen,
+                       counted(static_cast<std::int64_t>(summary.foldedFrames),
+                               "'iosphoto photos' shows one photo of each burst and so {0} frame "
+                               "less, unless --frames asks for all.",
+                               "'iosphoto photos' shows one photo of each burst and so {0} frames "
+                               "less, unless --frames asks for all."));
 }
 
 void printLog(const Library &library, const Screen &screen, std::ostream &out)
@@ -111,6 +143,8 @@ void printInfo(const Library &library, const Summary &summary, const Screen &scr
     out << '\n';
     printCounts(summary, screen, out);
     out << '\n';
+    printAccount(library, summary, screen, out);
+    out << '\n';
     printLog(library, screen, out);
 }
 
@@ -118,7 +152,7 @@ ExitStatus showInfo(const InfoRequest &request, Session &session, std::ostream &
 {
     const Library library(session, request.library);
     printHowItWasRead(session.terminal, library);
-    const Summary summary = summaryOf(AssetList(library.albums()));
+    const Summary summary = summaryOf(AssetList(library.albums()), library.dates());
     if (request.format == Format::JsonDocument)
         print(infoDocument(library, summary), out);
     else if (request.format == Format::JsonLines)

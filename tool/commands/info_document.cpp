@@ -22,6 +22,27 @@ Json timeOrNull(const std::optional<CoreDataTime> &time)
     return time ? tool::timeOrNull(*time) : Json();
 }
 
+template <typename Reason, std::size_t count>
+Json leftOut(const RowAccount<Reason, count> &account)
+{
+    Json counts;
+    for (std::size_t reason = 0; reason < count; ++reason)
+        counts[machineName(Reason(reason))] = account.leftOut[reason];
+    return counts;
+}
+
+Json accountOrNull(const Library &library, const Summary &summary)
+{
+    if (!library.account())
+        return {};
+    const PhotoAccount &photos = library.account()->photos;
+    const AlbumAccount &albums = library.account()->albums;
+    return {{"assetRows", photos.rows},        {"listed", photos.listed},
+            {"leftOut", leftOut(photos)},      {"foldedBurstFrames", summary.foldedFrames},
+            {"albumRows", albums.rows},        {"albumsListed", albums.listed},
+            {"albumsLeftOut", leftOut(albums)}};
+}
+
 Json logOrNull(const Library &library)
 {
     if (!library.hasLog())
@@ -46,6 +67,7 @@ Json infoDocument(const Library &library, const Summary &summary)
     document["firstCreated"] = timeOrNull(summary.firstCreated);
     document["lastCreated"] = timeOrNull(summary.lastCreated);
     document["counts"] = counts(summary);
+    document["account"] = accountOrNull(library, summary);
     document["log"] = logOrNull(library);
     return document;
 }

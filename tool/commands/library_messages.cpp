@@ -2,6 +2,7 @@
 
 #include "commands/problem_words.h"
 #include "commands/reading_stop.h"
+#include "text/lists.h"
 #include "text/translate.h"
 #include "time/time_text.h"
 
@@ -18,17 +19,27 @@ std::string assumptions(const Library &library)
                      asOf.why.empty() ? when : translate("{0} ({1})", when, asOf.why));
 }
 
-/// What was assumed and what is left out; empty if nothing.
+/// What was assumed; empty if nothing.
 std::string infoOf(const Library &library)
 {
-    std::string line;
-    if (library.schema().isAssumed() || !library.asOf().why.empty())
-        line = assumptions(library);
-    if (library.leftOut() > 0)
-        line += (line.empty() ? "" : translate("; ")) +
-                translate("left out since they were in the trash for 30 days: {0} (see --as-of)",
-                          library.leftOut());
-    return line;
+    return library.schema().isAssumed() || !library.asOf().why.empty() ? assumptions(library) : "";
+}
+
+/// What is left out and why; empty if nothing.
+std::string leftOutOf(const Library &library)
+{
+    std::vector<std::string> parts;
+    const auto add = [&](PhotoReason reason) {
+        const std::int64_t count = library.account()->photos.leftOutFor(reason);
+        if (count > 0)
+            parts.push_back(translate("{0} {1}", count, translateTerm(words(reason))));
+    };
+    if (library.account())
+        for (std::size_t reason = 0; reason < photoReasonCount; ++reason)
+            add(PhotoReason(reason));
+    return parts.empty() ? ""
+                         : translate("left out: {0}; iosphoto photos --left-out lists them",
+                                     listForPeople(parts));
 }
 
 } // namespace
@@ -37,6 +48,8 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
 {
     if (const std::string line = infoOf(library); !line.empty())
         terminal.printInfo(label + line);
+    if (const std::string line = leftOutOf(library); !line.empty())
+        terminal.printWarning(label + line);
     if (library.schema().warning)
         terminal.printWarning(label + inWords(*library.schema().warning).what());
     for (const SourceFinding &finding : library.missing())
@@ -44,6 +57,8 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
     for (const std::string &sentence :
          sentencesOf(library.report(), library.database(), library.rowLimit()))
         terminal.printWarning(label + sentence);
+    if (!library.uncounted().empty() && library.report().firstStopped() == nullptr)
+        terminal.printWarning(label + library.uncounted());
 }
 
 ExitStatus statusOf(const Library &library)

@@ -7,8 +7,8 @@
 
 namespace iosphoto::tool {
 
-/// Says on stderr in one line what was assumed and what is left out, and in others what does not
-/// agree and what is missing.
+/// Says on stderr in one line what was assumed, in one what the catalogue leaves out, and in others
+/// what does not agree and what is missing.
 /// @param label  put before each line where there are several libraries, such as "A: "
 void printHowItWasRead(const Terminal &terminal, const Library &library,
                        const std::string &label = {});

@@ -3,6 +3,7 @@
 #include "catalogue/album_kinds.h"
 #include "rows/values.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <limits>
 
@@ -29,6 +30,14 @@ Value ownName(const Row &row)
                                                   : Value();
 }
 
+/// Of the time itself, so that the first day is none after the last; a record's own day can be that
+/// of another time.
+Value dayOf(const std::optional<CoreDataTime> &time)
+{
+    const auto unixTime = time ? unixTimeOf(*time) : std::nullopt;
+    return unixTime ? text(localDayText(*unixTime)) : Value();
+}
+
 std::vector<Field<Row>> facts()
 {
     return {
@@ -47,14 +56,8 @@ std::vector<Field<Row>> facts()
          [](const Row &row) { return number(std::int64_t(row.album.photos.size())); }},
         {{"bytes", Type::Bytes, translate("SIZE")},
          [](const Row &row) { return number(row.bytes); }},
-        {{"firstCreated", Type::Time},
-         [](const Row &row) {
-             return row.first ? timeValue(CoreDataTime{row.first->createdTime}) : Value();
-         }},
-        {{"lastCreated", Type::Time},
-         [](const Row &row) {
-             return row.last ? timeValue(CoreDataTime{row.last->createdTime}) : Value();
-         }},
+        {{"firstCreated", Type::Time}, [](const Row &row) { return timeValue(row.first); }},
+        {{"lastCreated", Type::Time}, [](const Row &row) { return timeValue(row.last); }},
         {{"isSmart", Type::Flag}, [](const Row &row) { return Value(row.album.isSmartAlbum); }},
         {{"collectsFromAlbums", Type::Flag},
          [](const Row &row) { return Value(collectsFromAlbums(row.album)); }},
@@ -70,27 +73,26 @@ std::vector<Field<Row>> viewsForPeople()
          isFact},
         {{"ownName", Type::Text, translate("NAME")}, ownName, isFact},
         {{"firstDay", Type::Text, translate("FIRST")},
-         [](const Row &row) { return row.first ? localDayValue(*row.first) : Value(); },
+         [](const Row &row) { return dayOf(row.first); },
          isFact},
         {{"lastDay", Type::Text, translate("LAST")},
-         [](const Row &row) { return row.last ? localDayValue(*row.last) : Value(); },
+         [](const Row &row) { return dayOf(row.last); },
          isFact},
     };
 }
 
 } // namespace
 
-AlbumRow::AlbumRow(const CAlbumGroup &group) : album(group)
+AlbumRow::AlbumRow(const CAlbumGroup &group, const KnownDates &dates) : album(group)
 {
     for (const CPhotoData *photo : group.photos) {
         if (__builtin_add_overflow(bytes, photo->fileSize, &bytes)) // a database can claim anything
             bytes = std::numeric_limits<std::int64_t>::max();
-        if (!isOfTheCalendar(CoreDataTime{photo->createdTime}))
+        const auto created = dates.created(*photo);
+        if (!created || !isOfTheCalendar(*created))
             continue;
-        if (first == nullptr || photo->createdTime < first->createdTime)
-            first = photo;
-        if (last == nullptr || photo->createdTime > last->createdTime)
-            last = photo;
+        first = std::min(first.value_or(*created), *created);
+        last = std::max(last.value_or(*created), *created);
     }
 }
 

@@ -8,12 +8,12 @@ namespace iosphoto::tool {
 /// An album with what its fields need of its photos.
 struct AlbumRow
 {
-    explicit AlbumRow(const CAlbumGroup &group);
+    AlbumRow(const CAlbumGroup &group, const KnownDates &dates);
 
     const CAlbumGroup &album;
     std::int64_t bytes = 0;            ///< of all its photos
-    const CPhotoData *first = nullptr; ///< the photo that was created first
-    const CPhotoData *last = nullptr;
+    std::optional<CoreDataTime> first; ///< when the first of its photos was created
+    std::optional<CoreDataTime> last;
 };
 
 /// What is known about an album.

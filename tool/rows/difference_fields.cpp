@@ -32,9 +32,9 @@ Items itemsOf(const std::map<Kind, ListItem> &items, const std::vector<Kind> &ki
     return chosen;
 }
 
-std::optional<CPhotoData> factsOf(const std::optional<Asset> &asset)
+std::optional<Row::Side> sideOf(const std::optional<Asset> &asset, const KnownDates &dates)
 {
-    return asset ? std::optional(asset->facts()) : std::nullopt;
+    return asset ? std::optional(Row::Side{asset->facts(), dates}) : std::nullopt;
 }
 
 std::vector<Field<Row>> fieldsOfTheChange()
@@ -49,30 +49,30 @@ std::vector<Field<Row>> fieldsOfTheChange()
     };
 }
 
-using Side = std::optional<CPhotoData> DifferenceRow::*;
+using Side = std::optional<Row::Side> Row::*;
 
 template <Side side, auto member>
 Value numberOn(const Row &row)
 {
-    return row.*side ? Value(std::int64_t((row.*side).value().*member)) : Value();
+    return row.*side ? Value(std::int64_t((row.*side)->facts.*member)) : Value();
 }
 
 template <Side side, bool CPhotoData::*member>
 Value flagOn(const Row &row)
 {
-    return row.*side ? Value((row.*side).value().*member) : Value();
+    return row.*side ? Value((row.*side)->facts.*member) : Value();
 }
 
 template <Side side, QString CPhotoData::*member>
 Value textOn(const Row &row)
 {
-    return row.*side ? Value(((row.*side).value().*member).toStdString()) : Value();
+    return row.*side ? Value(((row.*side)->facts.*member).toStdString()) : Value();
 }
 
-template <Side side, double CPhotoData::*member>
+template <Side side, auto date>
 Value timeOn(const Row &row)
 {
-    return row.*side ? timeValue(CoreDataTime{(row.*side).value().*member}) : Value();
+    return row.*side ? timeValue(((row.*side)->dates.*date)((row.*side)->facts)) : Value();
 }
 
 /// The facts that are compared, and the folder.
@@ -83,8 +83,8 @@ std::vector<Field<Row>> factsOn(const std::string &group)
     return {
         {{group + ".directory", Type::Text}, textOn<side, &Photo::directory>},
         {{group + ".fileName", Type::Text}, textOn<side, &Photo::fileName>},
-        {{group + ".created", Type::Time}, timeOn<side, &Photo::createdTime>},
-        {{group + ".modified", Type::Time}, timeOn<side, &Photo::modifiedTime>},
+        {{group + ".created", Type::Time}, timeOn<side, &KnownDates::created>},
+        {{group + ".modified", Type::Time}, timeOn<side, &KnownDates::modified>},
         {{group + ".fileSize", Type::Bytes}, numberOn<side, &Photo::fileSize>},
         {{group + ".width", Type::Number}, numberOn<side, &Photo::width>},
         {{group + ".height", Type::Number}, numberOn<side, &Photo::height>},
@@ -112,7 +112,8 @@ Json countsOf(const LibraryDifference &difference, const Changes &changes)
 } // namespace
 
 DifferenceRows::DifferenceRows(const Library &before, const Library &after)
-    : albumsBefore_(before.albums()), albumsAfter_(after.albums())
+    : datesBefore_(before.dates()), datesAfter_(after.dates()), albumsBefore_(before.albums()),
+      albumsAfter_(after.albums())
 {
     for (const Change change : allChanges)
         changes_[change] = itemOf(changeName(change));
@@ -123,8 +124,8 @@ DifferenceRows::DifferenceRows(const Library &before, const Library &after)
 DifferenceRow DifferenceRows::of(const PhotoDifference &photo) const
 {
     return {photo,
-            factsOf(photo.before),
-            factsOf(photo.after),
+            sideOf(photo.before, datesBefore_),
+            sideOf(photo.after, datesAfter_),
             itemsOf(changes_, photo.changes),
             itemsOf(albumsAfter_, photo.addedTo),
             itemsOf(albumsBefore_, photo.removedFrom),

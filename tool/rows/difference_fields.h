@@ -13,9 +13,16 @@ namespace iosphoto::tool {
 /// A photo that differs between two snapshots, with all that its fields are made of.
 struct DifferenceRow
 {
+    /// The facts of a photo in one of them.
+    struct Side
+    {
+        CPhotoData facts;
+        const KnownDates &dates;
+    };
+
     const PhotoDifference &photo;
-    std::optional<CPhotoData> before; ///< its facts
-    std::optional<CPhotoData> after;
+    std::optional<Side> before;
+    std::optional<Side> after;
     Items changes;
     Items addedTo;
     Items removedFrom;
@@ -32,6 +39,8 @@ public:
     DifferenceRow of(const PhotoDifference &photo) const;
 
 private:
+    const KnownDates &datesBefore_;
+    const KnownDates &datesAfter_;
     AlbumItems albumsBefore_;
     AlbumItems albumsAfter_;
     std::map<Change, ListItem> changes_;

@@ -15,7 +15,7 @@ void writeAlbums(SqliteOutput &output, const Library &library)
     SqliteRows writer(output, "index");
     RowStream<AlbumRow> stream(writer, {"albums", {}, {}}, factsOf(albumFields()));
     for (const CAlbumGroup &album : library.albums())
-        stream.write(AlbumRow(album));
+        stream.write(AlbumRow(album, library.dates()));
     stream.end();
 }
 

@@ -21,7 +21,7 @@ Json libraryHead(const Library &library)
             {"schema", schema.name},
             {"modelVersion", model ? Json(*model) : Json()},
             {"asOf", textOrNull(utcTimeText(library.asOf().time))},
-            {"leftOut", library.leftOut()},
+            {"leftOut", library.leftOutOfTrash()},
             {"isComplete", library.isComplete()}};
 }
 

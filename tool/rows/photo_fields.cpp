@@ -70,15 +70,18 @@ std::vector<Field<Row>> fieldsOfTimes()
 {
     return {
         {{"created", Type::Time, translate("TAKEN")},
-         [](const Row &row) { return timeValue(CoreDataTime{row.facts.createdTime}); }},
+         [](const Row &row) { return timeValue(row.dates.created(row.facts)); }},
         {{"modified", Type::Time},
-         [](const Row &row) { return timeValue(CoreDataTime{row.facts.modifiedTime}); }},
+         [](const Row &row) { return timeValue(row.dates.modified(row.facts)); }},
         {{"added", Type::Time},
-         [](const Row &row) { return timeValue(CoreDataTime{row.facts.addedTime}); }},
+         [](const Row &row) { return timeValue(row.dates.added(row.facts)); }},
         {{"createdSince2001", Type::Real},
-         [](const Row &row) { return Value(row.facts.createdTime); }},
+         [](const Row &row) {
+             const auto created = row.dates.created(row.facts);
+             return created ? Value(created->seconds) : Value();
+         }},
         {{"localDay", Type::Text, translate("DAY")},
-         [](const Row &row) { return localDayValue(row.facts); }},
+         [](const Row &row) { return localDayValue(row.facts, row.dates); }},
         {{"trashed", Type::Time},
          [](const Row &row) { return row.trash ? Value(row.trash->trashed) : Value(); }},
         {{"goes", Type::Time, translate("GOES")},

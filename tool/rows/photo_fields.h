@@ -34,6 +34,8 @@ struct PhotoRow
     std::optional<TrashStay> trash;
     int burstFrames; ///< of the burst that it belongs to; 0: none
     Items albums;
+    const KnownDates &dates;
+    std::optional<PhotoReason> leftOutBecause; ///< nothing for a photo of the catalogue
 };
 
 /// Makes the rows of a library's photos.
@@ -48,8 +50,13 @@ public:
 
     PhotoRow of(const Asset &asset) const
     {
-        return {asset, asset.facts(), library_.trash().stayOf(asset), bursts_.count(asset),
-                albums_.of(asset)};
+        return {asset,
+                asset.facts(),
+                library_.trash().stayOf(asset),
+                bursts_.count(asset),
+                albums_.of(asset),
+                library_.dates(),
+                std::nullopt};
     }
 
 private:

@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_VALUES_H
 #define IOSPHOTO_TOOL_VALUES_H
 
+#include "catalogue/known_dates.h"
 #include "ios_photo.h"
 #include "time/epochs.h"
 
@@ -33,12 +34,12 @@ inline Value knownText(std::string text)
     return text.empty() ? Value() : Value(std::move(text));
 }
 
-/// A time of the database; nothing beyond all calendars.
-Value timeValue(CoreDataTime time);
+/// A time of the database; nothing where there is none, or one beyond all calendars.
+Value timeValue(const std::optional<CoreDataTime> &time);
 
 /// The local day on which a photo was created, as the library found it; nothing where it cannot
-/// tell, for which it has a word, or where its time is beyond all calendars.
-Value localDayValue(const CPhotoData &photo);
+/// tell, for which it has a word, or where timeValue() is nothing.
+Value localDayValue(const CPhotoData &photo, const KnownDates &dates);
 
 } // namespace iosphoto::tool
 

@@ -31,6 +31,17 @@ bool QueryRow::isNull(int column) const
     return sqlite3_column_type(statement_, column) == SQLITE_NULL;
 }
 
+bool QueryRow::isBlob(int column) const
+{
+    return sqlite3_column_type(statement_, column) == SQLITE_BLOB;
+}
+
+bool QueryRow::isNumber(int column) const
+{
+    const int type = sqlite3_column_type(statement_, column);
+    return type == SQLITE_INTEGER || type == SQLITE_FLOAT;
+}
+
 std::string QueryRow::text(int column) const
 {
     const auto *bytes = static_cast<const char *>(sqlite3_column_blob(statement_, column));

@@ -20,6 +20,8 @@ public:
     explicit QueryRow(sqlite3_stmt *statement) : statement_(statement) {}
 
     bool isNull(int column) const;
+    bool isBlob(int column) const;
+    bool isNumber(int column) const;
     std::string text(int column) const; ///< of a blob its bytes
     std::int32_t int32(int column) const { return sqlite3_column_int(statement_, column); }
     std::int64_t int64(int column) const { return sqlite3_column_int64(statement_, column); }

@@ -3,6 +3,7 @@
 #include "model/core_data_time.h"
 #include "model/database_codes.h"
 #include "model/display_texts.h"
+#include "model/original_size.h"
 #include "model/passes/row_uuid.h"
 
 #include <limits>
@@ -31,12 +32,6 @@ constexpr int width = column(names, "ZWIDTH");
 constexpr int height = column(names, "ZHEIGHT");
 constexpr int originalFileSize = column(names, "ZORIGINALFILESIZE");
 } // namespace shared
-
-/// Sizes from 2 GiB on were stored as 32 bits with a sign; this gives them back, up to 4 GiB.
-std::int64_t repairedSize(std::int64_t size)
-{
-    return size < 0 ? static_cast<std::uint32_t>(size) : size;
-}
 
 float toFloat(double value)
 {

@@ -1,0 +1,63 @@
+#include "catalogue/left_out_reasons.h"
+
+#include "text/translate.h"
+
+namespace iosphoto::tool {
+
+namespace {
+
+struct Names
+{
+    const char *machine;
+    const char *words;
+};
+
+// clang-format off
+constexpr Names photoNames[] = {
+    {"notSelected",         translatable("of a kind that the catalogue does not take")},
+    {"sharedAlbum",         translatable("of a shared album")},
+    {"referencedElsewhere", translatable("referenced elsewhere")},
+    {"trashedTooLong",      translatable("in the trash for 30 days")},
+    {"trashedWithoutDate",  translatable("in the trash without a date")},
+    {"withoutFileName",     translatable("without a file name")},
+    {"burstFrame",          translatable("frame of a hidden or deleted burst")},
+    {"notRead",             translatable("not read")},
+};
+constexpr Names albumNames[] = {
+    {"shared",       translatable("shared")},
+    {"project",      translatable("project")},
+    {"folder",       translatable("folder")},
+    {"system",       translatable("of the system")},
+    {"trashed",      translatable("in the trash")},
+    {"withoutTitle", translatable("without a title")},
+    {"empty",        translatable("empty")},
+    {"repeated",     translatable("without a uuid of its own")},
+    {"notRead",      translatable("not read")},
+};
+// clang-format on
+static_assert(std::size(photoNames) == photoReasonCount);
+static_assert(std::size(albumNames) == albumReasonCount);
+
+} // namespace
+
+const char *machineName(PhotoReason reason)
+{
+    return photoNames[static_cast<std::size_t>(reason)].machine;
+}
+
+const char *machineName(AlbumReason reason)
+{
+    return albumNames[static_cast<std::size_t>(reason)].machine;
+}
+
+const char *words(PhotoReason reason)
+{
+    return photoNames[static_cast<std::size_t>(reason)].words;
+}
+
+const char *words(AlbumReason reason)
+{
+    return albumNames[static_cast<std::size_t>(reason)].words;
+}
+
+} // namespace iosphoto::tool
