@@ -51,7 +51,8 @@ TEST(ToolDefaultMoment, GivesWayToNowWhichEmptiesTheTrash)
 {
     const ToolRun run = OldBackup().photos({"--as-of", "now", "--ios", "15.7"});
     EXPECT_EQ(run.out, "fileName  DAYS LEFT\n");
-    EXPECT_THAT(run.error,
-                HasSubstr("left out since they were in the trash for 30 days: 1 (see --as-of)\n"));
+    EXPECT_THAT(
+        run.error,
+        HasSubstr("left out: 1 in the trash for 30 days; iosphoto photos --left-out lists them\n"));
     EXPECT_EQ(run.status, 0);
 }

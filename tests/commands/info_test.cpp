@@ -32,23 +32,28 @@ TEST_F(ToolInfo, ShowsDeviceDatesAndCounts)
 
     const ToolRun run = info();
 
-    EXPECT_EQ(run.out, "LIBRARY                " + library_.path() +
+    EXPECT_EQ(run.out, "LIBRARY      " + library_.path() +
                            "\n"
-                           "Device                 iPhone14,2\n"
-                           "System                 iOS 15.4\n"
-                           "Build                  19H12\n"
-                           "Schema                 iOS 15 to 17, model 15502\n"
-                           "As of                  2020-02-01 00:00 UTC\n"
-                           "Albums                 5\n"
-                           "First taken            2020-01-04 10:40 UTC\n"
-                           "Last taken             2020-01-05 10:40 UTC\n"
-                           "Left out of the trash  0\n"
+                           "Device       iPhone14,2\n"
+                           "System       iOS 15.4\n"
+                           "Build        19H12\n"
+                           "Schema       iOS 15 to 17, model 15502\n"
+                           "As of        2020-02-01 00:00 UTC\n"
+                           "Albums       5\n"
+                           "First taken  2020-01-04 10:40 UTC\n"
+                           "Last taken   2020-01-05 10:40 UTC\n"
                            "\n"
                            "KIND      COUNT        SIZE\n"
                            "all           2      2.0 kB\n"
                            "photo         1  1000 bytes\n"
                            "video         1  1000 bytes\n"
                            "favorite      1  1000 bytes\n"
+                           "\n"
+                           "IN THE DATABASE  COUNT\n"
+                           "photos               2\n"
+                           "- listed             2\n"
+                           "albums               0\n"
+                           "- listed             0\n"
                            "\n"
                            "There is no write-ahead log (-wal).\n");
     EXPECT_EQ(run.error, "");
@@ -153,9 +158,9 @@ TEST_F(ToolInfo, CountsWhatTheTrashLeavesOut)
 
     const ToolRun run = info();
 
-    EXPECT_EQ(run.error, "iosphoto: left out since they were in the trash for 30 days: 1 (see "
-                         "--as-of)\n");
-    EXPECT_THAT(run.out, HasSubstr("Left out of the trash  1\n"));
+    EXPECT_EQ(run.error, "iosphoto: left out: 1 in the trash for 30 days; iosphoto photos "
+                         "--left-out lists them\n");
+    EXPECT_THAT(run.out, HasSubstr("- left out: in the trash for 30 days      1\n"));
     EXPECT_EQ(document()["leftOut"], 1);
     EXPECT_THAT(run.out, HasSubstr("deleted      1  1000 bytes\n"));
 }

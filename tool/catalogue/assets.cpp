@@ -112,7 +112,7 @@ std::vector<const CAlbumGroup *> Asset::albums() const
 {
     std::vector<const CAlbumGroup *> albums;
     for (const Appearance &appearance : *this)
-        if (albums.empty() || albums.back() != appearance.album)
+        if (appearance.album != nullptr && (albums.empty() || albums.back() != appearance.album))
             albums.push_back(appearance.album);
     return albums;
 }
@@ -138,6 +138,15 @@ AssetList::AssetList(const std::vector<CAlbumGroup> &catalogue)
     appearances_.resize(all.size());
     for (std::size_t i = 0; i < all.size(); ++i)
         appearances_[places[first[i]]++] = all[i];
+}
+
+AssetList::AssetList(const std::vector<std::unique_ptr<CPhotoData>> &photos)
+{
+    for (const std::unique_ptr<CPhotoData> &photo : photos) {
+        starts_.push_back(appearances_.size());
+        appearances_.push_back({photo.get(), nullptr, appearances_.size()});
+    }
+    starts_.push_back(appearances_.size());
 }
 
 } // namespace iosphoto::tool

@@ -4,6 +4,7 @@
 #include "ios_photo.h"
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -12,8 +13,8 @@ namespace iosphoto::tool {
 struct Appearance
 {
     const CPhotoData *record;
-    const CAlbumGroup *album;
-    std::size_t position; ///< in the album, from 0
+    const CAlbumGroup *album; ///< null for a photo that no album shows
+    std::size_t position;     ///< in the album, or among such photos, from 0
 };
 
 /// One photo or video of a catalogue: all its records, in the order of their albums. There is at
@@ -53,6 +54,8 @@ class AssetList
 public:
     /// @param catalogue  has to outlive the list
     explicit AssetList(const std::vector<CAlbumGroup> &catalogue);
+    /// Photos that no album shows, each of them one asset.
+    explicit AssetList(const std::vector<std::unique_ptr<CPhotoData>> &photos);
 
     std::size_t size() const { return starts_.size() - 1; }
     Asset operator[](std::size_t index) const

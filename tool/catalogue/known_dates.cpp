@@ -28,7 +28,8 @@ bool mayLackDates(const std::vector<CAlbumGroup> &catalogue)
 std::string isEpoch(const CopyDatabase &database, const std::string &table, const char *column)
 {
     return database.hasColumn(table, column)
-               ? fmt::format("(typeof({0}) in ('integer', 'real') and abs({0}) < 1)", column)
+               ? fmt::format("(typeof({0}) in ('integer', 'real') and {0} > -1 and {0} < 1)",
+                             column)
                : "0";
 }
 

@@ -206,14 +206,23 @@ private:
 
 } // namespace
 
+std::optional<PhotoReason> LeftOutPhotos::reasonFor(const Asset &asset) const
+{
+    const Appearance &appearance = *asset.begin();
+    return appearance.album == nullptr ? std::optional(reasons_.at(appearance.position))
+                                       : std::nullopt;
+}
+
 void LeftOutPhotos::add(CPhotoData photo, PhotoReason reason)
 {
-    if (records_.albums.empty())
-        records_.albums.emplace_back();
-    auto record = std::make_unique<CPhotoData>(std::move(photo));
+    records_.push_back(std::make_unique<CPhotoData>(std::move(photo)));
     reasons_.push_back(reason);
-    records_.albums.front().photos.push_back(record.get());
-    static_cast<void>(record.release()); // the catalogue deletes it
+}
+
+bool isKnownOfLeftOut(bool CPhotoData::*flag)
+{
+    return flag == &CPhotoData::isFavorite || flag == &CPhotoData::isHidden ||
+           flag == &CPhotoData::isDeleted || flag == &CPhotoData::isBurst;
 }
 
 PhotoAccount accountOfPhotos(const CopyDatabase &database, const ReadingFacts &reading,

@@ -2,11 +2,13 @@
 #ifndef IOSPHOTO_TOOL_LEFT_OUT_PHOTOS_H
 #define IOSPHOTO_TOOL_LEFT_OUT_PHOTOS_H
 
+#include "catalogue/assets.h"
 #include "catalogue/left_out_reasons.h"
 #include "catalogue/reading_facts.h"
-#include "records/owned_catalogue.h"
 #include "sqlite/copy_database.h"
 
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -16,17 +18,19 @@ namespace iosphoto::tool {
 class LeftOutPhotos
 {
 public:
-    /// One album with the photos; it has no name, kind or uuid.
-    const std::vector<CAlbumGroup> &catalogue() const { return records_.albums; }
-    /// @param position  in that album
-    PhotoReason reason(std::size_t position) const { return reasons_.at(position); }
+    const std::vector<std::unique_ptr<CPhotoData>> &records() const { return records_; }
+    /// Nothing for an asset of the catalogue.
+    std::optional<PhotoReason> reasonFor(const Asset &asset) const;
 
     void add(CPhotoData photo, PhotoReason reason);
 
 private:
-    OwnedCatalogue records_;
+    std::vector<std::unique_ptr<CPhotoData>> records_;
     std::vector<PhotoReason> reasons_;
 };
+
+/// What a left-out photo's record says of it, of the flags; it does not know the others.
+bool isKnownOfLeftOut(bool CPhotoData::*flag);
 
 /// Compares the asset table with what the catalogue shows. Throws Failure when the table cannot be
 /// read.

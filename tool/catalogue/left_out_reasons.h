@@ -29,7 +29,7 @@ enum class AlbumReason {
     System, ///< one that the system keeps for itself, such as that of an import
     Trashed,
     WithoutTitle, ///< null, which is another thing than an empty one
-    Empty,        ///< one without a name of its own that shows no photo
+    Empty,        ///< a photo stream that shows no photo
     Repeated,     ///< one without a uuid, or with that of another
     NotRead,
 };

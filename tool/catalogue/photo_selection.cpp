@@ -19,11 +19,12 @@ bool isShownBy(const Asset &asset, const std::vector<const CAlbumGroup *> &album
     });
 }
 
-bool matchesTime(const PhotoFilter &filter, const Asset &asset)
+bool matchesTime(const PhotoFilter &filter, const Library &library, const Asset &asset)
 {
     if (!filter.since && !filter.until)
         return true;
-    const auto created = unixTimeOf(CoreDataTime{asset.begin()->record->createdTime});
+    const auto date = library.dates().created(*asset.begin()->record);
+    const auto created = date ? unixTimeOf(*date) : std::nullopt;
     return created && (!filter.since || !(*created < *filter.since)) &&
            (!filter.until || !(*filter.until < *created));
 }
@@ -75,6 +76,11 @@ double longest(const Asset &asset)
     return duration;
 }
 
+double rank(const std::optional<CoreDataTime> &time)
+{
+    return time ? time->seconds : none;
+}
+
 double rank(const Asset &asset, PhotoOrder order, const Library &library)
 {
     const CPhotoData &record = *asset.begin()->record;
@@ -84,15 +90,15 @@ double rank(const Asset &asset, PhotoOrder order, const Library &library)
     case PhotoOrder::Duration:
         return longest(asset);
     case PhotoOrder::Added:
-        return record.addedTime;
+        return rank(library.dates().added(record));
     case PhotoOrder::Modified:
-        return record.modifiedTime;
+        return rank(library.dates().modified(record));
     case PhotoOrder::Deleted: {
         const auto stay = library.trash().stayOf(asset);
         return stay ? static_cast<double>(stay->trashed.seconds) : none;
     }
     default:
-        return record.createdTime;
+        return rank(library.dates().created(record));
     }
 }
 
@@ -142,7 +148,7 @@ std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
     std::vector<Asset> matching;
     for (std::size_t i = 0; i < assets.size(); ++i) {
         const Asset asset = assets[i];
-        if ((!filter.album || isShownBy(asset, albums)) && matchesTime(filter, asset) &&
+        if ((!filter.album || isShownBy(asset, albums)) && matchesTime(filter, library, asset) &&
             matchesKinds(filter, asset) && matchesFlags(filter, asset) &&
             matchesTrash(filter, library, asset))
             matching.push_back(asset);
@@ -184,11 +190,18 @@ void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &lib
 
 std::vector<Asset> choosePhotos(const PhotoChoice &choice,
                                 const std::vector<const CAlbumGroup *> &albums,
-                                const Library &library, const AssetList &assets)
+                                const Library &library, const AssetList &assets,
+                                const AssetList &leftOut)
 {
-    std::vector<Asset> chosen = matchingPhotos(choice.filter, albums, library, assets);
+    std::vector<Asset> chosen;
+    if (choice.shown != Shown::LeftOut)
+        chosen = matchingPhotos(choice.filter, albums, library, assets);
     if (!choice.hasFrames)
         chosen = BurstFrames::oneOfEach(chosen);
+    if (choice.shown != Shown::Listed) {
+        const auto others = matchingPhotos(choice.filter, albums, library, leftOut);
+        chosen.insert(chosen.end(), others.begin(), others.end());
+    }
     sortPhotos(chosen, choice.order, library);
     if (choice.isReversed)
         std::reverse(chosen.begin(), chosen.end());

@@ -44,9 +44,13 @@ std::vector<std::string> orderNames();
 /// Sorts photos; those that are alike stay in their order.
 void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &library);
 
+/// Photos of the catalogue, those that it leaves out, or both.
+enum class Shown { Listed, LeftOut, Both };
+
 /// Which photos to show, and in which order.
 struct PhotoChoice
 {
+    Shown shown = Shown::Listed;
     PhotoFilter filter;
     PhotoOrder order = PhotoOrder::Date;
     bool isReversed = false;
@@ -56,9 +60,11 @@ struct PhotoChoice
 
 /// Of the photos of a library those that are chosen.
 /// @param albums  those that match the filter's
+/// @param leftOut  the library's, which are looked at only where the choice says so
 std::vector<Asset> choosePhotos(const PhotoChoice &choice,
                                 const std::vector<const CAlbumGroup *> &albums,
-                                const Library &library, const AssetList &assets);
+                                const Library &library, const AssetList &assets,
+                                const AssetList &leftOut);
 
 } // namespace iosphoto::tool
 

@@ -79,6 +79,19 @@ void addFlags(CLI::App &command, PhotoFilter &filter)
     command.add_flag("--edited", filter.isEdited, translate("only edited ones"));
 }
 
+void addLeftOut(CLI::App &command, PhotoChoice &choice)
+{
+    CLI::Option *const leftOut = command.add_flag_callback(
+        "--left-out", [&choice] { choice.shown = Shown::LeftOut; },
+        translate("only what is in the database but in no album, and why (the field "
+                  "leftOutBecause)"));
+    command
+        .add_flag_callback(
+            "--with-left-out", [&choice] { choice.shown = Shown::Both; },
+            translate("what is in no album, too, and why"))
+        ->excludes(leftOut);
+}
+
 void addOrder(CLI::App &command, PhotoChoice &choice)
 {
     command
@@ -114,6 +127,7 @@ void addPhotoOptions(CLI::App &command, PhotoChoice &choice)
     addFlags(command, choice.filter);
     command.add_flag("--frames", choice.hasFrames,
                      translate("list every frame of a burst, not one for all"));
+    addLeftOut(command, choice);
     addOrder(command, choice);
 }
 

@@ -49,10 +49,13 @@ std::vector<const CAlbumGroup *> albumsOf(const PhotoFilter &filter, const Libra
     return albums;
 }
 
-void sayThatThereAreNone(const AssetList &assets, const Terminal &terminal)
+/// @param count  of the photos that could have been chosen
+void sayThatThereAreNone(Shown shown, std::size_t size, const Terminal &terminal)
 {
-    const auto count = static_cast<std::int64_t>(assets.size());
-    if (count == 0)
+    const auto count = static_cast<std::int64_t>(size);
+    if (count == 0 && shown == Shown::LeftOut)
+        terminal.printInfo(translate("no photo is left out"));
+    else if (count == 0)
         terminal.printInfo(
             counted(count, "the library holds {0} photo", "the library holds {0} photos"));
     else
@@ -61,21 +64,33 @@ void sayThatThereAreNone(const AssetList &assets, const Terminal &terminal)
                     "none of the {0} photos fits; leave out an option to see more"));
 }
 
-ExitStatus showPhotos(const PhotosRequest &request, Session &session, std::ostream &out)
+FieldTable<PhotoRow> fieldsFor(const PhotoChoice &choice)
 {
-    const bool isTrash = request.choice.filter.isDeleted;
-    const auto fields =
-        fieldsToShow(isTrash ? photoFieldsOfTheTrash() : photoFields(), request.format);
+    if (choice.shown == Shown::LeftOut)
+        return photoFieldsOfLeftOut();
+    if (choice.shown == Shown::Both)
+        return photoFieldsWithLeftOut();
+    return choice.filter.isDeleted ? photoFieldsOfTheTrash() : photoFields();
+}
+
+ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out)
+{
+    const auto fields = fieldsToShow(fieldsFor(request.choice), request.format);
+    const Shown shown = request.choice.shown;
+    request.library.keepsLeftOut = shown != Shown::Listed;
     const Library library(session, request.library);
     const std::vector<const CAlbumGroup *> albums =
         albumsOf(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());
-    const std::vector<Asset> photos = choosePhotos(request.choice, albums, library, assets);
+    const AssetList leftOut(library.leftOutPhotos().records());
+    const std::vector<Asset> photos =
+        choosePhotos(request.choice, albums, library, assets, leftOut);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     printHowItWasRead(session.terminal, library);
     if (photos.empty())
-        sayThatThereAreNone(assets, session.terminal);
+        sayThatThereAreNone(shown, (shown == Shown::LeftOut ? 0 : assets.size()) + leftOut.size(),
+                            session.terminal);
     if (request.format.format == Format::Sqlite) {
         writePhotoDatabase(session.files, request.format.sqliteFile, library, photos, rows);
         out << translate("wrote {0}", printable(request.format.sqliteFile)) << '\n';
@@ -104,6 +119,7 @@ Command addPhotos(CLI::App &app)
                    "iosphoto photos Photos.sqlite --since 2024-05-01 --kind live,portrait",
                    "iosphoto photos Photos.sqlite --deleted --within 7 --sort deleted",
                    "iosphoto photos Photos.sqlite --sort size --limit 20 --fields path,fileSize",
+                   "iosphoto photos Photos.sqlite --left-out",
                    "iosphoto photos Photos.sqlite --frames --sqlite photos.db"}),
          exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {

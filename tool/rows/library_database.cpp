@@ -53,8 +53,9 @@ void writeAppearances(SqliteOutput &output, const std::vector<Asset> &photos)
     for (const Asset &photo : photos) {
         ++id;
         for (const Appearance &appearance : photo)
-            insert.row({std::int64_t(appearance.album->albumIndex),
-                        static_cast<std::int64_t>(appearance.position), id});
+            if (appearance.album != nullptr)
+                insert.row({std::int64_t(appearance.album->albumIndex),
+                            static_cast<std::int64_t>(appearance.position), id});
     }
     output.execute("create index album_photos_photo on album_photos (photo)");
 }

@@ -97,7 +97,10 @@ std::vector<Field<Row>> fieldsOfBursts()
         {{"thumbnailIndex", Type::Number},
          [](const Row &row) { return number(row.facts.thumbnailIndex); }},
         {{"burstUuid", Type::Text}, [](const Row &row) { return knownText(row.facts.burstUuid); }},
-        {{"burstCount", Type::Number}, [](const Row &row) { return number(row.facts.burstCount); }},
+        {{"burstCount", Type::Number},
+         [](const Row &row) {
+             return row.leftOutBecause ? Value() : number(row.facts.burstCount);
+         }},
         {{"burstFrames", Type::Number},
          [](const Row &row) { return row.burstFrames > 0 ? number(row.burstFrames) : Value(); }},
         {{"isBurstPick", Type::Flag},
@@ -108,7 +111,8 @@ std::vector<Field<Row>> fieldsOfBursts()
 template <std::size_t index>
 Value traitOf(const Row &row)
 {
-    return row.facts.*traits[index].flag;
+    constexpr auto flag = traits[index].flag;
+    return row.leftOutBecause && !isKnownOfLeftOut(flag) ? Value() : Value(row.facts.*flag);
 }
 
 template <std::size_t... indices>
@@ -182,6 +186,11 @@ std::vector<Field<Row>> viewsForPeople()
         {{"kinds", Type::Text, translate("WHAT")},
          [](const Row &row) { return Value(kindsOf(row)); },
          isFact},
+        {{"reason", Type::Text, translate("LEFT OUT")},
+         [](const Row &row) {
+             return row.leftOutBecause ? Value(translateTerm(words(*row.leftOutBecause))) : Value();
+         },
+         isFact},
     };
 }
 
@@ -189,12 +198,19 @@ std::vector<Field<Row>> viewsForPeople()
 
 FieldTable<PhotoRow> photoFields()
 {
-    const std::vector<Field<Row>> albums = {{{"albums", Type::List, translate("ALBUMS")},
-                                             [](const Row &row) { return Value(row.albums); }}};
+    const std::vector<Field<Row>> places = {
+        {{"albums", Type::List, translate("ALBUMS")},
+         [](const Row &row) { return Value(row.albums); }},
+        {{"leftOutBecause", Type::Text},
+         [](const Row &row) {
+             return row.leftOutBecause ? Value(std::string(machineName(*row.leftOutBecause)))
+                                       : Value();
+         }},
+    };
     FieldTable<PhotoRow> table;
     for (const auto &part :
          {fieldsOfTheFile(), fieldsOfTimes(), fieldsOfBursts(),
-          fieldsOfTraits(std::make_index_sequence<std::size(traits)>()), albums, viewsForPeople()})
+          fieldsOfTraits(std::make_index_sequence<std::size(traits)>()), places, viewsForPeople()})
         table.fields.insert(table.fields.end(), part.begin(), part.end());
     table.inTables = {"created", "path", "pixels", "fileSize", "what", "albums"};
     return table;
@@ -206,6 +222,32 @@ FieldTable<PhotoRow> photoFieldsOfTheTrash()
     table.inTables = {"created", "path",     "pixels", "fileSize",
                       "kinds",   "daysLeft", "goes",   "albums"};
     return table;
+}
+
+FieldTable<PhotoRow> photoFieldsOfLeftOut()
+{
+    FieldTable<PhotoRow> table = photoFields();
+    table.inTables = {"created", "path", "pixels", "fileSize", "what", "reason"};
+    return table;
+}
+
+FieldTable<PhotoRow> photoFieldsWithLeftOut()
+{
+    FieldTable<PhotoRow> table = photoFields();
+    table.inTables.emplace_back("reason");
+    return table;
+}
+
+PhotoRow PhotoRows::of(const Asset &asset) const
+{
+    const auto reason = library_.leftOutPhotos().reasonFor(asset);
+    return {asset,
+            asset.facts(),
+            library_.trash().stayOf(asset),
+            reason ? 0 : bursts_.count(asset),
+            albums_.of(asset),
+            library_.dates(),
+            reason};
 }
 
 AlbumItems::AlbumItems(const std::vector<CAlbumGroup> &catalogue) : catalogue_(catalogue)

@@ -48,16 +48,7 @@ public:
     {
     }
 
-    PhotoRow of(const Asset &asset) const
-    {
-        return {asset,
-                asset.facts(),
-                library_.trash().stayOf(asset),
-                bursts_.count(asset),
-                albums_.of(asset),
-                library_.dates(),
-                std::nullopt};
-    }
+    PhotoRow of(const Asset &asset) const;
 
 private:
     const Library &library_;
@@ -70,6 +61,12 @@ FieldTable<PhotoRow> photoFields();
 
 /// The same; tables show how long each photo stays in the trash in columns of their own.
 FieldTable<PhotoRow> photoFieldsOfTheTrash();
+
+/// The same; tables say why photos are left out, and so are in no albums.
+FieldTable<PhotoRow> photoFieldsOfLeftOut();
+
+/// The same, for lists in which others are in albums.
+FieldTable<PhotoRow> photoFieldsWithLeftOut();
 
 } // namespace iosphoto::tool
 
