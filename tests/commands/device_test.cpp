@@ -121,8 +121,9 @@ TEST(ToolNewerLibrary, WhoseTablesAreNotKnownAsksForANewerTool)
     library.execute("alter table ZASSET rename column ZFILENAME to ZNAMEOFFILE");
     expectFailure(albums(library),
                   "'" + library.path() +
-                      "' is a photo database of iOS 27, whose schema is not known yet; look for a "
-                      "newer iosphoto\n",
+                      "' is a photo database of iOS 27, whose schema is not known yet (no such "
+                      "column: ZFILENAME); look for a newer iosphoto, or send this output of "
+                      "'iosphoto info' to its makers\n",
                   5);
 }
 

@@ -105,7 +105,8 @@ public:
     /// Whether nothing is missing from what was read.
     bool isComplete() const
     {
-        return missing_.empty() && report_.firstStopped() == nullptr && uncounted_.empty();
+        return missing_.empty() && report_.firstStopped() == nullptr && uncounted_.empty() &&
+               !schema_.gap;
     }
 
 private:

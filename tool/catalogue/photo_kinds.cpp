@@ -8,12 +8,12 @@ namespace {
 
 std::vector<PhotoKind> allKinds()
 {
-    std::vector<PhotoKind> kinds = {
-        {"photo", translatable("photo"), [](const Asset &asset) { return !isVideo(asset); }},
-        {"video", translatable("video"), isVideo}};
+    std::vector<PhotoKind> kinds = {{"photo", translatable("photo"), "mediaKind",
+                                     [](const Asset &asset) { return !isVideo(asset); }},
+                                    {"video", translatable("video"), "mediaKind", isVideo}};
     for (const Trait &trait : traits)
         if (*trait.name != '\0' && trait.flag != &CPhotoData::isVideo) // "video" says more
-            kinds.push_back({trait.name, trait.word,
+            kinds.push_back({trait.name, trait.word, trait.key,
                              [flag = trait.flag](const Asset &asset) { return asset.has(flag); }});
     return kinds;
 }

@@ -22,6 +22,7 @@ struct PhotoKind
 {
     const char *name; ///< in options and documents, such as "slo-mo"
     const char *word; ///< in tables
+    const char *key;  ///< of the field that tells it
     KindTest test;
 };
 

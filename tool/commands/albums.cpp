@@ -37,7 +37,9 @@ ExitStatus showAlbums(const AlbumsRequest &request, Session &session, std::ostre
     } else {
         const auto writer =
             makeRowWriter(request.format.format, out, session.terminal.screenOf(out));
-        printAlbums({*writer, rowsHead("albums", library), fields}, library);
+        printAlbums({*writer, rowsHead("albums", library),
+                     withUnknown(fields, library.schema().unknownFields)},
+                    library);
     }
     return statusOf(library);
 }

@@ -31,8 +31,10 @@ void printDifference(Format format, const Library &before, const Library &after,
     }
     const auto writer = makeRowWriter(format, out, screen);
     const DifferenceRows rows(before, after);
+    const auto fields =
+        withUnknown(factsOf(differenceFields()), before.schema().unknownFields, "before.");
     RowStream<DifferenceRow> stream(*writer, differenceHead(before, after, difference),
-                                    factsOf(differenceFields()));
+                                    withUnknown(fields, after.schema().unknownFields, "after."));
     for (const PhotoDifference &photo : difference.photos.differences)
         stream.write(rows.of(photo));
     stream.end();

@@ -68,19 +68,26 @@ void printFacts(const Library &library, const Summary &summary, const Screen &sc
     printBlocks(out, labels, {facts}, screen);
 }
 
-void printCounts(const Summary &summary, const Screen &screen, std::ostream &out)
+void printCounts(const ProbedSchema &schema, const Summary &summary, const Screen &screen,
+                 std::ostream &out)
 {
     using Align = TextTable::Align;
     TextTable table({{translate("KIND")},
                      {translate("COUNT"), Align::Right},
                      {translate("SIZE"), Align::Right}});
-    const auto add = [&](const std::string &kind, const Tally &tally) {
-        table.add({kind, std::to_string(tally.count), readableSize(tally.bytes)});
+    const std::string unknown = translate("unknown");
+    const auto add = [&](const std::string &kind, const Tally &tally, bool isKnown = true) {
+        const bool isSizeKnown = isKnown && !schema.isUnknown("bytes");
+        table.add({kind, isKnown ? std::to_string(tally.count) : unknown,
+                   isSizeKnown ? readableSize(tally.bytes) : unknown});
     };
     add(translate("all"), summary.all);
-    for (std::size_t i = 0; i < photoKinds().size(); ++i)
-        if (summary.byKind[i].count > 0)
-            add(translateTerm(photoKinds()[i].word), summary.byKind[i]);
+    for (std::size_t i = 0; i < photoKinds().size(); ++i) {
+        const PhotoKind &kind = photoKinds()[i];
+        const bool isKnown = !schema.isUnknown(kind.key);
+        if (summary.byKind[i].count > 0 || !isKnown)
+            add(translateTerm(kind.word), summary.byKind[i], isKnown);
+    }
     table.print(out, screen);
 }
 
@@ -141,7 +148,7 @@ void printInfo(const Library &library, const Summary &summary, const Screen &scr
 {
     printFacts(library, summary, screen, out);
     out << '\n';
-    printCounts(summary, screen, out);
+    printCounts(library.schema(), summary, screen, out);
     out << '\n';
     printAccount(library, summary, screen, out);
     out << '\n';

@@ -7,13 +7,19 @@ namespace iosphoto::tool {
 
 namespace {
 
-Json counts(const Summary &summary)
+Json counts(const Library &library, const Summary &summary)
 {
+    const ProbedSchema &schema = library.schema();
     Json counts = Json::array();
-    for (std::size_t i = 0; i < photoKinds().size(); ++i)
-        counts.push_back({{"kind", photoKinds()[i].name},
-                          {"count", summary.byKind[i].count},
-                          {"bytes", summary.byKind[i].bytes}});
+    for (std::size_t i = 0; i < photoKinds().size(); ++i) {
+        const PhotoKind &kind = photoKinds()[i];
+        const Tally &tally = summary.byKind[i];
+        const bool isKnown = !schema.isUnknown(kind.key);
+        counts.push_back(
+            {{"kind", kind.name},
+             {"count", isKnown ? Json(tally.count) : Json()},
+             {"bytes", isKnown && !schema.isUnknown("bytes") ? Json(tally.bytes) : Json()}});
+    }
     return counts;
 }
 
@@ -63,10 +69,10 @@ Json infoDocument(const Library &library, const Summary &summary)
     document["isOfMac"] = library.schema().metadata.isOfMac();
     document["albumCount"] = library.albums().size();
     document["photoCount"] = summary.all.count;
-    document["bytes"] = summary.all.bytes;
+    document["bytes"] = library.schema().isUnknown("bytes") ? Json() : Json(summary.all.bytes);
     document["firstCreated"] = timeOrNull(summary.firstCreated);
     document["lastCreated"] = timeOrNull(summary.lastCreated);
-    document["counts"] = counts(summary);
+    document["counts"] = counts(library, summary);
     document["account"] = accountOrNull(library, summary);
     document["log"] = logOrNull(library);
     return document;

@@ -52,6 +52,8 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
         terminal.printWarning(label + line);
     if (library.schema().warning)
         terminal.printWarning(label + inWords(*library.schema().warning).what());
+    if (library.schema().gap)
+        terminal.printWarning(label + inWords(*library.schema().gap).what());
     for (const SourceFinding &finding : library.missing())
         terminal.printWarning(label + inWords(finding).what());
     for (const std::string &sentence :

@@ -97,7 +97,9 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     } else {
         const auto writer =
             makeRowWriter(request.format.format, out, session.terminal.screenOf(out));
-        printPhotos({*writer, rowsHead("photos", library), fields}, photos, rows);
+        printPhotos({*writer, rowsHead("photos", library),
+                     withUnknown(fields, library.schema().unknownFields)},
+                    photos, rows);
     }
     return statusOf(library);
 }

@@ -112,10 +112,11 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
                   "the Photos.sqlite of a phone or backup")},
     {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of no known schema: no iOS from {1} to {2} has these "
-                  "tables; look for a newer iosphoto")},
+                  "tables ({3}); look for a newer iosphoto, or send this output of 'iosphoto info' "
+                  "to its makers")},
     {SchemaProblem::NewerSchema, SchemaDoesNotFit,
-     translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet; look for a "
-                  "newer iosphoto")},
+     translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet ({2}); look "
+                  "for a newer iosphoto, or send this output of 'iosphoto info' to its makers")},
     {SchemaProblem::OtherDevice, SchemaDoesNotFit,
      translatable("'{0}' is a photo database, but not of iOS {1} and {2}; try --ios {3} --product "
                   "{4}")},
@@ -125,6 +126,9 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
     {SchemaProblem::OtherIos, Good,
      translatable("the database has the schema of {0}, not of iOS {1}, and photos may be wrong or "
                   "missing; try --ios {2}")},
+    {SchemaProblem::MissingColumns, Incomplete,
+     translatable("'{0}' has no {1}, so these fields are unknown, and albums that are made by them "
+                  "may be wrong: {2}; look for a newer iosphoto")},
 };
 
 constexpr Wording<OutputProblem> outputWords[] = {
@@ -149,7 +153,7 @@ constexpr bool hasAll(const Wording<Kind> (&wordings)[count], Kind last)
 }
 
 static_assert(hasAll(sourceWords, SourceProblem::IndexIsCutShort));
-static_assert(hasAll(schemaWords, SchemaProblem::OtherIos));
+static_assert(hasAll(schemaWords, SchemaProblem::MissingColumns));
 static_assert(hasAll(outputWords, OutputProblem::Unwritten));
 
 std::string filledIn(const char *english, const std::vector<std::string> &facts)

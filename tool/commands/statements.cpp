@@ -33,14 +33,24 @@ struct Target
     NumberSource numbers;
     std::string assumption; ///< what was filled in that nobody named; empty if nothing was
     std::optional<SchemaFinding> warning;
+    std::optional<SchemaFinding> gap;
+    std::vector<std::string> views; ///< that stand in for tables without all columns
     std::vector<SourceFinding> missing;
+
+    bool isComplete() const { return missing.empty() && !gap; }
 };
 
 Target readTarget(const StatementsRequest &request, Session &session)
 {
     const OpenedCopy copy(session, Source(session, request.source), request.device);
     const ProbedSchema &schema = copy.schema();
-    Target target = {schema.device, {schema.numbers, true}, {}, schema.warning, copy.missing()};
+    Target target = {schema.device,
+                     {schema.numbers, true},
+                     {},
+                     schema.warning,
+                     schema.gap,
+                     viewsWith(schema.missingColumns),
+                     copy.missing()};
     if (schema.isAssumed())
         target.assumption =
             translate("filled in for {0} and {1}", schema.iosText(), schema.productText());
@@ -60,10 +70,9 @@ Target usualTarget(const Device &wanted)
     Device device = wanted;
     if (device.productType.empty())
         device.productType = productThatHidesNoAlbum;
-    return {device,
-            {usualEntityNumbers(device.iosVersion), false},
-            {},
-            warningOfNewer(device.iosVersion),
+    return {device, {usualEntityNumbers(device.iosVersion), false},
+            {},     warningOfNewer(device.iosVersion),
+            {},     {},
             {}};
 }
 
@@ -126,6 +135,10 @@ void printScript(const Target &target, const std::vector<BuildStatement> &statem
                          "them",
                          target.device.iosVersion, target.device.productType))
         << comment(origin(target, statements));
+    if (!target.views.empty())
+        out << '\n' << comment(translate("columns that the database lacks, for this session only"));
+    for (const std::string &view : target.views)
+        out << view << ";\n";
     for (const BuildStatement &statement : statements) {
         out << '\n'
             << comment(translate("pass {0}, statement {1}.sql: {2}", statement.pass, statement.name,
@@ -142,7 +155,8 @@ void printAsJson(const Target &target, const std::vector<BuildStatement> &statem
     Json document = {{"iosVersion", target.device.iosVersion},
                      {"productType", target.device.productType},
                      {"numbersAreRead", target.numbers.areRead},
-                     {"isComplete", target.missing.empty()}};
+                     {"isComplete", target.isComplete()},
+                     {"views", target.views}};
     Json &entries = document["statements"] = Json::array();
     for (const BuildStatement &statement : statements) {
         Json numbers = Json::object();
@@ -167,6 +181,8 @@ void printHowTheyWereMade(const Terminal &terminal, const Target &target,
         terminal.printInfo(target.assumption);
     if (target.warning)
         terminal.printWarning(inWords(*target.warning).what());
+    if (target.gap)
+        terminal.printWarning(inWords(*target.gap).what());
     for (const SourceFinding &finding : target.missing)
         terminal.printWarning(inWords(finding).what());
 }
@@ -178,7 +194,7 @@ ExitStatus showStatements(const StatementsRequest &request, Session &session, st
     const std::vector<BuildStatement> statements = statementsOfBuild(target.device, target.numbers);
     printHowTheyWereMade(session.terminal, target, statements);
     (request.format == Format::JsonDocument ? printAsJson : printScript)(target, statements, out);
-    return target.missing.empty() ? Good : Incomplete;
+    return target.isComplete() ? Good : Incomplete;
 }
 
 } // namespace

@@ -79,6 +79,20 @@ std::vector<Field<Row>> fieldsToShow(const FieldTable<Row> &table, const RowForm
     return format.format == Format::Table ? fieldsOfKeys(table, table.inTables) : factsOf(table);
 }
 
+/// The fields, those of the unknown keys null in every row.
+/// @param group  of the keys, such as "before."; empty for those without one
+template <typename Row>
+std::vector<Field<Row>> withUnknown(std::vector<Field<Row>> fields,
+                                    const std::vector<std::string> &unknownKeys,
+                                    const std::string &group = "")
+{
+    for (Field<Row> &field : fields)
+        for (const std::string &key : unknownKeys)
+            if (field.column.key == group + key)
+                field.value = [](const Row & /*row*/) { return Value(); };
+    return fields;
+}
+
 /// Turns rows of one kind into the values that a writer takes.
 template <typename Row>
 class RowStream

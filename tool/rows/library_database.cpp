@@ -13,27 +13,29 @@ namespace {
 void writeAlbums(SqliteOutput &output, const Library &library)
 {
     SqliteRows writer(output, "index");
-    RowStream<AlbumRow> stream(writer, {"albums", {}, {}}, factsOf(albumFields()));
+    RowStream<AlbumRow> stream(writer, {"albums", {}, {}},
+                               withUnknown(factsOf(albumFields()), library.schema().unknownFields));
     for (const CAlbumGroup &album : library.albums())
         stream.write(AlbumRow(album, library.dates()));
     stream.end();
 }
 
 /// A list is a table of its own.
-std::vector<Field<PhotoRow>> photoColumns()
+std::vector<Field<PhotoRow>> photoColumns(const Library &library)
 {
     std::vector<Field<PhotoRow>> fields = factsOf(photoFields());
     fields.erase(std::remove_if(
                      fields.begin(), fields.end(),
                      [](const Field<PhotoRow> &field) { return field.column.type == Type::List; }),
                  fields.end());
-    return fields;
+    return withUnknown(fields, library.schema().unknownFields);
 }
 
-void writePhotos(SqliteOutput &output, const std::vector<Asset> &photos, const PhotoRows &rows)
+void writePhotos(SqliteOutput &output, const Library &library, const std::vector<Asset> &photos,
+                 const PhotoRows &rows)
 {
     SqliteRows writer(output);
-    RowStream<PhotoRow> stream(writer, {"photos", {}, {}}, photoColumns());
+    RowStream<PhotoRow> stream(writer, {"photos", {}, {}}, photoColumns(library));
     for (const Asset &photo : photos)
         stream.write(rows.of(photo));
     stream.end();
@@ -74,7 +76,7 @@ void writePhotoDatabase(FileUse &files, const std::string &file, const Library &
 {
     SqliteOutput output(files, file, library.name(), libraryHead(library));
     writeAlbums(output, library);
-    writePhotos(output, photos, rows);
+    writePhotos(output, library, photos, rows);
     writeAppearances(output, photos);
     output.finish();
 }

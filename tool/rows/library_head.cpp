@@ -22,7 +22,8 @@ Json libraryHead(const Library &library)
             {"modelVersion", model ? Json(*model) : Json()},
             {"asOf", textOrNull(utcTimeText(library.asOf().time))},
             {"leftOut", library.leftOutOfTrash()},
-            {"isComplete", library.isComplete()}};
+            {"isComplete", library.isComplete()},
+            {"unknownFields", schema.unknownFields}};
 }
 
 Json albumReference(const CAlbumGroup &album)

@@ -13,7 +13,7 @@ namespace {
 constexpr char withoutIos7SubTypes[] = "iPhone3,1";
 
 // clang-format off
-constexpr KnownSchema newestFirst[] = {
+const std::vector<KnownSchema> newestFirst = {
     // first iOS, last, column that is gone, model
     {18, 18},
     {15, 17, "ZCREATORBUNDLEID"},
@@ -58,14 +58,19 @@ const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers 
     return nullptr;
 }
 
+const std::vector<KnownSchema> &knownSchemas()
+{
+    return newestFirst;
+}
+
 const KnownSchema &newestSchema()
 {
-    return *std::begin(newestFirst);
+    return newestFirst.front();
 }
 
 const KnownSchema &oldestSchema()
 {
-    return *std::prev(std::end(newestFirst));
+    return newestFirst.back();
 }
 
 std::optional<SchemaFinding> warningOfNewer(const std::string &iosVersion)

@@ -35,6 +35,9 @@ struct KnownSchema
 /// The newest schema that a database has; null when it has none of those that are known.
 const KnownSchema *findSchema(const CopyDatabase &database, const EntityNumbers &numbers);
 
+/// All of them, the newest first.
+const std::vector<KnownSchema> &knownSchemas();
+
 /// The newest and the oldest of all.
 const KnownSchema &newestSchema();
 const KnownSchema &oldestSchema();

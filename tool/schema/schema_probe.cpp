@@ -2,6 +2,7 @@
 
 #include "formats/versions.h"
 #include "schema/asset_tables.h"
+#include "text/lists.h"
 #include "text/translate.h"
 
 #include <filesystem>
@@ -134,8 +135,9 @@ std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)
     return agree(model, &schema) ? std::to_string(*model) : schema.iosVersion();
 }
 
+/// @param essential  what is missing, in SQLite's words
 SchemaError noFit(const CopyDatabase &database, const ProbedSchema &probed,
-                  const KnownSchema *schema)
+                  const KnownSchema *schema, const std::string &essential)
 {
     if (schema != nullptr)
         return {SchemaProblem::OtherDevice,
@@ -143,10 +145,55 @@ SchemaError noFit(const CopyDatabase &database, const ProbedSchema &probed,
                  fittingIos(probed, *schema), schema->productType}};
     const std::optional<int> major = probed.metadata.iosMajor();
     if (major && *major > newestSchema().lastIos)
-        return {SchemaProblem::NewerSchema, {database.shownName(), std::to_string(*major)}};
+        return {SchemaProblem::NewerSchema,
+                {database.shownName(), std::to_string(*major), essential}};
     return {SchemaProblem::UnknownSchema,
             {database.shownName(), std::to_string(oldestSchema().firstIos),
-             std::to_string(newestSchema().lastIos)}};
+             std::to_string(newestSchema().lastIos), essential}};
+}
+
+/// The system with whose statements the fewest columns are missing, the newest of these.
+std::string nearestIos(const CopyDatabase &database, const ProbedSchema &probed)
+{
+    std::string nearest;
+    std::size_t fewest = 0;
+    for (const KnownSchema &schema : knownSchemas()) {
+        const SchemaGaps gaps =
+            findGaps(database, probed.numbers, {schema.iosVersion(), schema.productType});
+        if (gaps.essential.empty() && (nearest.empty() || gaps.columns.size() < fewest)) {
+            nearest = schema.iosVersion();
+            fewest = gaps.columns.size();
+        }
+    }
+    return nearest;
+}
+
+/// "ZASSET.ZHIDDEN, ZASSET.ZFAVORITE"
+std::string columnNames(const std::vector<MissingColumn> &columns)
+{
+    return joinedTexts(columns, ", ", [](const MissingColumn &column) {
+        return column.table + "." + column.column->name;
+    });
+}
+
+/// Reads on without the columns of which no known schema lacks all.
+void fillGaps(const CopyDatabase &database, ProbedSchema &probed, const KnownSchema *schema)
+{
+    if (probed.device.iosVersion.empty()) {
+        const std::string nearest = nearestIos(database, probed);
+        probed.device.iosVersion = nearest.empty() ? newestSchema().iosVersion() : nearest;
+        probed.iosOrigin = DeviceOrigin::Schema;
+        probed.iosWhy = translate("the nearest by its tables and columns");
+    }
+    const SchemaGaps gaps = addMissingColumns(database, probed.numbers, probed.device);
+    if (!gaps.essential.empty())
+        throw noFit(database, probed, schema, gaps.essential);
+    probed.missingColumns = gaps.columns;
+    probed.unknownFields = fieldsLostWith(gaps.columns, probed.device.iosVersion);
+    if (!probed.unknownFields.empty())
+        probed.gap = SchemaFinding{SchemaProblem::MissingColumns,
+                                   {database.shownName(), columnNames(gaps.columns),
+                                    joinedTexts(probed.unknownFields, ", ")}};
 }
 
 std::string withReason(const std::string &what, const std::string &why)
@@ -160,6 +207,11 @@ const char *machineName(DeviceOrigin origin)
 {
     constexpr const char *names[] = {"user", "source", "schema", "assumption"};
     return names[static_cast<int>(origin)];
+}
+
+bool ProbedSchema::isUnknown(const std::string &field) const
+{
+    return std::find(unknownFields.begin(), unknownFields.end(), field) != unknownFields.end();
 }
 
 std::string ProbedSchema::iosText() const
@@ -183,8 +235,11 @@ ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const Rec
     const KnownSchema *const schema = findSchema(database, probed.numbers);
     decideIos(probed, wanted, says, schema);
     decideProduct(probed, wanted, says, schema);
-    if (probed.device.iosVersion.empty() || !statementsFit(database, probed.numbers, probed.device))
-        throw noFit(database, probed, schema);
+    const bool mayBeAMistake = schema != nullptr && probed.iosOrigin == DeviceOrigin::User;
+    if (!mayBeAMistake)
+        fillGaps(database, probed, schema);
+    else if (!statementsFit(database, probed.numbers, probed.device))
+        throw noFit(database, probed, schema, "");
     probed.warning = disagreement(probed, schema);
     probed.name = schema != nullptr ? schema->name() : "iOS " + probed.device.iosVersion;
     probed.shownName = schema != nullptr ? schema->shownName() : probed.name;

@@ -4,6 +4,7 @@
 #include "input/library_layout.h"
 #include "schema/device.h"
 #include "schema/known_schemas.h"
+#include "schema/missing_columns.h"
 #include "schema/schema_problem.h"
 #include "schema/store_metadata.h"
 #include "sqlite/copy_database.h"
@@ -28,19 +29,26 @@ struct ProbedSchema
     std::string iosWhy;    ///< where the version comes from; empty if the user named it
     std::string deviceWhy; ///< likewise the product type
     std::optional<SchemaFinding> warning; ///< that version and schema disagree
+    std::optional<SchemaFinding> gap;     ///< that fields are unknown
     std::string name;      ///< of the schema, such as "iOS 15 to 17", for machines in English
     std::string shownName; ///< the same for people
     StoreMetadata metadata;
     EntityNumbers numbers;
+    std::vector<MissingColumn> missingColumns; ///< that the private copy was given
+    std::vector<std::string> unknownFields;    ///< the keys of the fields that are lost with them
 
     /// Whether the user left anything of the device open.
     bool isAssumed() const { return !(iosWhy.empty() && deviceWhy.empty()); }
+    bool isUnknown(const std::string &field) const;
     std::string iosText() const;     ///< such as "iOS 15.7 (Info.plist)"
     std::string productText() const; ///< such as "iPhone14,2 (hides no album)"
 };
 
 /// Makes sure that a database is a photo database whose statements run, and decides which device
 /// to read it as: what the user wants, else what the source says, else what the schema says.
+///
+/// Where no known schema fits but for columns without which the rest can be read, these are added
+/// to the private copy.
 ///
 /// Throws SchemaError when the database is something else or does not fit the device, and Failure
 /// when it cannot be read.

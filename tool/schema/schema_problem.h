@@ -13,11 +13,12 @@ enum class SchemaProblem {
     TooOld,         ///< database, the first and the last iOS that are known
     NoPhotoLibrary, ///< database
     OtherTables,    ///< database
-    UnknownSchema,  ///< as of TooOld
-    NewerSchema,    ///< database, its iOS
+    UnknownSchema,  ///< as of TooOld, and what is missing
+    NewerSchema,    ///< database, its iOS, what is missing
     OtherDevice,    ///< database, iOS, model, the iOS and the model that it fits
     ReadLikeNewest, ///< iOS, the newest that is known
     OtherIos,       ///< the schema, iOS, the iOS to try
+    MissingColumns, ///< database, the columns, the fields that are unknown for that reason
 };
 
 using SchemaFinding = Finding<SchemaProblem>;

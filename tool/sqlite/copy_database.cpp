@@ -106,6 +106,17 @@ bool CopyDatabase::prepares(const std::string &statement) const
     return prepare(statement) != nullptr;
 }
 
+std::string CopyDatabase::misfitOf(const std::string &statement) const
+{
+    return prepares(statement) ? "" : sqlite3_errmsg(connection_.get());
+}
+
+void CopyDatabase::execute(const std::string &statement) const
+{
+    if (sqlite3_exec(connection_.get(), statement.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw unreadable();
+}
+
 void CopyDatabase::forEachRow(const std::string &query,
                               const std::function<void(const QueryRow &)> &take,
                               const std::vector<std::string> &values) const

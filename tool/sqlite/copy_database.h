@@ -56,6 +56,11 @@ public:
     /// Whether a statement fits the schema. Throws Failure when that cannot be told.
     bool prepares(const std::string &statement) const;
 
+    /// Why a statement does not fit the schema, in SQLite's words; empty where it does. Throws
+    /// Failure when that cannot be told.
+    std::string misfitOf(const std::string &statement) const;
+    /// Changes the copy. Throws Failure when that fails.
+    void execute(const std::string &statement) const;
     /// Hands each row of a query to `take`. A query that does not fit the schema has no rows.
     /// Throws Failure when the reading fails.
     /// @param values  for the places of the query

@@ -2,8 +2,11 @@
 
 #include "text/translate.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <iterator>
+#include <map>
 
 namespace iosphoto::tool {
 
@@ -110,6 +113,18 @@ std::optional<std::int32_t> NumberSource::operator[](const EntityNumberName &nam
 {
     const std::int32_t number = numbers.*name.number;
     return areRead || number != 0 ? std::make_optional(number) : std::nullopt;
+}
+
+std::vector<std::string> viewsWith(const std::vector<MissingColumn> &missing)
+{
+    std::map<std::string, std::string> columns; // of each table
+    for (const MissingColumn &each : missing)
+        columns[each.table] += fmt::format(", {} as {}", each.column->standIn, each.column->name);
+    std::vector<std::string> views;
+    for (const auto &[table, more] : columns)
+        views.push_back(
+            fmt::format("create temp view {0} as select *{1} from main.{0}", table, more));
+    return views;
 }
 
 std::vector<BuildStatement> statementsOfBuild(const Device &device, const NumberSource &numbers)

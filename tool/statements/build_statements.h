@@ -4,6 +4,7 @@
 
 #include "model/statements/statement_tables.h"
 #include "schema/device.h"
+#include "schema/missing_columns.h"
 
 #include <optional>
 #include <string>
@@ -42,6 +43,10 @@ struct BuildStatement
     std::string sql;
     std::vector<const EntityNumberName *> numbers; ///< that it is filled in with, each once
 };
+
+/// Temporary views that give tables the columns that a database lacks, so that the statements run
+/// on it unchanged.
+std::vector<std::string> viewsWith(const std::vector<MissingColumn> &missing);
 
 /// In the order in which a build runs them.
 std::vector<BuildStatement> statementsOfBuild(const Device &device, const NumberSource &numbers);

@@ -1,0 +1,105 @@
+#include "schema/missing_columns.h"
+
+#include "formats/versions.h"
+#include "schema/asset_tables.h"
+#include "schema/known_schemas.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <optional>
+
+namespace iosphoto::tool {
+
+namespace {
+
+constexpr char attributes[] = "ZADDITIONALASSETATTRIBUTES";
+constexpr char albums[] = "ZGENERICALBUM";
+
+/// The table of a qualified name such as "ZASSET.ZHIDDEN".
+std::optional<TableOfColumns> tableNamed(const CopyDatabase &database, const std::string &name)
+{
+    if (name == attributes)
+        return TableOfColumns::Attributes;
+    if (name == albums)
+        return TableOfColumns::Albums;
+    return name == assetTableOf(database) ? std::optional(TableOfColumns::Assets) : std::nullopt;
+}
+
+std::string nameOf(const CopyDatabase &database, TableOfColumns table)
+{
+    if (table == TableOfColumns::Attributes)
+        return attributes;
+    return table == TableOfColumns::Albums ? albums : assetTableOf(database);
+}
+
+/// The column that SQLite says it misses; nothing where it is essential, or something else is
+/// wrong.
+std::optional<MissingColumn> columnMissedBy(const CopyDatabase &database, const std::string &words)
+{
+    const std::string beginning = "no such column: ";
+    if (words.compare(0, beginning.size(), beginning) != 0)
+        return std::nullopt;
+    const std::string name = words.substr(beginning.size());
+    const std::size_t dot = name.find('.');
+    const auto table = tableNamed(database, name.substr(0, std::min(dot, name.size())));
+    const OptionalColumn *column = nullptr;
+    if (dot == std::string::npos)
+        column = findOptionalColumn(name);
+    else if (table)
+        column = findOptionalColumn(*table, name.substr(dot + 1));
+    if (column == nullptr)
+        return std::nullopt;
+    return MissingColumn{nameOf(database, column->table), column};
+}
+
+void add(const CopyDatabase &database, const MissingColumn &missing)
+{
+    database.execute(fmt::format("alter table {} add column {} default {}", missing.table,
+                                 missing.column->name, missing.column->standIn));
+}
+
+} // namespace
+
+SchemaGaps addMissingColumns(const CopyDatabase &database, const EntityNumbers &numbers,
+                             const Device &device)
+{
+    SchemaGaps gaps;
+    for (const StatementVariant *const variant : statementsFor(device)) {
+        const std::string statement = filledIn(*variant, numbers).toStdString();
+        for (std::string words = database.misfitOf(statement); !words.empty();
+             words = database.misfitOf(statement)) {
+            const auto missing = columnMissedBy(database, words);
+            if (!missing || database.hasColumn(missing->table, missing->column->name)) {
+                gaps.essential = words;
+                return gaps;
+            }
+            add(database, *missing);
+            gaps.columns.push_back(*missing);
+        }
+    }
+    return gaps;
+}
+
+SchemaGaps findGaps(const CopyDatabase &database, const EntityNumbers &numbers,
+                    const Device &device)
+{
+    database.execute("begin");
+    const SchemaGaps gaps = addMissingColumns(database, numbers, device);
+    database.execute("rollback");
+    return gaps;
+}
+
+std::vector<std::string> fieldsLostWith(const std::vector<MissingColumn> &missing,
+                                        const std::string &iosVersion)
+{
+    std::vector<std::string> lost;
+    for (const MissingColumn &each : missing)
+        if (firstNumber(iosVersion) <= each.column->lastIos)
+            for (const char *const field : each.column->fields)
+                if (std::find(lost.begin(), lost.end(), field) == lost.end())
+                    lost.emplace_back(field);
+    return lost;
+}
+
+} // namespace iosphoto::tool

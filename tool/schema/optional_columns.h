@@ -1,0 +1,34 @@
+/// The columns that the statements read and a library can be read without.
+#ifndef IOSPHOTO_TOOL_OPTIONAL_COLUMNS_H
+#define IOSPHOTO_TOOL_OPTIONAL_COLUMNS_H
+
+#include <string>
+#include <vector>
+
+namespace iosphoto::tool {
+
+/// A table whose columns the statements read.
+enum class TableOfColumns { Assets, Attributes, Albums };
+
+struct OptionalColumn
+{
+    TableOfColumns table;
+    const char *name;
+    /// What stands in every row where the column is missing, in SQL: nothing, or what keeps the
+    /// statements from leaving all rows out.
+    const char *standIn;
+    std::vector<const char *> fields; ///< the keys of fields that cannot be known without it
+    int lastIos;                      ///< in which it decides on them
+};
+
+/// Null for a column that is none of them, as nothing can be read without it.
+const OptionalColumn *findOptionalColumn(TableOfColumns table, const std::string &name);
+
+/// The same by the name alone, of whichever table the statements read it.
+const OptionalColumn *findOptionalColumn(const std::string &name);
+
+const std::vector<OptionalColumn> &optionalColumns();
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_OPTIONAL_COLUMNS_H
