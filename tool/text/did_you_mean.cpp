@@ -3,11 +3,18 @@
 #include "text/translate.h"
 
 #include <algorithm>
+#include <cctype>
 #include <numeric>
 
 namespace iosphoto::tool {
 
 namespace {
+
+bool isSameLetter(char one, char other)
+{
+    const auto small = [](char letter) { return std::tolower(static_cast<unsigned char>(letter)); };
+    return small(one) == small(other);
+}
 
 /// The letters that have to be added, left out or replaced to make one word the other.
 std::size_t editDistance(const std::string &one, const std::string &other)
@@ -17,7 +24,7 @@ std::size_t editDistance(const std::string &one, const std::string &other)
     for (std::size_t i = 0; i < one.size(); ++i) {
         std::size_t diagonal = row[0]++;
         for (std::size_t j = 0; j < other.size(); ++j) {
-            const std::size_t replaced = diagonal + (one[i] == other[j] ? 0 : 1);
+            const std::size_t replaced = diagonal + (isSameLetter(one[i], other[j]) ? 0 : 1);
             diagonal = row[j + 1];
             row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
         }
