@@ -49,10 +49,9 @@ private:
     bool fitsAny(const QString &name) const
     {
         const std::string text = folded(name);
-        return std::any_of(
-            patterns_.begin(), patterns_.end(), [&](const std::string &pattern) {
-                return sqlite3_strglob(pattern.c_str(), text.c_str()) == 0;
-            });
+        return std::any_of(patterns_.begin(), patterns_.end(), [&](const std::string &pattern) {
+            return sqlite3_strglob(pattern.c_str(), text.c_str()) == 0;
+        });
     }
 
     std::vector<std::string> patterns_;
@@ -197,9 +196,8 @@ std::string missingUuid(const PhotoFilter &filter, const std::vector<const Asset
         for (std::size_t i = 0; i < list->size() && !missing.empty(); ++i)
             missing.erase(comparable((*list)[i].uuid()));
     const auto found =
-        std::find_if(filter.uuids.begin(), filter.uuids.end(), [&](const std::string &uuid) {
-            return missing.count(comparable(uuid)) > 0;
-        });
+        std::find_if(filter.uuids.begin(), filter.uuids.end(),
+                     [&](const std::string &uuid) { return missing.count(comparable(uuid)) > 0; });
     return found != filter.uuids.end() ? *found : "";
 }
 
@@ -213,10 +211,10 @@ std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
     for (std::size_t i = 0; i < assets.size(); ++i) {
         const Asset asset = assets[i];
         if ((uuids.empty() || uuids.count(comparable(asset.uuid())) > 0) &&
-            (filter.albums.empty() || isShownBy(asset, albums)) && matchesTime(filter, library, asset) &&
-            matchesKinds(filter, asset) && matchesFlags(filter, asset) &&
-            matchesTrash(filter, library, asset) && names.fit(asset) &&
-            (!filter.isWanted || filter.isWanted(asset)))
+            (filter.albums.empty() || isShownBy(asset, albums)) &&
+            matchesTime(filter, library, asset) && matchesKinds(filter, asset) &&
+            matchesFlags(filter, asset) && matchesTrash(filter, library, asset) &&
+            names.fit(asset) && (!filter.isWanted || filter.isWanted(asset)))
             matching.push_back(asset);
     }
     return matching;

@@ -12,8 +12,8 @@ struct PhotoFilter
 {
     std::vector<std::string> albums; ///< names, kinds or uuids, if any; see matchingAlbums()
     std::vector<std::string> uuids;  ///< any of them, if there are some
-    std::vector<std::string> names;  ///< likewise; patterns with * ? [a-z], whatever case of letters
-    std::optional<UnixTime> since;   ///< of its creation
+    std::vector<std::string> names; ///< likewise; patterns with * ? [a-z], whatever case of letters
+    std::optional<UnixTime> since;  ///< of its creation
     std::optional<UnixTime> until;
     std::vector<KindTest> kinds; ///< any of them, if there are some
     bool isDeleted = false;
@@ -24,8 +24,8 @@ struct PhotoFilter
     KindTest isWanted; ///< whatever else is asked for; asked last
 };
 
-/// The albums that match `wanted`, in the catalogue's order: by the catalogue's name or that which a
-/// person sees, by their kind (its machine name, name in English or in the current language, or
+/// The albums that match `wanted`, in the catalogue's order: by the catalogue's name or that which
+/// a person sees, by their kind (its machine name, name in English or in the current language, or
 /// number) or by their uuid, letter case aside.
 std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const std::string &wanted);
 

@@ -54,8 +54,8 @@ Command addAlbums(CLI::App &app)
     addLibraryOptions(*command, request->library);
     addRowFormatOptions(*command, request->format);
     command->footer(helpFooter(
-        {listOfFields(keysOf(albumFields())),
-         kindsOfTimes(), examples({"iosphoto albums Photos.sqlite", "iosphoto albums Photos.sqlite --csv",
+        {listOfFields(keysOf(albumFields())), kindsOfTimes(),
+         examples({"iosphoto albums Photos.sqlite", "iosphoto albums Photos.sqlite --csv",
                    "iosphoto albums Photos.sqlite --fields name,count,bytes"}),
          exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {

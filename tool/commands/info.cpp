@@ -186,7 +186,8 @@ Command addInfo(CLI::App &app)
                             "together"))
         ->excludes(json);
     command->footer(
-        helpFooter({kindsOfTimes(), examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),
+        helpFooter({kindsOfTimes(),
+                    examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),
                     exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {
                 return showInfo(*request, session, out);

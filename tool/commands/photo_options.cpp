@@ -68,7 +68,8 @@ void addNames(CLI::App &command, PhotoFilter &filter)
                                   translate("only files of this name, now or when they were "
                                             "imported, such as 'IMG_00*.HEIC'; may be given "
                                             "several times")))
-        .type_name(translate("GLOB"));
+        .type_name(translate("GLOB"))
+        ->check(notEmpty());
 }
 
 void addKinds(CLI::App &command, PhotoFilter &filter)

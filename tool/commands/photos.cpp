@@ -78,8 +78,9 @@ void requireUuids(const PhotoFilter &filter, const std::vector<const AssetList *
                   const Library &library)
 {
     if (const std::string missing = missingUuid(filter, lists); !missing.empty())
-        throw Failure(WrongUsage, translate("no photo has the uuid '{0}'; 'iosphoto photos {1} "
-                                            "--fields uuid,path' lists them",
+        throw Failure(WrongUsage, translate("no photo of the catalogue has the uuid '{0}'; "
+                                            "'iosphoto photos {1} --frames --fields uuid,path' "
+                                            "lists them",
                                             missing, library.name()));
 }
 
@@ -161,8 +162,8 @@ Command addPhotos(CLI::App &app)
     addWhere(*command, request->where);
     addRowFormatOptions(*command, request->format);
     command->footer(helpFooter(
-        {listOfFields(keysOf(photoFields())),
-         kindsOfTimes(), examples({"iosphoto photos Photos.sqlite --album Favorites --album Selfies",
+        {listOfFields(keysOf(photoFields())), kindsOfTimes(),
+         examples({"iosphoto photos Photos.sqlite --album Favorites --album Selfies",
                    "iosphoto photos Photos.sqlite --album \"Summer 2019\" --json",
                    "iosphoto photos Photos.sqlite --since 2024-05 --kind live,portrait",
                    "iosphoto photos Photos.sqlite --since 7d --name 'IMG_*.HEIC'",

@@ -157,7 +157,7 @@ constexpr Wording<ConditionProblem> conditionWords[] = {
      translatable("--where: {0}; write an expression such as \"fileSize > 10000000 and width > "
                   "height\"")},
     {ConditionProblem::TooMuchWork, WrongUsage,
-     translatable("--where: '{0}' takes too much work for a photo; write a simpler one")},
+     translatable("--where: the expression takes too much work for a photo; write a simpler one")},
 };
 
 /// Whether a table has words for every kind up to the last, in their order.

@@ -5,6 +5,7 @@
 #include "text/translate.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
 
 namespace iosphoto::tool {
@@ -139,8 +140,12 @@ std::string wrongCommand(const CLI::App &app)
     const std::vector<std::string> left = app.remaining();
     if (left.empty())
         return translate("a command is required");
-    return left.front().compare(0, 1, "-") == 0 ? unexpected(app)
-                                                : translate("'{0}' is neither a command nor a file that is there", left.front());
+    if (left.front().compare(0, 1, "-") == 0)
+        return unexpected(app);
+    std::error_code ignored;
+    return std::filesystem::exists(left.front(), ignored)
+               ? translate("'{0}' is not a command", left.front())
+               : translate("'{0}' is neither a command nor a file that is there", left.front());
 }
 
 /// The options of the program and of the command that is asked for.

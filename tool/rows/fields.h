@@ -36,7 +36,8 @@ struct FieldTable
 {
     std::vector<Field<Row>> fields;
     std::vector<std::string> inTables; ///< the keys that tables show unless others are chosen
-    std::vector<std::string> spare; ///< of these, those that narrow tables do without, first to last
+    std::vector<std::string>
+        spare; ///< of these, those that narrow tables do without, first to last
 };
 
 /// The fields that are no mere views of others.

@@ -16,7 +16,7 @@ namespace iosphoto::tool {
 namespace {
 
 constexpr int stepsOfATurn = 1000;
-constexpr int mostTurnsOfAPhoto = 10'000;
+constexpr int mostTurnsOfAPhoto = 100;
 
 /// Functions that do more than compute, where SQLite was built with them.
 constexpr const char *reachingOut[] = {"load_extension", "fts3_tokenizer", "readfile",
@@ -24,9 +24,9 @@ constexpr const char *reachingOut[] = {"load_extension", "fts3_tokenizer", "read
 
 bool onlyComputes(const char *function)
 {
-    return std::none_of(
-        std::begin(reachingOut), std::end(reachingOut),
-        [&](const char *reaching) { return sqlite3_stricmp(function, reaching) == 0; });
+    return std::none_of(std::begin(reachingOut), std::end(reachingOut), [&](const char *reaching) {
+        return sqlite3_stricmp(function, reaching) == 0;
+    });
 }
 
 std::string placesFor(std::size_t values)
@@ -124,7 +124,7 @@ ConditionError PhotoCondition::errorOf(int code) const
     case SQLITE_AUTH:
         return {ConditionProblem::NotAllowed, {expression_}};
     case SQLITE_INTERRUPT:
-        return {ConditionProblem::TooMuchWork, {expression_}};
+        return {ConditionProblem::TooMuchWork, {}};
     default:
         break;
     }

@@ -16,7 +16,7 @@ enum class ConditionProblem {
     NotAllowed,  ///< the condition
     NotOne,      ///< the condition
     Wrong,       ///< what SQLite says
-    TooMuchWork, ///< the condition
+    TooMuchWork, ///< none
 };
 
 using ConditionError = FindingError<ConditionProblem>;

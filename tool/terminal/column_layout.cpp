@@ -39,8 +39,7 @@ ColumnWidths withoutSpare(const std::vector<ColumnNeeds> &columns, std::size_t l
 
 } // namespace
 
-std::optional<ColumnWidths> widthsThatFit(const std::vector<ColumnNeeds> &columns,
-                                          std::size_t room)
+std::optional<ColumnWidths> widthsThatFit(const std::vector<ColumnNeeds> &columns, std::size_t room)
 {
     std::size_t mostRank = 0;
     for (const ColumnNeeds &column : columns)

@@ -104,9 +104,9 @@ void TextTable::printWhatIsLeftOut(std::ostream &out, const Screen &screen,
     if (leftOut.empty())
         return;
     out << '\n';
-    printParagraph(out, screen,
-                   translate("columns for which the terminal is too narrow: {0}",
-                             listForPeople(leftOut)));
+    printParagraph(
+        out, screen,
+        translate("columns for which the terminal is too narrow: {0}", listForPeople(leftOut)));
 }
 
 std::string TextTable::line(const Row &row, const ColumnWidths &widths) const
@@ -116,9 +116,8 @@ std::string TextTable::line(const Row &row, const ColumnWidths &widths) const
         if (!widths[i])
             continue;
         line += line.empty() ? "" : gap;
-        const std::string cell = columns_[i].isList
-                                     ? shownItems(row[i], *widths[i])
-                                     : elided(row[i], *widths[i], columns_[i].elide);
+        const std::string cell = columns_[i].isList ? shownItems(row[i], *widths[i])
+                                                    : elided(row[i], *widths[i], columns_[i].elide);
         line += padded(cell, *widths[i], columns_[i].align == Align::Right);
     }
     return line.erase(line.find_last_not_of(' ') + 1);

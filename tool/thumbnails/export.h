@@ -12,8 +12,8 @@ namespace iosphoto::tool {
 /// Files that an export wrote, by the index of the thumbnail or the number of the sheet.
 using WrittenFiles = std::map<int, std::string>;
 
-/// Whether a file that is there gives way. Where it does not, an export throws FileIsThere before it
-/// writes anything.
+/// Whether a file that is there gives way. Where it does not, an export throws FileIsThere before
+/// it writes anything.
 enum class IfThere { Refuse, Replace };
 
 /// Writes a thumbnail: BMP as the library decodes it, or PNG where the file's name says so. Throws

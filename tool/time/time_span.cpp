@@ -15,9 +15,9 @@ TimeSpan spanOf(const QDateTime &first, const QDateTime &last)
 /// From the beginning of a day to the end of another; nothing where one is no day.
 std::optional<TimeSpan> spanOfDays(const QDate &first, const QDate &last)
 {
-    return first.isValid() && last.isValid()
-               ? std::make_optional(spanOf(first.startOfDay(), last.endOfDay()))
-               : std::nullopt;
+    if (!first.isValid() || !last.isValid())
+        return std::nullopt;
+    return spanOf(first.startOfDay(), last.addDays(1).startOfDay().addSecs(-1));
 }
 
 std::optional<TimeSpan> parseYear(const QString &text)

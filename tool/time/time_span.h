@@ -8,7 +8,8 @@
 
 namespace iosphoto::tool {
 
-/// A time that somebody wrote: from its first second to its last, which for a year are a year apart.
+/// A time that somebody wrote: from its first second to its last, which for a year are a year
+/// apart.
 struct TimeSpan
 {
     UnixTime first;
