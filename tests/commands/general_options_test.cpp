@@ -172,7 +172,8 @@ TEST(ToolGeneralOptions, QuietKeepsWhatIsLeftOutOfTheTrash)
     library.asset("IMG_0001.JPG").trashedAt(0);
     const ToolRun run = runTool({"photos", library.path(), "--as-of", "2020-01-10", "--quiet"});
     EXPECT_EQ(run.error,
-              "iosphoto: left out since they were in the trash for 30 days: 1 (see --as-of)\n");
+              "iosphoto: left out: 1 in the trash for 30 days; iosphoto photos --left-out lists "
+              "them\n");
 }
 
 TEST(ToolGeneralOptions, QuietKeepsThatAScriptIsNotFilledIn)

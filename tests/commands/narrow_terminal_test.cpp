@@ -111,8 +111,8 @@ namespace {
 void fillWithWideCells(LibraryBuilder &library)
 {
     const AlbumRow trip = library.album("A journey around the whole world");
-    for (int i = 0; i < 12; ++i)
-        library.asset("IMG_" + std::to_string(1000 + i) + ".HEIC")
+    const auto add = [&](const std::string &name) {
+        return library.asset(name)
             .in(trip)
             .set("ZFAVORITE", 1)
             .set("ZHASADJUSTMENTS", 1)
@@ -120,7 +120,11 @@ void fillWithWideCells(LibraryBuilder &library)
             .set("ZWIDTH", 12000)
             .set("ZHEIGHT", 9000)
             .set("ZORIGINALFILESIZE", 1'023'900'000);
-    library.asset("IMG_2000.HEIC").trashedAt(600'000'000);
+    };
+    for (int i = 0; i < 12; ++i)
+        add("IMG_" + std::to_string(1000 + i) + ".HEIC");
+    add("IMG_2000.HEIC").trashedAt(600'000'000);
+    add("IMG_3000.HEIC").trashedAt(0); // left out
 }
 
 std::string shownAt80(const LibraryBuilder &library, const std::vector<std::string> &command,
@@ -138,8 +142,11 @@ TEST(TerminalOf80Columns, ShowsAlbumsAndPhotosAsTables)
 {
     LibraryBuilder library(ios15);
     fillWithWideCells(library);
-    const std::vector<std::vector<std::string>> commands = {
-        {"albums"}, {"photos"}, {"photos", "--deleted"}};
+    const std::vector<std::vector<std::string>> commands = {{"albums"},
+                                                            {"photos"},
+                                                            {"photos", "--deleted"},
+                                                            {"photos", "--left-out"},
+                                                            {"photos", "--with-left-out"}};
     for (const std::vector<std::string> &command : commands)
         for (const char *zone : {"UTC", "Asia/Kathmandu"})
             for (const char *language : {"en", "zh"}) {

@@ -53,7 +53,7 @@ TEST_F(Where, NamesTheColumnsWhereThereIsNoSuchOne)
 {
     const ToolRun run = photos("fileNam = 'x'");
     expectFailure(run, "--where: there is no column 'fileNam'; there are uuid, assetId, ", 2);
-    EXPECT_THAT(run.error, HasSubstr(", isInPhotoStream; did you mean 'fileName'?\n"));
+    EXPECT_THAT(run.error, HasSubstr("; did you mean 'fileName'?\n"));
     EXPECT_EQ(photos("\"fileNam\" = 'x'"), run);
     expectFailure(photos("id = 1"), "--where: there is no column 'id'; there are uuid, ", 2);
 }

@@ -29,24 +29,35 @@ bool onlyComputes(const char *function)
     });
 }
 
-std::string placesFor(std::size_t values)
+/// Inserts a row with values for some columns.
+std::string insertionOf(const std::vector<Field<PhotoRow>> &fields)
 {
-    return joinedTexts(std::vector<std::string>(values, "?"), ", ");
+    if (fields.empty())
+        return "insert into photos default values";
+    const auto name = [](const auto &field) { return quotedName(field.column.key); };
+    const auto place = [](const auto & /*field*/) { return "?"; };
+    return "insert into photos (" + joinedTexts(fields, ", ", name) + ") values (" +
+           joinedTexts(fields, ", ", place) + ")";
 }
 
 } // namespace
 
 PhotoCondition::PhotoCondition(std::string expression)
-    : expression_(std::move(expression)), fields_(photoColumns()), made_(fields_.size())
+    : expression_(std::move(expression)), columns_(photoColumns()), isRead_(columns_.size())
 {
     open();
     sqlite3_set_authorizer(connection_.get(), judge, this); // before what it would expire
-    insert_ = prepareOwn("insert into photos values (" + placesFor(fields_.size()) + ")");
-    remove_ = prepareOwn("delete from photos");
     isForeign_ = true;
     // What is right with brackets around it and without is one expression, not "1) union (...".
     select_ = prepareForeign("select 1 from photos where " + expression_ + "\n");
     select_ = prepareForeign("select 1 from photos where (" + expression_ + "\n)");
+    isForeign_ = false;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (isRead_[i])
+            fields_.push_back(columns_[i]);
+    made_.resize(fields_.size());
+    insert_ = prepareOwn(insertionOf(fields_));
+    remove_ = prepareOwn("delete from photos");
 }
 
 void PhotoCondition::open()
@@ -63,7 +74,7 @@ void PhotoCondition::open()
     sqlite3_drop_modules(connection, nullptr);
     sqlite3_progress_handler(connection, stepsOfATurn, countTurn, this);
     const std::string columns = joinedTexts(
-        fields_, ", ", [](const auto &field) { return columnDefinition(field.column); });
+        columns_, ", ", [](const auto &field) { return columnDefinition(field.column); });
     run(prepareOwn("create table photos (" + columns + ")"));
 }
 
@@ -133,8 +144,8 @@ ConditionError PhotoCondition::errorOf(int code) const
     if (message.rfind(noColumn, 0) != 0)
         return {ConditionProblem::Wrong, {sqliteError(connection_.get())}};
     std::vector<std::string> facts = {message.substr(noColumn.size())};
-    for (const Field<PhotoRow> &field : fields_)
-        facts.push_back(field.column.key);
+    for (const Field<PhotoRow> &column : columns_)
+        facts.push_back(column.column.key);
     return {ConditionProblem::NoColumn, std::move(facts)};
 }
 
@@ -147,13 +158,26 @@ int PhotoCondition::judge(void *self, int action, const char * /*object*/, const
     switch (action) {
     case SQLITE_SELECT: // the one that the expression stands in
         return condition.queries_++ == 0 ? SQLITE_OK : SQLITE_DENY;
-    case SQLITE_READ: // a row has no number here that it would have elsewhere
-        return sqlite3_stricmp(detail, "rowid") != 0 ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_READ:
+        return condition.noteReading(detail) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_FUNCTION:
         return onlyComputes(detail) ? SQLITE_OK : SQLITE_DENY;
     default:
         return SQLITE_DENY;
     }
+}
+
+/// Returns whether that is allowed: a row has a number too, but elsewhere it would be another one.
+bool PhotoCondition::noteReading(const char *name) noexcept
+{
+    if (*name == '\0') // the table, but none of its columns
+        return true;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (columns_[i].column.key == name) {
+            isRead_[i] = true;
+            return true;
+        }
+    return false;
 }
 
 int PhotoCondition::countTurn(void *self) noexcept

@@ -37,6 +37,7 @@ public:
 private:
     static int judge(void *self, int action, const char *object, const char *detail,
                      const char *schema, const char *context) noexcept;
+    bool noteReading(const char *name) noexcept;
     static int countTurn(void *self) noexcept;
 
     void open();
@@ -46,10 +47,12 @@ private:
     ConditionError errorOf(int code) const;
 
     std::string expression_;
-    std::vector<Field<PhotoRow>> fields_;
-    bool isForeign_ = false; ///< whether what is prepared holds the expression
-    int queries_ = 0;        ///< in the statement that is prepared
-    int turns_ = 0;          ///< of work on the photo that is looked at
+    std::vector<Field<PhotoRow>> columns_;
+    std::vector<bool> isRead_;            ///< of each column, whether the expression does
+    std::vector<Field<PhotoRow>> fields_; ///< those columns
+    bool isForeign_ = false;              ///< whether what is prepared holds the expression
+    int queries_ = 0;                     ///< in the statement that is prepared
+    int turns_ = 0;                       ///< of work on the photo that is looked at
     SqliteConnection connection_;
     SqliteStatement insert_;
     SqliteStatement select_;
