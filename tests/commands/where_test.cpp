@@ -49,6 +49,15 @@ TEST_F(Where, SelectsAsAQueryOfTheDatabaseDoes)
     }
 }
 
+TEST_F(Where, FindsNullWhereTheDatabaseDoesNotTell)
+{
+    library_.execute("alter table ZASSET drop column ZFAVORITE");
+    const ToolRun run = runTool({"photos", library_.path(), "--where", "isFavorite is null",
+                                 "--fields", "fileName", "--quiet"});
+    EXPECT_EQ(run.out, "fileName\n1.JPG\n2.MOV\n3.JPG\n");
+    EXPECT_EQ(run.status, 1);
+}
+
 TEST_F(Where, NamesTheColumnsWhereThereIsNoSuchOne)
 {
     const ToolRun run = photos("fileNam = 'x'");

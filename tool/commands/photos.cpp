@@ -84,9 +84,14 @@ void requireUuids(const PhotoFilter &filter, const std::vector<const AssetList *
                                             missing, library.name()));
 }
 
-std::unique_ptr<PhotoCondition> conditionOf(const PhotosRequest &request)
+/// Whether a photo fulfils --where; empty where that is not given.
+KindTest conditionOf(const PhotosRequest &request, const Library &library, const PhotoRows &rows)
 {
-    return request.where ? std::make_unique<PhotoCondition>(*request.where) : nullptr;
+    if (!request.where)
+        return {};
+    const auto condition = std::make_shared<PhotoCondition>(
+        *request.where, withUnknown(photoColumns(), library.schema().unknownFields));
+    return [condition, &rows](const Asset &photo) { return condition->isMetBy(rows.of(photo)); };
 }
 
 /// @param count  of the photos that could have been chosen
@@ -116,7 +121,8 @@ FieldTable<PhotoRow> fieldsFor(const PhotoChoice &choice)
 ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out)
 {
     const auto fields = fieldsToShow(fieldsFor(request.choice), request.format);
-    const std::unique_ptr<PhotoCondition> condition = conditionOf(request);
+    if (request.where)
+        PhotoCondition(*request.where, photoColumns()); // a mistake is said before the long reading
     const Shown shown = request.choice.shown;
     request.library.keepsLeftOut = shown != Shown::Listed;
     const Library library(session, request.library);
@@ -127,12 +133,9 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     requireUuids(request.choice.filter, {&assets, &leftOut}, library);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
-    PhotoChoice choice = request.choice;
-    if (condition)
-        choice.filter.isWanted = [&](const Asset &photo) {
-            return condition->isMetBy(rows.of(photo));
-        };
-    const std::vector<Asset> photos = choosePhotos(choice, albums, library, assets, leftOut);
+    request.choice.filter.isWanted = conditionOf(request, library, rows);
+    const std::vector<Asset> photos =
+        choosePhotos(request.choice, albums, library, assets, leftOut);
     printHowItWasRead(session.terminal, library);
     if (photos.empty())
         sayThatThereAreNone(shown, (shown == Shown::LeftOut ? 0 : assets.size()) + leftOut.size(),

@@ -42,8 +42,8 @@ std::string insertionOf(const std::vector<Field<PhotoRow>> &fields)
 
 } // namespace
 
-PhotoCondition::PhotoCondition(std::string expression)
-    : expression_(std::move(expression)), columns_(photoColumns()), isRead_(columns_.size())
+PhotoCondition::PhotoCondition(std::string expression, std::vector<Field<PhotoRow>> columns)
+    : expression_(std::move(expression)), columns_(std::move(columns)), isRead_(columns_.size())
 {
     open();
     sqlite3_set_authorizer(connection_.get(), judge, this); // before what it would expire

@@ -27,7 +27,8 @@ class PhotoCondition
 {
 public:
     /// Throws ConditionError when the text is no such expression.
-    explicit PhotoCondition(std::string expression);
+    /// @param columns  all that there are, such as photoColumns()
+    PhotoCondition(std::string expression, std::vector<Field<PhotoRow>> columns);
     PhotoCondition(const PhotoCondition &) = delete;
     PhotoCondition &operator=(const PhotoCondition &) = delete;
 
