@@ -56,7 +56,7 @@ int run(Session &session, int argumentCount, char **arguments)
     const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
     try {
         parse(app, commandLine);
-    } catch (const CLI::Success &asked) { // for --help or --version
+    } catch (const CLI::ParseError &asked) { // for --help or --version
         return app.exit(asked);
     }
     const auto *const wanted =

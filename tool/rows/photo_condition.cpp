@@ -6,7 +6,6 @@
 #include "text/lists.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 #include <new>
 #include <utility>
