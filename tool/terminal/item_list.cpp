@@ -47,7 +47,7 @@ std::string shownItems(const std::string &cell, std::size_t columns)
         return elided(whole, columns);
     const std::size_t all = items.size();
     for (items.pop_back(); !items.empty(); items.pop_back()) {
-        const std::string shortened = listForPeople(items) + rest(all - items.size());
+        std::string shortened = listForPeople(items) + rest(all - items.size());
         if (displayWidth(shortened) <= columns)
             return shortened;
     }
