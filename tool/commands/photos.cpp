@@ -50,7 +50,7 @@ std::vector<std::string> namesOf(const Library &library)
 std::vector<const CAlbumGroup *> albumsNamed(const std::string &name, const Library &library,
                                              const Terminal &terminal)
 {
-    const std::vector<const CAlbumGroup *> albums = matchingAlbums(library, name);
+    std::vector<const CAlbumGroup *> albums = matchingAlbums(library, name);
     if (albums.empty())
         throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
                                             name, library.name()) +

@@ -82,7 +82,7 @@ WrittenFiles exportOne(Session &session, const ThumbCache &cache, const Thumbnai
         throw Failure(WrongUsage, translate("cannot write '{0}': thumbnails are written as .bmp or "
                                             ".png; name such a file",
                                             file));
-    const WrittenFiles files = {{thumbnail.index, file}};
+    WrittenFiles files = {{thumbnail.index, file}};
     requireRoom(session, cache, files, ifThere);
     writeOutput(session.files, file, content(cache, thumbnail, suffix == "png"), cache.file());
     return files;
@@ -91,7 +91,7 @@ WrittenFiles exportOne(Session &session, const ThumbCache &cache, const Thumbnai
 WrittenFiles exportAll(Session &session, const ThumbCache &cache, const std::string &folder,
                        bool asPng, IfThere ifThere)
 {
-    const WrittenFiles files = filesOfAll(cache, folder, asPng);
+    WrittenFiles files = filesOfAll(cache, folder, asPng);
     requireRoom(session, cache, files, ifThere);
     const OutputFolder output(folder);
     ProgressBar progress(session.terminal, translate("writing thumbnails"),
@@ -114,7 +114,7 @@ WrittenFiles exportSheets(Session &session, const ThumbCache &cache, const std::
                       translate("cannot write '{0}': a contact sheet is a PNG file; name one "
                                 "that ends in .png",
                                 file));
-    const WrittenFiles files = filesOfSheets(cache, file);
+    WrittenFiles files = filesOfSheets(cache, file);
     requireRoom(session, cache, files, ifThere);
     ProgressBar progress(session.terminal, translate("drawing sheets"),
                          static_cast<int>(files.size()));
