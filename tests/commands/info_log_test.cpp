@@ -238,6 +238,17 @@ TEST_F(ToolInfoLog, MatchesPhotosWithoutUuidByFolderAndName)
                             "gone DCIM/100APPLE/GONE.JPG"));
 }
 
+TEST_F(ToolInfoLog, KnowsEachRecordOfAPhotoWithoutUuid)
+{
+    library_.asset("A.JPG").set("ZUUID", nullptr).set("ZFAVORITE", 1);
+    AssetRow other = library_.asset("A.JPG").set("ZUUID", nullptr);
+    beginLog();
+    library_.execute("create table other (a)");
+    EXPECT_THAT(changes(), IsEmpty());
+    other.set("ZORIGINALFILESIZE", 77);
+    EXPECT_THAT(changes(), ElementsAre("changed DCIM/100APPLE/A.JPG"));
+}
+
 TEST_F(ToolInfoLog, MayHoldTheWholeSchema)
 {
     library_.asset("A.JPG");

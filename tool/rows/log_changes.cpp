@@ -1,9 +1,13 @@
 #include "rows/log_changes.h"
 
+#include "catalogue/photo_kinds.h"
 #include "rows/photo_fields.h"
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 #include <set>
+#include <tuple>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -16,35 +20,67 @@ const std::vector<CAlbumGroup> &albumsWithLog(const Library &library)
     return withLog ? withLog->albums : library.albums();
 }
 
-/// What a photo is matched by, as between two snapshots.
-std::string keyOf(const Asset &asset)
+/// By what photos are matched between two snapshots as well: their uuids, or else their paths.
+bool isLess(const Asset &left, const Asset &right)
 {
-    return asset.uuid().empty() ? "/" + asset.path() : asset.uuid();
+    return left.uuid().empty() && right.uuid().empty() ? left.path() < right.path()
+                                                       : left.uuid() < right.uuid();
 }
 
-/// The photos of a catalogue by their keys. Sorted, not hashed: no choice of uuids makes it slow.
-class AssetsByKey
+/// The places of the photos in the order of isLess. Sorted, not hashed: no choice of uuids makes it
+/// slow.
+std::vector<std::size_t> sortedPlaces(const AssetList &assets)
 {
-public:
-    explicit AssetsByKey(const AssetList &assets) : assets_(assets)
-    {
-        for (std::size_t i = 0; i < assets.size(); ++i)
-            places_.emplace_back(keyOf(assets[i]), i);
-        std::sort(places_.begin(), places_.end());
-    }
+    std::vector<std::size_t> places(assets.size());
+    std::iota(places.begin(), places.end(), 0);
+    std::stable_sort(places.begin(), places.end(), [&](std::size_t left, std::size_t right) {
+        return isLess(assets[left], assets[right]);
+    });
+    return places;
+}
 
-    std::optional<Asset> find(const std::string &key) const
-    {
-        const auto found =
-            std::lower_bound(places_.begin(), places_.end(), std::pair(key, std::size_t(0)));
-        return found != places_.end() && found->first == key ? std::optional(assets_[found->second])
-                                                             : std::nullopt;
-    }
+using Place = std::optional<std::size_t>;
 
-private:
-    const AssetList &assets_;
-    std::vector<std::pair<std::string, std::size_t>> places_;
-};
+/// For each photo of `after` the same one of `before`. Where several are alike, the first is the
+/// same as the first, and so on.
+std::vector<Place> partners(const AssetList &before, const AssetList &after)
+{
+    const std::vector<std::size_t> first = sortedPlaces(before);
+    const std::vector<std::size_t> second = sortedPlaces(after);
+    std::vector<Place> partners(after.size());
+    auto old = first.begin();
+    auto now = second.begin();
+    while (old != first.end() && now != second.end()) {
+        if (isLess(before[*old], after[*now]))
+            ++old;
+        else if (isLess(after[*now], before[*old]))
+            ++now;
+        else
+            partners[*now++] = *old++;
+    }
+    return partners;
+}
+
+/// Whether nothing differs that rows are made of, which is quicker to see than by the rows.
+bool haveSameFacts(const CPhotoData &before, const CPhotoData &after)
+{
+    const auto facts = [](const CPhotoData &photo) {
+        return std::tie(photo.uuid, photo.assetId, photo.directory, photo.fileName,
+                        photo.sourceFileName, photo.width, photo.height, photo.fileSize,
+                        photo.duration, photo.createdTime, photo.modifiedTime, photo.addedTime,
+                        photo.dateText, photo.thumbnailIndex, photo.burstUuid, photo.burstCount,
+                        photo.isBurstPick);
+    };
+    return facts(before) == facts(after) &&
+           std::all_of(std::begin(traits), std::end(traits),
+                       [&](const Trait &trait) { return before.*trait.flag == after.*trait.flag; });
+}
+
+bool isSameStay(const std::optional<TrashStay> &before, const std::optional<TrashStay> &after)
+{
+    return before.has_value() == after.has_value() &&
+           (!before || (before->trashed == after->trashed && before->goes == after->goes));
+}
 
 /// Finds the facts of a photo that are not the same in two catalogues.
 class FactComparison
@@ -70,6 +106,9 @@ public:
         const PhotoRow old = rowOf(before, trashBefore_, burstsBefore_);
         const PhotoRow now = rowOf(after, trashAfter_, burstsAfter_);
         std::vector<std::string> keys;
+        if (haveSameFacts(old.facts, now.facts) && isSameStay(old.trash, now.trash) &&
+            old.burstFrames == now.burstFrames)
+            return keys;
         for (const Field<PhotoRow> &field : fields_)
             if (!(field.value(old) == field.value(now)))
                 keys.push_back(field.column.key);
@@ -119,15 +158,15 @@ void addOtherChanges(const AssetList &before, const AssetList &after, const Fact
     for (const LogChange &change : changes)
         if (change.photo.after)
             known.insert(change.photo.after->begin());
-    const AssetsByKey byKey(before);
+    const std::vector<Place> places = partners(before, after);
     for (std::size_t i = 0; i < after.size(); ++i) {
-        const std::optional<Asset> old = byKey.find(keyOf(after[i]));
-        if (!old || known.count(after[i].begin()) != 0)
+        if (!places[i] || known.count(after[i].begin()) != 0)
             continue;
-        std::vector<std::string> differing = facts.differing(*old, after[i]);
+        const Asset old = before[*places[i]];
+        std::vector<std::string> differing = facts.differing(old, after[i]);
         if (!differing.empty())
             changes.push_back(
-                {{*old, after[i], {Change::Changed}, {}, {}, {}}, std::move(differing)});
+                {{old, after[i], {Change::Changed}, {}, {}, {}}, std::move(differing)});
     }
 }
 
