@@ -23,9 +23,9 @@ std::int64_t emptiedPhotos(const std::vector<CAlbumGroup> &albums, const Trash &
     std::int64_t count = 0;
     for (const CAlbumGroup &album : albums)
         if (album.albumKind == AlbumKind::RecentlyDeleted)
-            count += std::count_if(
-                album.photos.begin(), album.photos.end(),
-                [&](const CPhotoData *photo) { return trash.isEmptiedOf(*photo); });
+            count +=
+                std::count_if(album.photos.begin(), album.photos.end(),
+                              [&](const CPhotoData *photo) { return trash.isEmptiedOf(*photo); });
     return count;
 }
 
@@ -55,8 +55,7 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     read(session, copy);
     accountFor(copy);
     if (log_.isApplied() && request.comparesLog)
-        withoutLog_ =
-            readWithoutLog(session, copy, asOf_.time, !account_ || leftOutOfTrash() > 0);
+        withoutLog_ = readWithoutLog(session, copy, asOf_.time, !account_ || leftOutOfTrash() > 0);
 }
 
 std::int64_t Library::leftOutOfTrash() const

@@ -60,10 +60,10 @@ WithoutLog readWithoutLog(const Session &session, const OpenedCopy &copy, UnixTi
     WithoutLog without;
     try {
         if (trashLeavesOut)
-            without.withLog = dated(buildCatalogue(session, copy.file(), copy.schema().device,
-                                                   beforeAllTrash)
-                                        .catalogue,
-                                    copy.connect());
+            without.withLog =
+                dated(buildCatalogue(session, copy.file(), copy.schema().device, beforeAllTrash)
+                          .catalogue,
+                      copy.connect());
         copy.removeLog();
         readAlone(session, copy, asOf, without);
     } catch (const Failure &) {

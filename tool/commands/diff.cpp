@@ -67,8 +67,7 @@ ExitStatus statusOf(const Library &before, const Library &after,
 
 /// What both sides that have it would leave out of the trash is no difference. Returns how many
 /// these are.
-std::size_t leaveOutOfTheTrash(const Library &before, const Library &after,
-                               PhotoComparison &photos)
+std::size_t leaveOutOfTheTrash(const Library &before, const Library &after, PhotoComparison &photos)
 {
     const auto isEmptied = [](const Library &library, const std::optional<Asset> &asset) {
         return !asset || library.trash().isEmptiedOf(asset->facts());

@@ -17,7 +17,13 @@ namespace {
 const std::vector<CAlbumGroup> &albumsWithLog(const Library &library)
 {
     const auto &withLog = library.withoutLog()->withLog;
-    return withLog ? withLog->albums : library.albums();
+    return withLog ? withLog->catalogue.albums : library.albums();
+}
+
+const KnownDates &datesWithLog(const Library &library)
+{
+    const auto &withLog = library.withoutLog()->withLog;
+    return withLog ? withLog->dates : library.dates();
 }
 
 /// By what photos are matched between two snapshots as well: their uuids, or else their paths.
@@ -61,9 +67,12 @@ std::vector<Place> partners(const AssetList &before, const AssetList &after)
     return partners;
 }
 
-/// Whether nothing differs that rows are made of, which is quicker to see than by the rows.
+/// Whether nothing differs that rows are made of, which is quicker to see than by the rows. Not
+/// where a date may be unknown.
 bool haveSameFacts(const CPhotoData &before, const CPhotoData &after)
 {
+    if (before.createdTime == 0 || before.modifiedTime == 0 || before.addedTime == 0)
+        return false;
     const auto facts = [](const CPhotoData &photo) {
         return std::tie(photo.uuid, photo.assetId, photo.directory, photo.fileName,
                         photo.sourceFileName, photo.width, photo.height, photo.fileSize,
@@ -90,11 +99,11 @@ public:
     {
         const AssetList &assets;
         const Trash &trash;
+        const KnownDates &dates;
     };
 
     FactComparison(const Side &before, const Side &after)
-        : trashBefore_(before.trash), trashAfter_(after.trash), burstsBefore_(before.assets),
-          burstsAfter_(after.assets)
+        : before_(before), after_(after), burstsBefore_(before.assets), burstsAfter_(after.assets)
     {
         for (const Field<PhotoRow> &field : factsOf(photoFields()))
             if (field.column.type != Type::List) // albums, in which indices shift
@@ -103,8 +112,8 @@ public:
 
     std::vector<std::string> differing(const Asset &before, const Asset &after) const
     {
-        const PhotoRow old = rowOf(before, trashBefore_, burstsBefore_);
-        const PhotoRow now = rowOf(after, trashAfter_, burstsAfter_);
+        const PhotoRow old = rowOf(before, before_, burstsBefore_);
+        const PhotoRow now = rowOf(after, after_, burstsAfter_);
         std::vector<std::string> keys;
         if (haveSameFacts(old.facts, now.facts) && isSameStay(old.trash, now.trash) &&
             old.burstFrames == now.burstFrames)
@@ -116,13 +125,14 @@ public:
     }
 
 private:
-    static PhotoRow rowOf(const Asset &asset, const Trash &trash, const BurstFrames &bursts)
+    static PhotoRow rowOf(const Asset &asset, const Side &side, const BurstFrames &bursts)
     {
-        return {asset, asset.facts(), trash.stayOf(asset), bursts.count(asset), {}};
+        return {asset, asset.facts(), side.trash.stayOf(asset), bursts.count(asset), {}, side.dates,
+                {}};
     }
 
-    const Trash &trashBefore_;
-    const Trash &trashAfter_;
+    Side before_;
+    Side after_;
     BurstFrames burstsBefore_;
     BurstFrames burstsAfter_;
     std::vector<Field<PhotoRow>> fields_;
@@ -173,13 +183,14 @@ void addOtherChanges(const AssetList &before, const AssetList &after, const Fact
 } // namespace
 
 LogChanges::LogChanges(const Library &library)
-    : before_(library.withoutLog()->catalogue.albums), after_(albumsWithLog(library)),
+    : before_(library.withoutLog()->without.catalogue.albums), after_(albumsWithLog(library)),
       assetsBefore_(before_), assetsAfter_(after_), albums_(compareAlbums(before_, after_)),
       isInOtherOrder_(
           !std::equal(before_.begin(), before_.end(), after_.begin(), after_.end(), isSameOrder))
 {
-    const FactComparison facts({assetsBefore_, library.withoutLog()->trash},
-                               {assetsAfter_, library.trash()});
+    const WithoutLog &without = *library.withoutLog();
+    const FactComparison facts({assetsBefore_, without.trash, without.without.dates},
+                               {assetsAfter_, library.trash(), datesWithLog(library)});
     photos_ = snapshotChanges(assetsBefore_, assetsAfter_, facts);
     addOtherChanges(assetsBefore_, assetsAfter_, facts, photos_);
 }
