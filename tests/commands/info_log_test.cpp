@@ -138,8 +138,8 @@ TEST_F(ToolInfoLog, ListsEachChangeOfAPhoto)
 
 TEST_F(ToolInfoLog, ListsAlbumsAsDiffDoes)
 {
-    library_.asset("A.JPG");
     AlbumRow renamed = library_.album("Old");
+    library_.asset("A.JPG").in(renamed);
     beginLog();
     renamed.set("ZTITLE", "Renamed");
     library_.album("New");
@@ -152,6 +152,7 @@ TEST_F(ToolInfoLog, ListsAlbumsAsDiffDoes)
     EXPECT_EQ(albums[0]["before"]["name"], "Old");
     EXPECT_EQ(albums[1]["change"], "new");
     EXPECT_EQ(albums[1]["before"], nullptr);
+    EXPECT_THAT(changes(), IsEmpty()) << "the photo is where it was";
 }
 
 TEST_F(ToolInfoLog, ListsFactsByWhichNoSnapshotsAreToldApart)
