@@ -103,11 +103,9 @@ public:
     };
 
     FactComparison(const Side &before, const Side &after)
-        : before_(before), after_(after), burstsBefore_(before.assets), burstsAfter_(after.assets)
+        : before_(before), after_(after), burstsBefore_(before.assets), burstsAfter_(after.assets),
+          fields_(factsOf(photoFields()))
     {
-        for (const Field<PhotoRow> &field : factsOf(photoFields()))
-            if (field.column.type != Type::List) // albums, in which indices shift
-                fields_.push_back(field);
     }
 
     std::vector<std::string> differing(const Asset &before, const Asset &after) const
@@ -125,6 +123,7 @@ public:
     }
 
 private:
+    /// Without albums, in which indices shift.
     static PhotoRow rowOf(const Asset &asset, const Side &side, const BurstFrames &bursts)
     {
         return {asset, asset.facts(), side.trash.stayOf(asset), bursts.count(asset), {}, side.dates,
