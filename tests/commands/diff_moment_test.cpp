@@ -103,9 +103,12 @@ TEST(ToolDiffMoment, CanBeNamed)
 {
     const EmptiedTrash phone;
     EXPECT_THAT(phone.diff({"--as-of", "2020-05-30"}).out, HasSubstr("\n1 gone\n"));
-    EXPECT_EQ(phone.diff({"--as-of", "2020-06-30"}),
-              (ToolRun{"no difference\n",
-                       "iosphoto: left out as they had been in the trash for 30 days: 1\n", 0}));
+    EXPECT_EQ(
+        phone.diff({"--as-of", "2020-06-30"}),
+        (ToolRun{
+            "no difference\n",
+            "iosphoto: differences left out, as the photos had been in the trash for 30 days: 1\n",
+            0}));
     const json document = json::parse(phone.diff({"--as-of", "2020-06-30", "--json"}).out);
     EXPECT_EQ(document["a"]["asOf"], "2020-06-30T00:00:00Z");
     EXPECT_EQ(document["a"]["leftOut"], 1);

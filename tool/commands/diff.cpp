@@ -124,8 +124,8 @@ ExitStatus showDifference(const DiffRequest &request, Session &session, std::ost
     printHowItWasRead(session.terminal, before, "A: ");
     printHowItWasRead(session.terminal, after, "B: ");
     if (leftOut > 0)
-        session.terminal.printWarning(
-            translate("left out as they had been in the trash for 30 days: {0}", leftOut));
+        session.terminal.printWarning(translate(
+            "differences left out, as the photos had been in the trash for 30 days: {0}", leftOut));
     checkThatTheyAreRelated(before, after, difference, session.terminal);
     if (difference.photos.inBoth > 0)
         checkTheirOrder(first, second, before, after, session.terminal);

@@ -4,6 +4,7 @@
 #define IOSPHOTO_TOOL_FOLDER_OWNER_H
 
 #include <filesystem>
+#include <string>
 
 namespace iosphoto::tool {
 
