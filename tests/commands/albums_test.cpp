@@ -27,6 +27,19 @@ TEST(ToolAlbums, ListsTheCatalogueAsAnAlignedTable)
             "", 0}));
 }
 
+TEST(ToolAlbums, FirstAndLastDayAreOfTheSameClock)
+{
+    LibraryBuilder library(ios15);
+    constexpr int year = 365 * 24 * 60 * 60;
+    library.asset("OLD.JPG").set("ZDATECREATED", -2 * year); // its day is that of its adding
+    library.asset("NEWER.JPG").set("ZDATECREATED", 5 * year);
+    EXPECT_EQ(runOn(library, "albums", {"--fields", "kind,firstDay,lastDay"}).out,
+              "kind              FIRST       LAST\n"
+              "camera-roll       1999-01-02  2005-12-31\n"
+              "photo-library\n"
+              "recently-deleted\n");
+}
+
 TEST(ToolAlbums, ShowsControlCharactersInsteadOfObeyingThem)
 {
     LibraryBuilder library(ios15);

@@ -85,5 +85,6 @@ TEST(ToolDiffBadInput, WrongUsage)
     expectFailure(runTool({"diff", "a.sqlite"}), "B is required", 2);
     expectFailure(runTool({"diff", "a.sqlite", ""}), "B: names no file", 2);
     expectFailure(runTool({"diff", "a.sqlite", "b.sqlite", "--json", "--csv"}), "", 2);
-    expectFailure(runTool({"diff", "a.sqlite", "b.sqlite", "--as-of", "now"}), "", 2);
+    expectFailure(runTool({"diff", "a.sqlite", "b.sqlite", "--as-of", "soon"}),
+                  "--as-of: 'soon' is no time", 2);
 }

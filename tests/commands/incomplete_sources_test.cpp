@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 using namespace iosphoto::test;
 using testing::HasSubstr;
@@ -35,4 +36,132 @@ TEST(ToolIncompleteSource, IsSaidOfItsStatementsToo)
     EXPECT_THAT(run.out, HasSubstr("-- pass camera-roll, "));
     EXPECT_THAT(run.error, HasSubstr("' is no write-ahead log"));
     EXPECT_EQ(run.status, 1);
+}
+
+/// A library whose write-ahead log holds four commits of a frame each, in which a photo gets a new
+/// name.
+class ToolIncompleteLog : public testing::Test
+{
+protected:
+    ToolIncompleteLog()
+    {
+        library_.madeBy(15502, "19H12");
+        library_.asset("IMG_0001.JPG");
+        library_.execute("pragma journal_mode = wal; pragma wal_autocheckpoint = 0");
+        for (const char *name : {"first", "second", "third", "fourth"})
+            library_.execute(std::string("update ZASSET set ZFILENAME = '") + name + ".JPG'");
+        log_ = readFile(library_.path() + "-wal");
+        EXPECT_EQ(log_.size(), headerSize + 4 * frameSize);
+    }
+
+    ToolRun runWith(const std::string &log, const std::string &command = "photos",
+                    std::vector<std::string> options = {"--quiet"}) const
+    {
+        writeFile(copy_, readFile(library_.path()));
+        writeFile(copy_ + "-wal", log);
+        options.insert(options.begin(), {command, copy_});
+        return runTool(options);
+    }
+
+    std::string changed(std::size_t at) const
+    {
+        std::string log = log_;
+        log.at(at) = static_cast<char>(log.at(at) ^ 4);
+        return log;
+    }
+
+    std::string damaged(const std::string &how) const
+    {
+        return "iosphoto: the -wal of '" + copy_ + "' is damaged: it is good up to commit " + how +
+               "; copy it from the device or the backup again, its -wal with it\n";
+    }
+
+    static constexpr std::size_t headerSize = 32;
+    static constexpr std::size_t frameSize = 24 + 4096;
+    LibraryBuilder library_{ios15};
+    TemporaryFolder folder_;
+    std::string copy_ = (folder_ / "Photos.sqlite").string();
+    std::string log_;
+};
+
+TEST_F(ToolIncompleteLog, WithAFlippedBitIsSaidToBeGoodUpToACommit)
+{
+    const ToolRun run = runWith(changed(headerSize + 2 * frameSize + 500));
+    EXPECT_THAT(run.out, HasSubstr("second.JPG"));
+    EXPECT_EQ(run.error, damaged("2 of at least 4; later changes are missing"));
+    EXPECT_EQ(run.status, 1);
+
+    const ToolRun first = runWith(changed(headerSize + 500));
+    EXPECT_THAT(first.out, HasSubstr("IMG_0001.JPG"));
+    EXPECT_EQ(first.error, damaged("0 of at least 4; later changes are missing"));
+    EXPECT_EQ(first.status, 1);
+}
+
+TEST_F(ToolIncompleteLog, WithATornEndIsSaidToBeGoodUpToACommit)
+{
+    const ToolRun run = runWith(log_.substr(0, log_.size() - 1));
+    EXPECT_THAT(run.out, HasSubstr("third.JPG"));
+    EXPECT_EQ(run.error, damaged("3 of at least 4; later changes are missing"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolIncompleteLog, ThatIsCutShortBeforeAnyMarkIsNotSaidToHaveMore)
+{
+    const ToolRun run = runWith(log_.substr(0, headerSize + 3 * frameSize + 3));
+    EXPECT_EQ(run.error,
+              damaged("3 of at least 3, and what follows is cut short; later changes may "
+                      "be missing"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolIncompleteLog, IsToldByTheDocuments)
+{
+    const auto isComplete = [](const ToolRun &run) {
+        return nlohmann::json::parse(run.out)["isComplete"];
+    };
+    const std::string broken = changed(headerSize + 500);
+    for (const char *command : {"info", "albums", "photos"}) {
+        EXPECT_EQ(isComplete(runWith(broken, command, {"--json"})), false) << command;
+        EXPECT_EQ(isComplete(runWith(log_, command, {"--json"})), true) << command;
+    }
+}
+
+TEST_F(ToolIncompleteLog, MakesADifferenceUncertain)
+{
+    const ToolRun run = runWith(changed(headerSize + 500), "diff", {library_.path(), "--quiet"});
+    EXPECT_THAT(run.error, HasSubstr("iosphoto: A: the -wal of"));
+    EXPECT_EQ(run.status, 3);
+}
+
+TEST_F(ToolIncompleteLog, IsSaidOfItsStatementsToo)
+{
+    const ToolRun run = runWith(changed(headerSize + 500), "statements");
+    EXPECT_THAT(run.error, HasSubstr("is good up to commit 0 of at least 4"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolIncompleteLog, ChangeWithoutACommitIsSaidAndIsNoDamage)
+{
+    library_.execute("begin; update ZASSET set ZFILENAME = 'open.JPG'; "
+                     "create table filler as with recursive n(i) as (values(1) union all select i "
+                     "+ 1 from n limit 99) select zeroblob(4000) as a from n; commit");
+    const std::string log = readFile(library_.path() + "-wal");
+    ASSERT_GT(log.size(), log_.size() + 2 * frameSize);
+    const ToolRun run = runWith(log.substr(0, log_.size() + 2 * frameSize));
+    EXPECT_THAT(run.out, HasSubstr("fourth.JPG"));
+    EXPECT_EQ(run.error, "iosphoto: the -wal of '" + copy_ +
+                             "' ends in a change without a commit, as of a device that was still "
+                             "writing, or gave it up; it is left out\n");
+    EXPECT_EQ(run.status, 0);
+}
+
+TEST_F(ToolIncompleteLog, ThatWasBegunAnewIsComplete)
+{
+    library_.execute("pragma wal_checkpoint(restart); update ZASSET set ZFILENAME = 'anew.JPG'");
+    const std::string log = readFile(library_.path() + "-wal");
+    ASSERT_EQ(log.size(), log_.size()) << "with frames of the earlier log";
+    const ToolRun run = runWith(log);
+    EXPECT_THAT(run.out, HasSubstr("anew.JPG"));
+    EXPECT_EQ(run.error, "");
+    EXPECT_EQ(run.status, 0);
 }

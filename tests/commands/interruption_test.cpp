@@ -120,6 +120,31 @@ TEST_P(ToolInterruption, DoesNotHappenWhereTheSignalIsIgnored)
     expectFailure(tool.result(), lastWords, 128 + other);
 }
 
+TEST(ToolThatIsKilled, IsCleanedUpAfterByTheNext)
+{
+    LibraryBuilder library(ios15);
+    makeLong(library);
+    const TemporaryFolder temporary;
+    const Environment environment = {{"TMPDIR", temporary.path().string()}};
+    const auto folders = [&] {
+        return std::distance(fs::directory_iterator(temporary.path()), fs::directory_iterator());
+    };
+    RunningTool killed({"photos", library.path()}, environment);
+    ASSERT_TRUE(wait([&] { return folders() == 1; }));
+    RunningTool living({"photos", library.path()}, environment);
+    ASSERT_TRUE(wait([&] { return folders() == 2; })) << "it takes away what is used";
+    killed.send(SIGKILL);
+    killed.result();
+    EXPECT_EQ(folders(), 2);
+
+    LibraryBuilder other(ios15);
+    EXPECT_EQ(runTool({"albums", other.path()}, environment).status, 0);
+    EXPECT_EQ(folders(), 1);
+    living.send(SIGTERM);
+    living.result();
+    EXPECT_EQ(folders(), 0);
+}
+
 INSTANTIATE_TEST_SUITE_P(Signals, ToolInterruption,
                          testing::Values(Signal{"Interrupt", SIGINT}, Signal{"Terminate", SIGTERM},
                                          Signal{"HangUp", SIGHUP}),

@@ -1,16 +1,11 @@
 #include "catalogue/library.h"
 
 #include "catalogue/album_account.h"
-
-#include "model/model_devicephoto_dbmgr.h"
-#include "model/store/database_path.h"
-#include "model/store/stored_bytes.h"
+#include "catalogue/catalogue_build.h"
 #include "schema/asset_tables.h"
-#include "terminal/busy_line.h"
 #include "text/translate.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace iosphoto::tool {
 
@@ -22,21 +17,16 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
                        [](const CAlbumGroup &album) { return album.photos.empty(); });
 }
 
-/// The library counts times in 32 bits.
-std::uint32_t libraryTime(UnixTime time)
+/// Those that the trash would no longer hold.
+std::int64_t emptiedPhotos(const std::vector<CAlbumGroup> &albums, const Trash &trash)
 {
-    return static_cast<std::uint32_t>(
-        std::clamp<std::int64_t>(time.seconds, 0, std::numeric_limits<std::uint32_t>::max()));
-}
-
-/// Generously: in a sound database each row of a pass is an asset, an album or a membership, and
-/// the smallest takes more bytes. Where one stands several times, the statements' joins multiply
-/// it.
-std::int64_t mostRowsOfAPass(const std::string &database)
-{
-    constexpr std::int64_t bytesOfARow = 8;
-    constexpr std::int64_t spare = 1000;
-    return storedBytesOfDatabase(database.c_str()) / bytesOfARow + spare;
+    std::int64_t count = 0;
+    for (const CAlbumGroup &album : albums)
+        if (album.albumKind == AlbumKind::RecentlyDeleted)
+            count +=
+                std::count_if(album.photos.begin(), album.photos.end(),
+                              [&](const CPhotoData *photo) { return trash.isEmptiedOf(*photo); });
+    return count;
 }
 
 } // namespace
@@ -64,10 +54,14 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     inspect(copy);
     read(session, copy);
     accountFor(copy);
+    if (log_.isApplied() && request.comparesLog)
+        withoutLog_ = readWithoutLog(session, copy, asOf_.time, !account_ || leftOutOfTrash() > 0);
 }
 
 std::int64_t Library::leftOutOfTrash() const
 {
+    if (request_.isCompared)
+        return emptiedPhotos(albums(), trash_);
     return account_ ? account_->photos.leftOutFor(PhotoReason::TrashedTooLong) +
                           account_->photos.leftOutFor(PhotoReason::TrashedWithoutDate)
                     : 0;
@@ -77,28 +71,23 @@ void Library::inspect(const OpenedCopy &copy)
 {
     schema_ = copy.schema();
     missing_ = copy.missing();
-    hasLog_ = copy.hasLog();
+    log_ = copy.log();
     const CopyDatabase database = copy.connect();
     trash_ = Trash(database, asOf_.time);
-    if (hasLog_ && request_.comparesLog)
-        logChanges_ = readLogChanges(database);
+    if (request_.isCompared)
+        age_ = readSnapshotAge(database);
 }
 
 void Library::read(const Session &session, const OpenedCopy &copy)
 {
-    QDevPhotoDbMgr manager(device().iosVersion, device().productType);
-    manager.SetDataPath(pathFromBytes(copy.file()));
-    rowLimit_ = manager.rowLimit = mostRowsOfAPass(copy.file());
-    manager.asOf = libraryTime(asOf_.time);
-    const int result = [&] {
-        const BusyLine busy(session.terminal, translate("reading photos"));
-        return manager.GetPhotoAlbumDatas();
-    }();
-    catalogue_ = OwnedCatalogue(std::move(manager.albums));
-    report_ = std::move(manager.report);
+    CatalogueBuild build = buildCatalogue(session, copy.file(), device(),
+                                          request_.isCompared ? beforeAllTrash : asOf_.time);
+    catalogue_ = std::move(build.catalogue);
+    report_ = std::move(build.report);
+    rowLimit_ = build.rowLimit;
     const CPassReport *const stop = report_.firstStopped();
-    if (result != 0 || (stop != nullptr && isWithoutPhotos(albums())))
-        throw NothingRead(database_, stop != nullptr ? stop->extendedCode : -result);
+    if (build.result != 0 || (stop != nullptr && isWithoutPhotos(albums())))
+        throw NothingRead(database_, stop != nullptr ? stop->extendedCode : -build.result);
     if (stop == nullptr && isWithoutPhotos(albums()) && areAssetTablesDamaged(copy.connect()))
         throw NothingRead(database_, SQLITE_CORRUPT);
 }

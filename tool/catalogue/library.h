@@ -4,8 +4,9 @@
 #include "catalogue/known_dates.h"
 #include "catalogue/left_out_photos.h"
 #include "catalogue/left_out_reasons.h"
-#include "catalogue/log_changes.h"
+#include "catalogue/snapshot_age.h"
 #include "catalogue/trash.h"
+#include "catalogue/without_log.h"
 #include "ios_photo.h"
 #include "ios_photo_report.h"
 #include "records/owned_catalogue.h"
@@ -33,8 +34,11 @@ struct LibraryRequest
     std::string source;
     Device device;              ///< as far as the user named it
     std::optional<Moment> asOf; ///< by default the source's own time
-    bool comparesLog = false;   ///< whether to find out what the write-ahead log holds
+    bool comparesLog = false;   ///< whether to read it without its write-ahead log too
     bool keepsLeftOut = false;  ///< whether to read the photos that the catalogue leaves out
+    /// Whether it is one of two that are compared: then the trash leaves nothing out, and how late
+    /// it is of is found out.
+    bool isCompared = false;
 };
 
 /// What became of every row of the tables that a library is made of.
@@ -87,14 +91,15 @@ public:
     /// Nothing where the rows could not be counted, which uncounted() says then.
     const std::optional<Account> &account() const { return account_; }
     const std::string &uncounted() const { return uncounted_; }
-    /// How many assets are left out since they were in the trash for too long.
+    /// How many assets were in the trash for too long; unless it is compared they are left out.
     std::int64_t leftOutOfTrash() const;
     /// If the request said so.
     const LeftOutPhotos &leftOutPhotos() const { return leftOutPhotos_; }
 
-    /// Whether there is a write-ahead log, and if the request said so what it changes.
-    bool hasLog() const { return hasLog_; }
-    const std::vector<LogChange> &logChanges() const { return logChanges_; }
+    const WriteAheadLog &log() const { return log_; }
+    /// The library without its log, if the request said so and the log holds anything.
+    const std::optional<WithoutLog> &withoutLog() const { return withoutLog_; }
+    const SnapshotAge &age() const { return age_; } ///< if it is compared
 
     /// What of the source is missing.
     const std::vector<SourceFinding> &missing() const { return missing_; }
@@ -121,8 +126,9 @@ private:
     ProbedSchema schema_;
     Moment asOf_ = {};
     Trash trash_;
-    bool hasLog_ = false;
-    std::vector<LogChange> logChanges_;
+    WriteAheadLog log_;
+    SnapshotAge age_;
+    std::optional<WithoutLog> withoutLog_;
     OwnedCatalogue catalogue_;
     KnownDates dates_;
     std::optional<Account> account_;

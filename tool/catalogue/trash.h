@@ -33,9 +33,18 @@ public:
     /// Nothing for an asset that is not there, and where the database does not say since when.
     std::optional<TrashStay> stayOf(const Asset &asset) const;
 
+    /// Whether the trash was emptied of a photo that a catalogue shows all the same.
+    bool isEmptiedOf(const CPhotoData &photo) const;
+
 private:
+    struct Date
+    {
+        CoreDataTime time;
+        std::int32_t raw; ///< as the library reads it
+    };
+
     UnixTime asOf_;
-    std::map<std::string, CoreDataTime> trashedAt_; // ordered: no choice of uuids makes it slow
+    std::map<std::string, Date> trashedAt_; // ordered: no choice of uuids makes it slow
 };
 
 } // namespace iosphoto::tool

@@ -1,3 +1,4 @@
+#include "catalogue/catalogue_build.h"
 #include "commands/command.h"
 #include "commands/difference_table.h"
 #include "commands/help.h"
@@ -7,6 +8,7 @@
 #include "commands/row_format_options.h"
 #include "rows/difference_fields.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <algorithm>
 
@@ -18,7 +20,8 @@ struct DiffRequest
 {
     std::string before;
     std::string after;
-    Device device; ///< of both
+    Device device;              ///< of both
+    std::optional<Moment> asOf; ///< by default the trash leaves nothing out
     Format format = Format::Table;
 };
 
@@ -62,26 +65,70 @@ ExitStatus statusOf(const Library &before, const Library &after,
     return difference.isNone() ? Good : Different;
 }
 
-/// Both libraries are read as of one moment, so that time alone makes no photo leave the trash.
-Moment earlierOf(const Moment &one, const Moment &other)
+/// What both sides that have it would leave out of the trash is no difference. Returns how many
+/// these are.
+std::size_t leaveOutOfTheTrash(const Library &before, const Library &after, PhotoComparison &photos)
 {
-    return {std::min(one.time, other.time), translate("the earlier of both")};
+    const auto isEmptied = [](const Library &library, const std::optional<Asset> &asset) {
+        return !asset || library.trash().isEmptiedOf(asset->facts());
+    };
+    std::vector<PhotoDifference> &all = photos.differences;
+    const auto end = std::remove_if(all.begin(), all.end(), [&](const PhotoDifference &photo) {
+        return isEmptied(before, photo.before) && isEmptied(after, photo.after);
+    });
+    const auto count = static_cast<std::size_t>(all.end() - end);
+    all.erase(end, all.end());
+    return count;
+}
+
+constexpr UnixTime noTime = {0};
+
+/// Says when the first library is the later one; the times of files change with each copy.
+void checkTheirOrder(const Source &first, const Source &second, const Library &before,
+                     const Library &after, const Terminal &terminal)
+{
+    const UnixTime dateBefore = first.backupDate().value_or(noTime);
+    const UnixTime dateAfter = second.backupDate().value_or(noTime);
+    const bool areDated = !(dateBefore == noTime) && !(dateAfter == noTime);
+    if (areDated && dateAfter < dateBefore)
+        terminal.printWarning(translate(
+            "'{0}' is a backup of {1}, '{2}' one of {3}; the earlier library comes first, else new "
+            "photos look gone",
+            before.name(), localTimeText(dateBefore), after.name(), localTimeText(dateAfter)));
+    else if ((!areDated || dateBefore == dateAfter) && before.age().isLaterThan(after.age()))
+        terminal.printWarning(
+            translate("by its rows '{0}' is later than '{1}'; the earlier library "
+                      "comes first, else new photos look gone",
+                      before.name(), after.name()));
+}
+
+LibraryRequest compared(const std::string &source, const Device &device, const Moment &asOf)
+{
+    LibraryRequest request = {source, device, asOf};
+    request.isCompared = true;
+    return request;
 }
 
 ExitStatus showDifference(const DiffRequest &request, Session &session, std::ostream &out)
 {
     const Source first(session, request.before);
     const Source second(session, request.after);
-    const Moment now = earlierOf(ownTimeOf(first), ownTimeOf(second));
-    const Library before(session, {request.before, request.device, now}, first);
-    const Library after(session, {request.after, request.device, now}, second);
+    const Moment asOf = request.asOf.value_or(Moment{beforeAllTrash, ""});
+    const Library before(session, compared(request.before, request.device, asOf), first);
+    const Library after(session, compared(request.after, request.device, asOf), second);
     const AssetList assetsBefore(before.albums());
     const AssetList assetsAfter(after.albums());
-    const LibraryDifference difference = {compareAlbums(before.albums(), after.albums()),
-                                          comparePhotos(assetsBefore, assetsAfter)};
+    LibraryDifference difference = {compareAlbums(before.albums(), after.albums()),
+                                    comparePhotos(assetsBefore, assetsAfter)};
+    const std::size_t leftOut = leaveOutOfTheTrash(before, after, difference.photos);
     printHowItWasRead(session.terminal, before, "A: ");
     printHowItWasRead(session.terminal, after, "B: ");
+    if (leftOut > 0)
+        session.terminal.printWarning(translate(
+            "differences left out, as the photos had been in the trash for 30 days: {0}", leftOut));
     checkThatTheyAreRelated(before, after, difference, session.terminal);
+    if (difference.photos.inBoth > 0)
+        checkTheirOrder(first, second, before, after, session.terminal);
     printDifference(request.format, before, after, difference, session.terminal.screenOf(out), out);
     out.flush(); // before what is said of it
     return statusOf(before, after, difference, session.terminal);
@@ -101,6 +148,12 @@ Command addDiff(CLI::App &app)
         ->required()
         ->check(notEmpty());
     addDeviceOptions(*command, request->device);
+    addAsOfOption(
+        *command, request->asOf,
+        translate("the moment that counts as now, of a day its beginning, such as "
+                  "2024-05-01 or now (see TIMES below): what had been in the trash for 30 "
+                  "days then is left out, unless one of the libraries has it elsewhere "
+                  "(default: nothing is left out)"));
     CLI::Option *const json = addFormatFlag(*command, request->format, Format::JsonDocument,
                                             translate("print a JSON document"));
     CLI::Option *const jsonLines =
@@ -111,7 +164,8 @@ Command addDiff(CLI::App &app)
     json->excludes(jsonLines, csv);
     jsonLines->excludes(csv);
     command->footer(helpFooter(
-        {translate("Both libraries are read as of the time of the earlier one."),
+        {translate("What is in the trash is compared however long it has been there."),
+         kindsOfTimes(),
          examples({"iosphoto diff May/Photos.sqlite June/Photos.sqlite",
                    "iosphoto diff May/Photos.sqlite June/Photos.sqlite --json"}),
          translate("Exit: 0 same, 1 different, 2 wrong usage, 3 to 6 unusable files; see "

@@ -63,20 +63,9 @@ Words details(const PhotoDifference &photo)
     return words;
 }
 
-void addRow(TextTable &table, const AlbumDifference &album)
+void addRow(TextTable &table, const DifferenceLine &line)
 {
-    const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
-    const bool isRenamed = album.change == AlbumChange::Renamed;
-    table.add({translate("album {0}", changeWord(album.change)), shownName(latest),
-               isRenamed ? translate("was named {0}", shownName(*album.before)) : ""});
-}
-
-void addRow(TextTable &table, const PhotoDifference &photo)
-{
-    Words changes;
-    for (const Change change : photo.changes)
-        changes.push_back(changeWord(change));
-    table.add({listForPeople(changes), photo.latest().path(), listForPeople(details(photo))});
+    table.add({line.change, line.name, line.what});
 }
 
 /// How many there are of each change, where there are any.
@@ -102,6 +91,22 @@ std::string summary(const LibraryDifference &difference)
 
 } // namespace
 
+DifferenceLine lineOf(const AlbumDifference &album)
+{
+    const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
+    const bool isRenamed = album.change == AlbumChange::Renamed;
+    return {translate("album {0}", changeWord(album.change)), shownName(latest),
+            isRenamed ? translate("was named {0}", shownName(*album.before)) : ""};
+}
+
+DifferenceLine lineOf(const PhotoDifference &photo)
+{
+    Words changes;
+    for (const Change change : photo.changes)
+        changes.push_back(changeWord(change));
+    return {listForPeople(changes), photo.latest().path(), listForPeople(details(photo))};
+}
+
 void printDifferenceTable(const LibraryDifference &difference, const Screen &screen,
                           std::ostream &out)
 {
@@ -110,9 +115,9 @@ void printDifferenceTable(const LibraryDifference &difference, const Screen &scr
                          {translate("FILE"), TextTable::Align::Left, Elide::Left},
                          {translate("WHAT")}});
         for (const AlbumDifference &album : difference.albums)
-            addRow(table, album);
+            addRow(table, lineOf(album));
         for (const PhotoDifference &photo : difference.photos.differences)
-            addRow(table, photo);
+            addRow(table, lineOf(photo));
         table.print(out, screen);
         out << '\n';
     }

@@ -5,8 +5,20 @@
 #include "terminal/terminal.h"
 
 #include <ostream>
+#include <string>
 
 namespace iosphoto::tool {
+
+/// What the table says of an album or a photo.
+struct DifferenceLine
+{
+    std::string change;
+    std::string name;
+    std::string what; ///< that the word for the change does not say; may be empty
+};
+
+DifferenceLine lineOf(const AlbumDifference &album);
+DifferenceLine lineOf(const PhotoDifference &photo);
 
 /// Prints for people a table of what differs and a line that sums it up, which stands alone when
 /// nothing does.

@@ -2,19 +2,25 @@
 #include "catalogue/photo_kinds.h"
 #include "catalogue/summary.h"
 #include "commands/command.h"
+#include "commands/difference_table.h"
 #include "commands/help.h"
 #include "commands/info_document.h"
 #include "commands/library_messages.h"
 #include "commands/library_options.h"
 #include "commands/option_values.h"
 #include "commands/row_format_options.h"
+#include "rows/log_changes.h"
+#include "terminal/busy_line.h"
 #include "terminal/paragraph.h"
 #include "terminal/text_table.h"
 #include "text/json.h"
+#include "text/lists.h"
 #include "text/numbers.h"
 #include "text/printable.h"
 #include "text/translate.h"
 #include "time/time_text.h"
+
+#include <memory>
 
 namespace iosphoto::tool {
 
@@ -125,27 +131,70 @@ void printAccount(const Library &library, const Summary &summary, const Screen &
                                "less, unless --frames asks for all."));
 }
 
-void printLog(const Library &library, const Screen &screen, std::ostream &out)
+/// Why the log changes nothing that could be listed; empty where it does.
+std::string whyNoLogChanges(const Library &library, const LogChanges *changes)
 {
-    if (!library.hasLog()) {
-        printParagraph(out, screen, translate("There is no write-ahead log (-wal)."));
-        return;
+    switch (library.log().state) {
+    case LogState::Missing:
+        return translate("There is no write-ahead log (-wal).");
+    case LogState::Empty:
+        return translate("The write-ahead log (-wal) is empty: it has 0 bytes.");
+    case LogState::NoLog:
+        return translate("The -wal is no write-ahead log, so nothing of it is shown.");
+    case LogState::Damaged:
+    case LogState::Good:
+        break;
     }
-    if (library.logChanges().empty()) {
-        printParagraph(out, screen,
-                       translate("The write-ahead log (-wal) adds, removes and trashes no photo."));
+    if (library.withoutLog() && !library.withoutLog()->isRead)
+        return translate("What the write-ahead log (-wal) changes is not known: without it the "
+                         "database cannot be read.");
+    if (changes == nullptr || changes->isNone())
+        return translate("The write-ahead log (-wal) changes nothing that is shown.");
+    if (changes->photos().empty() && changes->albums().empty())
+        return translate("The write-ahead log (-wal) changes the order of albums or photos and "
+                         "nothing else that is shown.");
+    return "";
+}
+
+/// What differs beyond what the words for the change say.
+std::string factsWord(const LogChange &change)
+{
+    return change.photo.changedFields.empty() && change.photo.changes.front() == Change::Changed
+               ? translate("differs in {0}", listForPeople(change.facts))
+               : "";
+}
+
+std::vector<std::string> cellsOf(const LogChange &change)
+{
+    const DifferenceLine line = lineOf(change.photo);
+    const std::string other = factsWord(change);
+    return {change.photo.before ? line.change : translateTerm(logChangeName(Change::New)),
+            line.name, other.empty() ? line.what : other, change.photo.latest().uuid()};
+}
+
+void printLog(const Library &library, const LogChanges *changes, const Screen &screen,
+              std::ostream &out)
+{
+    if (const std::string why = whyNoLogChanges(library, changes); !why.empty()) {
+        printParagraph(out, screen, why);
         return;
     }
     TextTable table({{translate("IN THE LOG ONLY")},
                      {translate("FILE"), TextTable::Align::Left, Elide::Left},
+                     {translate("WHAT")},
                      {translate("UUID")}});
-    for (const LogChange &change : library.logChanges())
-        table.add({translateTerm(machineName(change.kind)), change.path, change.uuid});
+    for (const AlbumDifference &album : changes->albums()) {
+        const DifferenceLine line = lineOf(album);
+        const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
+        table.add({line.change, line.name, line.what, latest.albumUuid});
+    }
+    for (const LogChange &change : changes->photos())
+        table.add(cellsOf(change));
     table.print(out, screen);
 }
 
-void printInfo(const Library &library, const Summary &summary, const Screen &screen,
-               std::ostream &out)
+void printInfo(const Library &library, const Summary &summary, const LogChanges *changes,
+               const Screen &screen, std::ostream &out)
 {
     printFacts(library, summary, screen, out);
     out << '\n';
@@ -153,7 +202,16 @@ void printInfo(const Library &library, const Summary &summary, const Screen &scr
     out << '\n';
     printAccount(library, summary, screen, out);
     out << '\n';
-    printLog(library, screen, out);
+    printLog(library, changes, screen, out);
+}
+
+/// Null where there is nothing to compare, or it could not be read.
+std::unique_ptr<const LogChanges> logChangesOf(const Library &library, const Terminal &terminal)
+{
+    if (!library.withoutLog() || !library.withoutLog()->isRead)
+        return nullptr;
+    const BusyLine busy(terminal, translate("looking what the write-ahead log changes"));
+    return std::make_unique<const LogChanges>(library);
 }
 
 ExitStatus showInfo(const InfoRequest &request, Session &session, std::ostream &out)
@@ -161,12 +219,13 @@ ExitStatus showInfo(const InfoRequest &request, Session &session, std::ostream &
     const Library library(session, request.library);
     printHowItWasRead(session.terminal, library);
     const Summary summary = summaryOf(AssetList(library.albums()), library.dates());
+    const std::unique_ptr<const LogChanges> changes = logChangesOf(library, session.terminal);
     if (request.format == Format::JsonDocument)
-        print(infoDocument(library, summary), out);
+        print(infoDocument(library, summary, changes.get()), out);
     else if (request.format == Format::JsonLines)
-        out << oneLine(infoDocument(library, summary)) << '\n';
+        out << oneLine(infoDocument(library, summary, changes.get())) << '\n';
     else
-        printInfo(library, summary, session.terminal.screenOf(out), out);
+        printInfo(library, summary, changes.get(), session.terminal.screenOf(out), out);
     return statusOf(library);
 }
 

@@ -1,7 +1,9 @@
 #include "commands/info_document.h"
 
 #include "catalogue/photo_kinds.h"
+#include "rows/difference_fields.h"
 #include "rows/library_head.h"
+#include "text/translate.h"
 
 namespace iosphoto::tool {
 
@@ -49,21 +51,59 @@ Json accountOrNull(const Library &library, const Summary &summary)
             {"albumsLeftOut", leftOut(albums)}};
 }
 
-Json logOrNull(const Library &library)
+Json references(const std::vector<const CAlbumGroup *> &albums)
 {
-    if (!library.hasLog())
+    Json references = Json::array();
+    for (const CAlbumGroup *album : albums)
+        references.push_back(albumReference(*album));
+    return references;
+}
+
+/// One for each change of a photo, so that each can be counted.
+void addChanges(Json &changes, const LogChange &logChange)
+{
+    const PhotoDifference &photo = logChange.photo;
+    for (const Change change : photo.changes) {
+        const bool isMove = change == Change::Moved;
+        changes.push_back({{"change", logChangeName(change)},
+                           {"uuid", textOrNull(photo.latest().uuid())},
+                           {"path", photo.latest().path()},
+                           {"addedTo", isMove ? references(photo.addedTo) : Json::array()},
+                           {"removedFrom", isMove ? references(photo.removedFrom) : Json::array()},
+                           {"changedFacts", logChange.facts}});
+    }
+}
+
+Json logOrNull(const Library &library, const LogChanges *changes)
+{
+    const WriteAheadLog &log = library.log();
+    if (log.state == LogState::Missing)
         return {};
-    Json changes = Json::array();
-    for (const LogChange &change : library.logChanges())
-        changes.push_back({{"change", machineName(change.kind)},
-                           {"uuid", textOrNull(change.uuid)},
-                           {"path", change.path}});
-    return {{"changes", changes}};
+    Json photos = Json::array();
+    Json albums = Json::array();
+    if (changes != nullptr) {
+        for (const LogChange &change : changes->photos())
+            addChanges(photos, change);
+        albums = albumChanges(changes->albums());
+    }
+    return {{"state", machineName(log.state)},
+            {"commits", log.commits},
+            {"commitsAtLeast", log.commits + log.lostCommits},
+            {"hasOpenChange", log.hasOpenChange},
+            {"isCompared", !library.withoutLog() || library.withoutLog()->isRead},
+            {"changes", std::move(photos)},
+            {"albums", std::move(albums)},
+            {"isInOtherOrder", changes != nullptr && changes->isInOtherOrder()}};
 }
 
 } // namespace
 
-Json infoDocument(const Library &library, const Summary &summary)
+const char *logChangeName(Change change)
+{
+    return change == Change::New ? translatable("added") : changeName(change);
+}
+
+Json infoDocument(const Library &library, const Summary &summary, const LogChanges *changes)
 {
     Json document = libraryHead(library);
     document["isOfMac"] = library.schema().metadata.isOfMac();
@@ -74,7 +114,7 @@ Json infoDocument(const Library &library, const Summary &summary)
     document["lastCreated"] = timeOrNull(summary.lastCreated);
     document["counts"] = counts(library, summary);
     document["account"] = accountOrNull(library, summary);
-    document["log"] = logOrNull(library);
+    document["log"] = logOrNull(library, changes);
     return document;
 }
 

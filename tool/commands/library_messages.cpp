@@ -1,5 +1,6 @@
 #include "commands/library_messages.h"
 
+#include "catalogue/catalogue_build.h"
 #include "commands/problem_words.h"
 #include "commands/reading_stop.h"
 #include "text/lists.h"
@@ -13,6 +14,9 @@ namespace {
 std::string assumptions(const Library &library)
 {
     const Moment &asOf = library.asOf();
+    if (asOf.time == beforeAllTrash)
+        return translate("reading as {0} and {1}", library.schema().iosText(),
+                         library.schema().productText());
     const std::string when = localTimeText(asOf.time);
     return translate("reading as {0} and {1}, as of {2}", library.schema().iosText(),
                      library.schema().productText(),
@@ -56,6 +60,10 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
         terminal.printWarning(label + inWords(*library.schema().gap).what());
     for (const SourceFinding &finding : library.missing())
         terminal.printWarning(label + inWords(finding).what());
+    if (library.log().state == LogState::Good && library.log().hasOpenChange)
+        terminal.printWarning(
+            label + inWords(SourceFinding{SourceProblem::LogEndsInOpenChange, {library.database()}})
+                        .what());
     for (const std::string &sentence :
          sentencesOf(library.report(), library.database(), library.rowLimit()))
         terminal.printWarning(label + sentence);

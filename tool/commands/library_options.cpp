@@ -12,16 +12,22 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
                     translate("Photos.sqlite, media folder, backup folder, or a zip or tar of one"))
         ->required();
     addDeviceOptions(command, request.device);
+    addAsOfOption(
+        command, request.asOf,
+        translate("the moment that counts as now, of a day its beginning, such as 2024-05-01 or "
+                  "now (see TIMES below): what had been in the trash for 30 days then is left "
+                  "out (default: when the source was made)"));
+}
+
+void addAsOfOption(CLI::App &command, std::optional<Moment> &asOf, const std::string &description)
+{
     command
         .add_option_function<std::string>(
             "--as-of",
-            [&request](const std::string &text) {
-                request.asOf = Moment{timeOf(text, "--as-of").first, ""};
+            [&asOf](const std::string &text) {
+                asOf = Moment{timeOf(text, "--as-of").first, ""};
             },
-            translate(
-                "the moment that counts as now, of a day its beginning, such as 2024-05-01 or now "
-                "(see TIMES below): what had been in the trash for 30 days then is left out "
-                "(default: when the source was made)"))
+            description)
         ->type_name(translate("TIME"));
 }
 

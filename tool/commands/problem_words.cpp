@@ -33,6 +33,18 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::LogIsNoLog, Incomplete,
      translatable("the -wal of '{0}' is no write-ahead log, so changes that it was to hold are "
                   "missing; copy it from the device or the backup again, its -wal with it")},
+    {SourceProblem::LogIsDamaged, Incomplete,
+     translatable(
+         "the -wal of '{0}' is damaged: it is good up to commit {1} of at least {2}; "
+         "later changes are missing; copy it from the device or the backup again, its -wal "
+         "with it")},
+    {SourceProblem::LogIsCutShort, Incomplete,
+     translatable("the -wal of '{0}' is damaged: it is good up to commit {1} of at least {1}, and "
+                  "what follows is cut short; later changes may be missing; copy it from the "
+                  "device or the backup again, its -wal with it")},
+    {SourceProblem::LogEndsInOpenChange, Good,
+     translatable("the -wal of '{0}' ends in a change without a commit, as of a device that was "
+                  "still writing, or gave it up; it is left out")},
     {SourceProblem::TooLarge, CannotAccess,
      translatable("cannot read '{0}': it is larger than {1} bytes, which no such file is; copy the "
                   "whole backup again")},

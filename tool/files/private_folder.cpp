@@ -14,22 +14,46 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path makePrivateFolder()
+constexpr char prefix[] = "iosphoto-";
+
+/// Where temporary files go, without what runs left there that were killed.
+fs::path cleanTemporaryPlace()
 {
     const char *const wanted = std::getenv("TMPDIR");
-    const fs::path parent = wanted != nullptr && *wanted != '\0' ? wanted : "/tmp";
-    std::string name = (parent / "iosphoto-XXXXXX").string();
+    const fs::path place = wanted != nullptr && *wanted != '\0' ? wanted : "/tmp";
+    removeFoldersOfTheDead(place, prefix);
+    return place;
+}
+
+fs::path makeFolderIn(const fs::path &place)
+{
+    std::string name = (place / prefix).string() + "XXXXXX";
     if (mkdtemp(name.data()) == nullptr)
         throw Failure(CannotAccess,
                       translate("cannot make a temporary folder in '{0}': {1}; set TMPDIR "
                                 "to a folder that can be written",
-                                parent.string(), systemError(errno)));
+                                place.string(), systemError(errno)));
     return name;
 }
 
 } // namespace
 
-PrivateFolder::PrivateFolder() : folder_(makePrivateFolder) {}
+PrivateFolder::PrivateFolder()
+    : folder_([place = cleanTemporaryPlace()] { return makeFolderIn(place); }), owner_(path())
+{
+}
+
+PrivateFolder::~PrivateFolder()
+{
+    // The mark is to be the last that goes, with the folder.
+    std::error_code error;
+    for (fs::directory_iterator entry(path(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code ignored;
+        if (entry->path().filename() != FolderOwner::mark)
+            fs::remove_all(entry->path(), ignored);
+    }
+}
 
 Failure cannotWriteCopy(const fs::path &file, const std::string &reason)
 {

@@ -1,7 +1,6 @@
 #include "input/private_copy.h"
 
 #include "sqlite/rollback_journal.h"
-#include "sqlite/write_ahead_log.h"
 #include "terminal/busy_line.h"
 #include "text/translate.h"
 
@@ -13,18 +12,13 @@ PrivateCopy::PrivateCopy(Session &session, const Source &source)
     const BusyLine busy(session.terminal, translate("copying the database"));
     source.copyDatabaseTo(folder_.path());
     forgetSuperJournal(database());
+    log_ = readWriteAheadLog(database() + "-wal");
 }
 
-bool PrivateCopy::hasLog() const
+void PrivateCopy::removeLog() const
 {
-    std::error_code ignored;
-    const auto size = std::filesystem::file_size(log(), ignored);
-    return !ignored && size > 0;
-}
-
-bool PrivateCopy::hasReadableLog() const
-{
-    return isWriteAheadLog(log());
+    for (const char *const suffix : {"-wal", "-shm"})
+        std::filesystem::remove(database() + suffix);
 }
 
 } // namespace iosphoto::tool

@@ -4,6 +4,7 @@
 #include "files/private_folder.h"
 #include "input/source.h"
 #include "session/session.h"
+#include "sqlite/write_ahead_log.h"
 
 #include <string>
 
@@ -19,16 +20,15 @@ public:
 
     std::string database() const { return (folder_ / Source::databaseFile).string(); }
 
-    /// Whether a write-ahead log that is not empty came with it.
-    bool hasLog() const;
+    /// The write-ahead log that came with it.
+    const WriteAheadLog &log() const { return log_; }
 
-    /// Whether that log is one, as far as its beginning tells.
-    bool hasReadableLog() const;
+    /// Leaves the database as it is without its log.
+    void removeLog() const;
 
 private:
-    std::string log() const { return database() + "-wal"; }
-
     PrivateFolder folder_;
+    WriteAheadLog log_;
 };
 
 } // namespace iosphoto::tool

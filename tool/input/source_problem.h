@@ -10,6 +10,9 @@ namespace iosphoto::tool {
 enum class SourceProblem {
     VanishedDatabase,       ///< file
     LogIsNoLog,             ///< database; its -wal is something else
+    LogIsDamaged,           ///< database, the commits that are good, those that there are at least
+    LogIsCutShort,          ///< database, the commits that are good
+    LogEndsInOpenChange,    ///< database; nothing is missing if the device gave the change up
     TooLarge,               ///< file, the bytes that it can have
     NoLibrary,              ///< source, path of the database below Media
     EncryptedArchive,       ///< archive

@@ -141,20 +141,25 @@ FieldTable<DifferenceRow> differenceFields()
     return table;
 }
 
-RowsHead differenceHead(const Library &before, const Library &after,
-                        const LibraryDifference &difference)
+Json albumChanges(const std::vector<AlbumDifference> &differences)
 {
     Json albums = Json::array();
-    for (const AlbumDifference &album : difference.albums)
+    for (const AlbumDifference &album : differences)
         albums.push_back({{"change", changeName(album.change)},
                           {"before", referenceOrNull(album.before)},
                           {"after", referenceOrNull(album.after)}});
+    return albums;
+}
+
+RowsHead differenceHead(const Library &before, const Library &after,
+                        const LibraryDifference &difference)
+{
     return {"photos",
             {{"a", libraryHead(before)},
              {"b", libraryHead(after)},
              {"photoCounts", countsOf(difference, allChanges)},
              {"albumCounts", countsOf(difference, allAlbumChanges)},
-             {"albums", std::move(albums)}},
+             {"albums", albumChanges(difference.albums)}},
             {{"a", before.name()}, {"b", after.name()}}};
 }
 

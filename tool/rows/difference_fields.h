@@ -5,6 +5,7 @@
 #include "catalogue/library.h"
 #include "rows/fields.h"
 #include "rows/photo_fields.h"
+#include "text/json.h"
 
 #include <map>
 
@@ -49,6 +50,9 @@ private:
 
 /// What is known about a photo that differs.
 FieldTable<DifferenceRow> differenceFields();
+
+/// The albums that differ, as documents list them.
+Json albumChanges(const std::vector<AlbumDifference> &differences);
 
 /// What a document says besides its photos: the two libraries, the counts and the albums.
 RowsHead differenceHead(const Library &before, const Library &after,

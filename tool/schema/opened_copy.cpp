@@ -2,13 +2,30 @@
 
 namespace iosphoto::tool {
 
+namespace {
+
+std::optional<SourceFinding> missingOf(const WriteAheadLog &log, const std::string &database)
+{
+    if (log.state == LogState::NoLog)
+        return SourceFinding{SourceProblem::LogIsNoLog, {database}};
+    if (log.state != LogState::Damaged)
+        return std::nullopt;
+    const std::string commits = std::to_string(log.commits);
+    if (log.lostCommits == 0)
+        return SourceFinding{SourceProblem::LogIsCutShort, {database, commits}};
+    return SourceFinding{SourceProblem::LogIsDamaged,
+                         {database, commits, std::to_string(log.commits + log.lostCommits)}};
+}
+
+} // namespace
+
 OpenedCopy::OpenedCopy(Session &session, const Source &source, const Device &wanted)
     : shownName_(source.databaseName()), copy_(session, source),
       schema_(probe(connect(), wanted, source.device().value_or(RecordedDevice()))),
       missing_(source.missing())
 {
-    if (copy_.hasLog() && !copy_.hasReadableLog())
-        missing_.push_back({SourceProblem::LogIsNoLog, {shownName_}});
+    if (const auto missing = missingOf(copy_.log(), shownName_))
+        missing_.push_back(*missing);
 }
 
 CopyDatabase OpenedCopy::connect() const

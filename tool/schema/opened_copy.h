@@ -20,7 +20,9 @@ public:
 
     std::string file() const { return copy_.database(); }
     const ProbedSchema &schema() const { return schema_; }
-    bool hasLog() const { return copy_.hasLog(); }
+    const WriteAheadLog &log() const { return copy_.log(); }
+    /// Leaves the database as it is without its log. Connections have to be closed.
+    void removeLog() const { copy_.removeLog(); }
     /// What should be there and is not.
     const std::vector<SourceFinding> &missing() const { return missing_; }
 

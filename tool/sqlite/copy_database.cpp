@@ -73,8 +73,8 @@ bool CopyDatabase::isDatabase() const
     return result == SQLITE_OK;
 }
 
-bool CopyDatabase::areRealTables(const std::vector<std::string> &tables, const std::string &like,
-                                 const std::string &schema) const
+bool CopyDatabase::areRealTables(const std::vector<std::string> &tables,
+                                 const std::string &like) const
 {
     const auto isMeant = [&](const std::string &name) {
         constexpr unsigned escape = '^';
@@ -84,7 +84,7 @@ bool CopyDatabase::areRealTables(const std::vector<std::string> &tables, const s
                });
     };
     std::string impostor;
-    if (findImpostor(connection_.get(), schema, isMeant, impostor) != SQLITE_OK)
+    if (findImpostor(connection_.get(), "main", isMeant, impostor) != SQLITE_OK)
         throw unreadable();
     return impostor.empty();
 }
@@ -133,15 +133,6 @@ void CopyDatabase::forEachRow(const std::string &query,
         take(QueryRow(statement.get()));
     if (result != SQLITE_DONE)
         throw unreadable();
-}
-
-bool CopyDatabase::attachWithoutLog(const std::string &name) const
-{
-    const auto statement = prepare("attach ?1 as " + name);
-    const std::string uri = uriOf(file_) + "?immutable=1";
-    return statement != nullptr &&
-           sqlite3_bind_text(statement.get(), 1, uri.c_str(), -1, SQLITE_TRANSIENT) == SQLITE_OK &&
-           sqlite3_step(statement.get()) == SQLITE_DONE;
 }
 
 SqliteStatement CopyDatabase::prepare(const std::string &text) const

@@ -47,9 +47,7 @@ public:
 
     /// Whether nothing runs where its tables are read: each that is among `tables`, or matches
     /// the pattern of `like`, is no view, no virtual table, and has no column that is computed.
-    /// @param schema  "main", or what was attached
-    bool areRealTables(const std::vector<std::string> &tables, const std::string &like,
-                       const std::string &schema = "main") const;
+    bool areRealTables(const std::vector<std::string> &tables, const std::string &like) const;
 
     bool hasTable(const std::string &table) const;
     bool hasColumn(const std::string &table, const std::string &column) const;
@@ -66,10 +64,6 @@ public:
     /// @param values  for the places of the query
     void forEachRow(const std::string &query, const std::function<void(const QueryRow &)> &take,
                     const std::vector<std::string> &values = {}) const;
-
-    /// Lets queries see the database as it is without its log, as the schema `name`. Returns
-    /// whether that could be done.
-    bool attachWithoutLog(const std::string &name) const;
 
     const std::string &file() const { return file_; }
     const std::string &shownName() const { return shownName_; }

@@ -3,6 +3,7 @@
 #include "formats/big_endian.h"
 
 #include <cstdint>
+#include <cstring>
 #include <fstream>
 #include <string>
 #include <string_view>
@@ -11,34 +12,43 @@ namespace iosphoto::tool {
 
 namespace {
 
-constexpr std::size_t headerSize = 32;
-constexpr std::size_t frameHeaderSize = 24;
+constexpr std::size_t saltSize = 4; // there are two
+
+/// Where the parts of the header are.
+namespace header {
+constexpr std::size_t magic = 0;
+constexpr std::size_t pageSize = 8;
+constexpr std::size_t salts = 16;
+constexpr std::size_t sum = 24;
+constexpr std::size_t size = 32;
+} // namespace header
+
+/// Where those of each frame are; the page follows.
+namespace frame {
+constexpr std::size_t pageNumber = 0;
+constexpr std::size_t commit = 4; ///< 0 but in the last frame of a commit
+constexpr std::size_t salts = 8;
+constexpr std::size_t sum = 16;
+constexpr std::size_t size = 24;
+} // namespace frame
 
 std::uint32_t bigEndian(std::string_view bytes, std::size_t at)
 {
     return static_cast<std::uint32_t>(tool::bigEndian(bytes.substr(at, sizeof(std::uint32_t))));
 }
 
-std::uint32_t littleEndian(std::string_view bytes, std::size_t at)
-{
-    std::uint32_t value = 0;
-    for (std::size_t i = sizeof value; i > 0; --i)
-        value = value << 8U | static_cast<unsigned char>(bytes[at + i - 1]);
-    return value;
-}
-
 /// The sum that goes on from the header through all frames.
 class Checksum
 {
 public:
-    explicit Checksum(bool isBigEndian) : word_(isBigEndian ? bigEndian : littleEndian) {}
+    explicit Checksum(bool isBigEndian = false)
+        : isSwapped_(isBigEndian == (__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__))
+    {
+    }
 
     void add(std::string_view bytes)
     {
-        for (std::size_t at = 0; at + 8 <= bytes.size(); at += 8) {
-            first_ += word_(bytes, at) + second_;
-            second_ += word_(bytes, at + 4) + first_;
-        }
+        isSwapped_ ? addWords<true>(bytes) : addWords<false>(bytes);
     }
 
     bool isAt(std::string_view bytes, std::size_t at) const
@@ -47,18 +57,34 @@ public:
     }
 
 private:
-    std::uint32_t (*word_)(std::string_view, std::size_t);
+    template <bool isSwapped>
+    void addWords(std::string_view bytes)
+    {
+        for (std::size_t at = 0; at + 8 <= bytes.size(); at += 8) {
+            first_ += word<isSwapped>(bytes, at) + second_;
+            second_ += word<isSwapped>(bytes, at + 4) + first_;
+        }
+    }
+
+    /// Logs may have gigabytes.
+    template <bool isSwapped>
+    static std::uint32_t word(std::string_view bytes, std::size_t at)
+    {
+        std::uint32_t word = 0;
+        std::memcpy(&word, bytes.data() + at, sizeof word);
+        return isSwapped ? __builtin_bswap32(word) : word;
+    }
+
+    bool isSwapped_; ///< whether the words are stored in the other order than this machine's
     std::uint32_t first_ = 0;
     std::uint32_t second_ = 0;
 };
 
-/// Shorter where the file ends before.
-std::string read(std::istream &file, std::size_t size)
+/// Fills `bytes`, which become fewer where the file ends before.
+void read(std::istream &file, std::string &bytes)
 {
-    std::string bytes(size, '\0');
-    file.read(bytes.data(), static_cast<std::streamsize>(size));
+    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(file.gcount()));
-    return bytes;
 }
 
 bool isPageSize(std::uint32_t size)
@@ -68,36 +94,125 @@ bool isPageSize(std::uint32_t size)
     return size >= smallest && size <= largest && (size & (size - 1)) == 0;
 }
 
-/// Whether the first frame is whole. One that is cut short was still being written, and one with
-/// another salt is left over from before the log was begun anew.
-bool isFrameWhole(std::string_view frame, std::string_view header, Checksum sum)
+/// Goes through the frames of a log one by one, as SQLite does before it applies them, and on
+/// behind the first that is not good, where SQLite stops.
+class FrameWalk
 {
-    constexpr std::size_t salt = 16;
-    constexpr std::size_t frameSalt = 8;
-    constexpr std::size_t saltSize = 8;
-    if (frame.size() < frameHeaderSize + bigEndian(header, 8) ||
-        frame.substr(frameSalt, saltSize) != header.substr(salt, saltSize))
-        return true;
-    sum.add(frame.substr(0, frameSalt));
-    sum.add(frame.substr(frameHeaderSize));
-    return sum.isAt(frame, frameSalt + saltSize);
-}
+public:
+    /// Whether the header is one. The frames follow it.
+    bool begin(std::string_view head)
+    {
+        constexpr std::uint32_t magic = 0x377f0682;
+        if (head.size() < header::size || (bigEndian(head, header::magic) & ~1U) != magic ||
+            !isPageSize(bigEndian(head, header::pageSize)))
+            return false;
+        frameSize_ = frame::size + bigEndian(head, header::pageSize);
+        salts_ = head.substr(header::salts, 2 * saltSize);
+        sum_ = Checksum((bigEndian(head, header::magic) & 1U) != 0);
+        sum_.add(head.substr(0, header::sum));
+        return sum_.isAt(head, header::sum);
+    }
+
+    std::size_t frameSize() const { return frameSize_; }
+
+    /// @param bytes  fewer than those of a frame at the end of a file that is cut off
+    void take(std::string_view bytes)
+    {
+        isGood_ = isGood_ && isNext(bytes);
+        if (isGood_)
+            count(bytes, commits_);
+        else
+            takeBehind(bytes);
+    }
+
+    WriteAheadLog result() const
+    {
+        const bool isDamaged = lostCommits_ > 0 || isTorn_;
+        return {isDamaged ? LogState::Damaged : LogState::Good, commits_, lostCommits_, isOpen_};
+    }
+
+private:
+    /// Whether a frame is whole and goes on from the one before.
+    bool isNext(std::string_view bytes)
+    {
+        if (bytes.size() < frameSize_ || bigEndian(bytes, frame::pageNumber) == 0 ||
+            bytes.substr(frame::salts, 2 * saltSize) != salts_)
+            return false;
+        sum_.add(bytes.substr(0, frame::salts));
+        sum_.add(bytes.substr(frame::size));
+        return sum_.isAt(bytes, frame::sum);
+    }
+
+    /// Behind the last good frame are, in a sound log, frames of an earlier log that began at the
+    /// same place, or of a change that was given up.
+    void takeBehind(std::string_view bytes)
+    {
+        if (isOfThisLog(bytes))
+            count(bytes, lostCommits_);
+        else if (bytes.size() == frameSize_ && !isBlank(bytes))
+            isBehindEarlierLog_ = true;
+        const bool isTorn = bytes.size() < frameSize_ || isBlank(bytes);
+        isTorn_ = isTorn_ || (isTorn && (!isBehindEarlierLog_ || isOfThisLog(bytes)));
+    }
+
+    /// A new log changes both salts, damage hardly does.
+    bool isOfThisLog(std::string_view bytes) const
+    {
+        if (bytes.size() < frame::sum)
+            return false;
+        const auto salt = [](std::string_view salts, std::size_t which) {
+            return salts.substr(which * saltSize, saltSize);
+        };
+        const std::string_view salts = bytes.substr(frame::salts, 2 * saltSize);
+        return salt(salts, 0) == salt(salts_, 0) || salt(salts, 1) == salt(salts_, 1);
+    }
+
+    static bool isBlank(std::string_view bytes)
+    {
+        return bytes.substr(0, frame::size).find_first_not_of('\0') == std::string_view::npos;
+    }
+
+    void count(std::string_view bytes, std::int64_t &commits)
+    {
+        isOpen_ = bigEndian(bytes, frame::commit) == 0;
+        commits += isOpen_ ? 0 : 1;
+    }
+
+    std::size_t frameSize_ = 0;
+    std::string salts_;
+    Checksum sum_;
+    bool isGood_ = true;              ///< all so far
+    bool isOpen_ = false;             ///< the last of this log ends no commit
+    bool isTorn_ = false;             ///< the end of this log is cut off or blank
+    bool isBehindEarlierLog_ = false; ///< which this one did not overwrite, so it ends before
+    std::int64_t commits_ = 0;
+    std::int64_t lostCommits_ = 0;
+};
 
 } // namespace
 
-bool isWriteAheadLog(const std::filesystem::path &file)
+const char *machineName(LogState state)
 {
-    constexpr std::uint32_t magic = 0x377f0682;
+    constexpr const char *names[] = {"missing", "empty", "no-log", "damaged", "good"};
+    return names[static_cast<int>(state)];
+}
+
+WriteAheadLog readWriteAheadLog(const std::filesystem::path &file)
+{
     std::ifstream in(file, std::ios::binary);
-    const std::string header = read(in, headerSize);
-    if (header.size() < headerSize || (bigEndian(header, 0) & ~1U) != magic ||
-        !isPageSize(bigEndian(header, 8)))
-        return false;
-    Checksum sum((bigEndian(header, 0) & 1U) != 0);
-    constexpr std::size_t sumAt = 24;
-    sum.add(std::string_view(header).substr(0, sumAt));
-    return sum.isAt(header, sumAt) &&
-           isFrameWhole(read(in, frameHeaderSize + bigEndian(header, 8)), header, sum);
+    if (!in)
+        return {};
+    std::string bytes(header::size, '\0');
+    read(in, bytes);
+    if (bytes.empty())
+        return {LogState::Empty};
+    FrameWalk walk;
+    if (!walk.begin(bytes))
+        return {LogState::NoLog};
+    for (bytes.resize(walk.frameSize()); read(in, bytes), !bytes.empty();
+         bytes.resize(walk.frameSize()))
+        walk.take(bytes);
+    return walk.result();
 }
 
 } // namespace iosphoto::tool

@@ -74,7 +74,7 @@ protected:
     /// Database and log are there, as they were, and nothing else.
     void expectDatabaseOf(const Source &source) const
     {
-        const PrivateFolder folder;
+        const TemporaryFolder folder;
         source.copyDatabaseTo(folder.path());
         EXPECT_EQ(readFile(folder / "Photos.sqlite"), readFile(library_.path()));
         EXPECT_EQ(readFile(folder / "Photos.sqlite-wal"), readFile(library_.path() + "-wal"));

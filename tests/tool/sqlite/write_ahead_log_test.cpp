@@ -1,100 +1,211 @@
 #include "sqlite/write_ahead_log.h"
 
 #include "support/library_builder.h"
-#include "support/run_tool.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+using namespace iosphoto;
 using namespace iosphoto::test;
-using iosphoto::tool::isWriteAheadLog;
-using testing::HasSubstr;
+using namespace iosphoto::tool;
 
+namespace fs = std::filesystem;
+
+namespace iosphoto::tool {
+
+static bool operator==(const WriteAheadLog &left, const WriteAheadLog &right)
+{
+    return left.state == right.state && left.commits == right.commits &&
+           left.lostCommits == right.lostCommits && left.hasOpenChange == right.hasOpenChange;
+}
+
+static std::ostream &operator<<(std::ostream &out, const WriteAheadLog &log)
+{
+    return out << machineName(log.state) << ", " << log.commits << " and " << log.lostCommits
+               << (log.hasOpenChange ? ", open" : "");
+}
+
+} // namespace iosphoto::tool
+
+namespace {
+
+constexpr std::size_t headerSize = 32;
+constexpr std::size_t frameSize = 24 + 4096;
+
+/// Where a frame begins, and behind the last the end.
+constexpr std::size_t at(std::size_t frame)
+{
+    return headerSize + frame * frameSize;
+}
+
+} // namespace
+
+/// A log of three commits with a frame each, then one with several.
 class ToolWriteAheadLog : public testing::Test
 {
 protected:
     ToolWriteAheadLog()
     {
+        library_.execute("create table other (a); insert into other values (0)");
         library_.execute("pragma journal_mode = wal; pragma wal_autocheckpoint = 0");
-        library_.asset("IMG_0001.JPG");
+        for (const char *sql :
+             {"update other set a = 1", "update other set a = 2", "update other set a = 3",
+              "insert into other values (zeroblob(20000))"})
+            library_.execute(sql);
         log_ = readFile(library_.path() + "-wal");
-        EXPECT_GT(log_.size(), 8192U);
+        EXPECT_GT(log_.size(), at(5));
+        EXPECT_EQ((log_.size() - headerSize) % frameSize, 0U);
     }
 
-    bool isLog(const std::string &content) const
+    WriteAheadLog read(const std::string &content) const
     {
         writeFile(folder_ / "log", content);
-        return isWriteAheadLog(folder_ / "log");
+        return readWriteAheadLog(folder_ / "log");
     }
 
     std::string changed(std::size_t at) const
     {
         std::string log = log_;
-        log[at] ^= '\x01';
+        log.at(at) = static_cast<char>(log.at(at) ^ '\x01');
         return log;
     }
+
+    std::size_t frames() const { return (log_.size() - headerSize) / frameSize; }
 
     LibraryBuilder library_ = LibraryBuilder(ios15);
     TemporaryFolder folder_;
     std::string log_;
 };
 
-TEST_F(ToolWriteAheadLog, IsKnownByItsHeader)
+TEST_F(ToolWriteAheadLog, IsGoodToItsEnd)
 {
-    constexpr std::size_t headerSize = 32;
-    EXPECT_TRUE(isLog(log_));
-    EXPECT_TRUE(isLog(log_.substr(0, headerSize)));
-    for (std::size_t at = 0; at < headerSize; ++at)
-        EXPECT_FALSE(isLog(changed(at))) << at;
-    EXPECT_FALSE(isLog(log_.substr(0, headerSize - 1)));
-    EXPECT_FALSE(isLog(""));
-    EXPECT_FALSE(isWriteAheadLog(folder_ / "missing"));
+    EXPECT_EQ(read(log_), (WriteAheadLog{LogState::Good, 4, 0, false}));
+    EXPECT_EQ(read(log_.substr(0, headerSize)), (WriteAheadLog{LogState::Good, 0, 0, false}));
 }
 
-TEST_F(ToolWriteAheadLog, IsKnownByItsFirstFrame)
+TEST_F(ToolWriteAheadLog, IsKnownByItsHeader)
 {
-    constexpr std::size_t frame = 32;
-    constexpr std::size_t salt = frame + 8;
-    constexpr std::size_t sum = frame + 16;
-    constexpr std::size_t page = frame + 24;
-    for (const std::size_t at : {frame, frame + 7, sum, sum + 7, page, page + 100})
-        EXPECT_FALSE(isLog(changed(at))) << at;
-    EXPECT_TRUE(isLog(changed(salt))) << "it is left over";
-    EXPECT_TRUE(isLog(log_.substr(0, page + 100))) << "it was being written";
+    for (std::size_t byte = 0; byte < headerSize; ++byte)
+        EXPECT_EQ(read(changed(byte)), (WriteAheadLog{LogState::NoLog})) << byte;
+    EXPECT_EQ(read(log_.substr(0, headerSize - 1)), (WriteAheadLog{LogState::NoLog}));
+    EXPECT_EQ(read(""), (WriteAheadLog{LogState::Empty}));
+    EXPECT_EQ(readWriteAheadLog(folder_ / "missing"), (WriteAheadLog{LogState::Missing}));
+}
+
+TEST_F(ToolWriteAheadLog, AnyChangedByteOfAFrameIsDamage)
+{
+    // The page number, the salts, the sums, the page; of the commit only that it is one.
+    for (const std::size_t byte : {0U, 3U, 8U, 12U, 15U, 16U, 23U, 24U, 1000U, 4119U}) {
+        EXPECT_EQ(read(changed(at(0) + byte)), (WriteAheadLog{LogState::Damaged, 0, 4})) << byte;
+        EXPECT_EQ(read(changed(at(2) + byte)), (WriteAheadLog{LogState::Damaged, 2, 2})) << byte;
+        EXPECT_EQ(read(changed(at(frames() - 1) + byte)), (WriteAheadLog{LogState::Damaged, 3, 1}))
+            << byte;
+    }
+}
+
+TEST_F(ToolWriteAheadLog, EndThatIsCutOffIsDamage)
+{
+    for (const std::size_t rest : {1U, 15U, 16U, 23U, 24U, 4119U}) {
+        EXPECT_EQ(read(log_.substr(0, at(2) + rest)).state, LogState::Damaged) << rest;
+        EXPECT_EQ(read(log_.substr(0, at(2) + rest)).commits, 2) << rest;
+    }
+    EXPECT_EQ(read(log_.substr(0, at(2) + 1)).lostCommits, 0) << "perhaps it had none";
+    EXPECT_EQ(read(log_.substr(0, at(2) + 16)).lostCommits, 1) << "the mark is there";
+    EXPECT_EQ(read(log_ + "x").state, LogState::Damaged);
+}
+
+TEST_F(ToolWriteAheadLog, EndThatIsBlankIsDamage)
+{
+    std::string log = log_;
+    log.replace(at(2), std::string::npos, log.size() - at(2), '\0');
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 2, 0}));
+}
+
+TEST_F(ToolWriteAheadLog, ChangeWithoutACommitIsOpenAndNoDamage)
+{
+    EXPECT_EQ(read(log_.substr(0, at(4))), (WriteAheadLog{LogState::Good, 3, 0, true}));
+    EXPECT_EQ(read(log_.substr(0, at(3))), (WriteAheadLog{LogState::Good, 3, 0, false}));
+}
+
+TEST_F(ToolWriteAheadLog, FramesOfAChangeThatWasGivenUpAreNoDamage)
+{
+    // A shorter change overwrote the beginning: what is left carries the salts, and sums that do
+    // not go on from it.
+    std::string log = log_.substr(0, at(3)) + log_.substr(at(4));
+    log.resize(log.size() - frameSize);
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Good, 3, 0, true}));
+}
+
+TEST_F(ToolWriteAheadLog, FramesOfAnEarlierLogBehindItAreNoDamage)
+{
+    library_.execute("pragma wal_checkpoint(restart)");
+    library_.execute("update other set a = 4");
+    std::string log = readFile(library_.path() + "-wal");
+    ASSERT_EQ(log.size(), log_.size());
+    ASSERT_NE(log.substr(0, headerSize), log_.substr(0, headerSize));
+    const auto isGood = [&] {
+        const WriteAheadLog found = read(log);
+        EXPECT_EQ(found.state, LogState::Good);
+        EXPECT_FALSE(found.hasOpenChange);
+        return found.commits > 0 && found.lostCommits == 0;
+    };
+    EXPECT_TRUE(isGood());
+    log.resize(log.size() - 100); // as with a limit for its size
+    EXPECT_TRUE(isGood());
+}
+
+TEST_F(ToolWriteAheadLog, AppliesAsManyCommitsAsSqlite)
+{
+    const std::string copy = (folder_ / "Photos.sqlite").string();
+    for (std::size_t frame = 0; frame < frames(); ++frame) {
+        fs::remove(copy + "-shm");
+        writeFile(copy, readFile(library_.path()));
+        writeFile(copy + "-wal", changed(at(frame) + 100));
+        sqlite3 *database = nullptr;
+        ASSERT_EQ(sqlite3_open(copy.c_str(), &database), SQLITE_OK);
+        const SqliteConnection owned(database);
+        sqlite3_stmt *statement = nullptr;
+        sqlite3_prepare_v2(database, "select iif(count(*) > 1, 4, max(a)) from other", -1,
+                           &statement, nullptr);
+        const SqliteStatement ownedStatement(statement);
+        ASSERT_EQ(sqlite3_step(statement), SQLITE_ROW);
+        EXPECT_EQ(sqlite3_column_int(statement, 0), read(changed(at(frame) + 100)).commits)
+            << frame;
+    }
 }
 
 TEST_F(ToolWriteAheadLog, OfTheOtherByteOrder)
 {
-    // The header of an empty log of 4096-byte pages whose sums are of big-endian words.
-    const std::string header("\x37\x7f\x06\x83\x00\x2d\xe2\x18\x00\x00\x10\x00", 12);
-    std::string rest(12, '\0');
+    // Its sums are of big-endian words; SQLite writes such logs on machines of that order.
+    std::string log("\x37\x7f\x06\x83\x00\x2d\xe2\x18\x00\x00\x02\x00\x00\x00\x00\x00SALTsalt", 24);
     std::uint32_t first = 0;
     std::uint32_t second = 0;
-    const std::string summed = header + rest;
-    const auto word = [&](std::size_t at) {
-        std::uint32_t value = 0;
-        for (std::size_t i = 0; i < 4; ++i)
-            value = value << 8U | static_cast<unsigned char>(summed[at + i]);
-        return value;
+    const auto add = [&](const std::string &bytes) {
+        const auto word = [&](std::size_t place) {
+            std::uint32_t value = 0;
+            for (std::size_t i = 0; i < 4; ++i)
+                value = value << 8U | static_cast<unsigned char>(bytes[place + i]);
+            return value;
+        };
+        for (std::size_t place = 0; place < bytes.size(); place += 8) {
+            first += word(place) + second;
+            second += word(place + 4) + first;
+        }
     };
-    for (std::size_t at = 0; at < summed.size(); at += 8) {
-        first += word(at) + second;
-        second += word(at + 4) + first;
-    }
-    std::string sums;
-    for (const std::uint32_t sum : {first, second})
-        for (unsigned shift = 32; shift > 0; shift -= 8)
-            sums += static_cast<char>(sum >> (shift - 8) & 0xffU);
-    EXPECT_TRUE(isLog(summed + sums));
-}
-
-TEST_F(ToolWriteAheadLog, ThatIsDamagedIsSaid)
-{
-    constexpr std::size_t page = 56;
-    const std::string copy = (folder_ / "Photos.sqlite").string();
-    writeFile(copy, readFile(library_.path()));
-    writeFile(copy + "-wal", changed(page + 100));
-    const ToolRun run = runTool({"albums", copy});
-    EXPECT_THAT(run.error, HasSubstr("the -wal of '" + copy + "' is no write-ahead log"));
-    EXPECT_EQ(run.status, 1);
+    const auto sums = [&] {
+        std::string text;
+        for (const std::uint32_t sum : {first, second})
+            for (unsigned shift = 32; shift > 0; shift -= 8)
+                text += static_cast<char>(sum >> (shift - 8) & 0xffU);
+        return text;
+    };
+    add(log);
+    log += sums();
+    const std::string numbers("\x00\x00\x00\x01\x00\x00\x00\x01", 8);
+    const std::string page(512, 'p');
+    add(numbers);
+    add(page);
+    log += numbers + "SALTsalt" + sums() + page;
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Good, 1, 0, false}));
+    log.back() = 'q';
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 0, 1, false}));
 }

@@ -1,0 +1,75 @@
+#include "catalogue/without_log.h"
+
+#include "catalogue/catalogue_build.h"
+#include "process/failure.h"
+#include "schema/asset_tables.h"
+
+#include <algorithm>
+
+namespace iosphoto::tool {
+
+namespace {
+
+/// The device to read the database as; nothing where it fits none. It may have the schema of the
+/// iOS before an update that is in the log still.
+std::optional<Device> fittingDevice(const CopyDatabase &database, const Device &withLog)
+{
+    for (const Device &wanted : {withLog, Device()}) {
+        try {
+            return probe(database, wanted, RecordedDevice()).device;
+        } catch (const SchemaError &) { // try the next
+        }
+    }
+    return std::nullopt;
+}
+
+bool hasPhotos(const CatalogueBuild &build)
+{
+    const std::vector<CAlbumGroup> &albums = build.catalogue.albums;
+    return std::any_of(albums.begin(), albums.end(),
+                       [](const CAlbumGroup &album) { return !album.photos.empty(); });
+}
+
+DatedCatalogue dated(OwnedCatalogue catalogue, const CopyDatabase &database)
+{
+    KnownDates dates(database, catalogue.albums);
+    return {std::move(catalogue), std::move(dates)};
+}
+
+void readAlone(const Session &session, const OpenedCopy &copy, UnixTime asOf, WithoutLog &without)
+{
+    const CopyDatabase database = copy.connect();
+    if (database.isDatabase() && assetTableOf(database).empty()) {
+        without.isRead = true;
+        return;
+    }
+    const std::optional<Device> device = fittingDevice(database, copy.schema().device);
+    if (!device)
+        return;
+    CatalogueBuild build = buildCatalogue(session, copy.file(), *device, beforeAllTrash);
+    without.isRead = build.isComplete() && (hasPhotos(build) || !areAssetTablesDamaged(database));
+    without.without = dated(std::move(build.catalogue), database);
+    without.trash = Trash(database, asOf);
+}
+
+} // namespace
+
+WithoutLog readWithoutLog(const Session &session, const OpenedCopy &copy, UnixTime asOf,
+                          bool trashLeavesOut)
+{
+    WithoutLog without;
+    try {
+        if (trashLeavesOut)
+            without.withLog =
+                dated(buildCatalogue(session, copy.file(), copy.schema().device, beforeAllTrash)
+                          .catalogue,
+                      copy.connect());
+        copy.removeLog();
+        readAlone(session, copy, asOf, without);
+    } catch (const Failure &) {
+        without.isRead = false;
+    }
+    return without;
+}
+
+} // namespace iosphoto::tool
