@@ -1,13 +1,14 @@
 #include "catalogue/library.h"
 
 #include "catalogue/album_account.h"
-
+#include "model/clock.h"
 #include "model/model_devicephoto_dbmgr.h"
 #include "model/store/database_path.h"
 #include "model/store/stored_bytes.h"
 #include "schema/asset_tables.h"
 #include "terminal/busy_line.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <algorithm>
 #include <limits>
@@ -45,7 +46,10 @@ Moment ownTimeOf(const Source &source)
 {
     if (const auto date = source.backupDate())
         return {*date, translate("Last Backup Date")};
-    return {source.lastChange(), translate("its last change")};
+    if (source.isBareStream())
+        return {{currentUnixTime()}, translate("now, as standard input has no date")};
+    const std::string zone = source.isLastChangeWithoutZone() ? timeZoneName() : "";
+    return {source.lastChange(), translate("its last change"), zone};
 }
 
 Library::Library(Session &session, const LibraryRequest &request)
@@ -60,6 +64,8 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     database_ = source.databaseName();
     kind_ = source.kind();
     isArchive_ = source.isArchive();
+    isBareStream_ = source.isBareStream();
+    identity_ = source.identity();
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);
     read(session, copy);

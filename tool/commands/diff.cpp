@@ -5,6 +5,8 @@
 #include "commands/library_options.h"
 #include "commands/option_values.h"
 #include "commands/row_format_options.h"
+#include "files/standard_input.h"
+#include "process/failure.h"
 #include "rows/difference_fields.h"
 #include "text/translate.h"
 
@@ -65,11 +67,16 @@ ExitStatus statusOf(const Library &before, const Library &after,
 /// Both libraries are read as of one moment, so that time alone makes no photo leave the trash.
 Moment earlierOf(const Moment &one, const Moment &other)
 {
-    return {std::min(one.time, other.time), translate("the earlier of both")};
+    const Moment &earlier = std::min(
+        one, other, [](const Moment &left, const Moment &right) { return left.time < right.time; });
+    return {earlier.time, translate("the earlier of both"), earlier.assumedZone};
 }
 
 ExitStatus showDifference(const DiffRequest &request, Session &session, std::ostream &out)
 {
+    if (isStandardInput(request.before) && isStandardInput(request.after))
+        throw Failure(WrongUsage, translate("A and B cannot both be standard input; name a file "
+                                            "for one of them"));
     const Source first(session, request.before);
     const Source second(session, request.after);
     const Moment now = earlierOf(ownTimeOf(first), ownTimeOf(second));

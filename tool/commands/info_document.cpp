@@ -66,6 +66,8 @@ Json logOrNull(const Library &library)
 Json infoDocument(const Library &library, const Summary &summary)
 {
     Json document = libraryHead(library);
+    document["deviceName"] = textOrNull(library.identity().name);
+    document["serialNumber"] = textOrNull(library.identity().serialNumber);
     document["isOfMac"] = library.schema().metadata.isOfMac();
     document["albumCount"] = library.albums().size();
     document["photoCount"] = summary.all.count;

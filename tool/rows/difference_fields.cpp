@@ -149,13 +149,15 @@ RowsHead differenceHead(const Library &before, const Library &after,
         albums.push_back({{"change", changeName(album.change)},
                           {"before", referenceOrNull(album.before)},
                           {"after", referenceOrNull(album.after)}});
+    Json names = sourceNamed("a", before);
+    names.update(sourceNamed("b", after));
     return {"photos",
             {{"a", libraryHead(before)},
              {"b", libraryHead(after)},
              {"photoCounts", countsOf(difference, allChanges)},
              {"albumCounts", countsOf(difference, allAlbumChanges)},
              {"albums", std::move(albums)}},
-            {{"a", before.name()}, {"b", after.name()}}};
+            std::move(names)};
 }
 
 } // namespace iosphoto::tool
