@@ -52,6 +52,21 @@ std::optional<std::int64_t> countAssets(Session &session, const LibraryDescripti
     }
 }
 
+/// Only its name, and why, where its records cannot be read.
+LibraryDescription describeOrSayWhy(Session &session, const FileTree &tree,
+                                    const FoundLibrary &library)
+{
+    LibraryDescription unknown = {library.kind, tree.shown(library.path), {}, {}, {}, {}, {}, {}};
+    try {
+        return describe(session, tree, library);
+    } catch (const Failure &failure) {
+        unknown.findings = {{SourceProblem::UnsearchedPlaces, {unknown.name, "1", failure.what()}}};
+    } catch (const SourceError &error) {
+        unknown.findings = {error.finding()};
+    }
+    return unknown;
+}
+
 bool isBefore(const ListedLibrary &one, const ListedLibrary &other)
 {
     const auto order = [](const LibraryDescription &library) {
@@ -76,7 +91,7 @@ LibraryList listLibraries(Session &session, const std::string &name)
     LibraryList list;
     list.unsearched = search.unsearched;
     for (const FoundLibrary &found : search.libraries) {
-        const LibraryDescription library = describe(session, *place.tree, found);
+        const LibraryDescription library = describeOrSayWhy(session, *place.tree, found);
         list.findings.insert(list.findings.end(), library.findings.begin(), library.findings.end());
         list.libraries.push_back({library, countAssets(session, library, place.tree->isArchive())});
     }

@@ -22,6 +22,7 @@ constexpr const char *mbdb = backupIndexNames[1];
 /// The bytes that a database has by its header; nothing where that is cut off itself.
 std::optional<std::uint64_t> wholeSize(const fs::path &databaseFile)
 {
+    constexpr std::string_view magic = "SQLite format 3";
     constexpr std::size_t headerSize = 100;
     std::array<char, headerSize> header = {};
     std::ifstream(databaseFile, std::ios::binary).read(header.data(), header.size());
@@ -29,8 +30,10 @@ std::optional<std::uint64_t> wholeSize(const fs::path &databaseFile)
     const std::uint64_t pageSize = bigEndian(bytes.substr(16, 2));
     constexpr std::uint64_t largestPage = 65536; // written as 1
     const std::uint64_t pages = bigEndian(bytes.substr(28, 4));
-    return pages > 0 ? std::make_optional(pages * (pageSize == 1 ? largestPage : pageSize))
-                     : std::nullopt;
+    const bool isHeader = bytes.substr(0, magic.size()) == magic;
+    return isHeader && pages > 0
+               ? std::make_optional(pages * (pageSize == 1 ? largestPage : pageSize))
+               : std::nullopt;
 }
 
 } // namespace
