@@ -138,8 +138,8 @@ TEST_F(InfoOfABackup, NamesTheDeviceAndItsSerialNumber)
     const json document = json::parse(info({}).out);
     EXPECT_EQ(document["deviceName"], "Somebody's");
     EXPECT_EQ(document["serialNumber"], "F2LXK0ABCD");
-    EXPECT_THAT(info({}, "--quiet").out, testing::HasSubstr("\nName                   Somebody's\n"
-                                                            "Serial number          F2LXK0ABCD\n"));
+    EXPECT_THAT(info({}, "--quiet").out,
+                testing::HasSubstr("\nName         Somebody's\nSerial       F2LXK0ABCD\n"));
 }
 
 TEST_F(InfoOfABackup, TakesThemFromManifestWhereInfoIsMissing)
