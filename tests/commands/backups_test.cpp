@@ -133,6 +133,22 @@ TEST_F(ToolBackups, ThatAreNotFinishedAreSaid)
     EXPECT_EQ(documentOf(all_)["isComplete"], false);
 }
 
+TEST_F(ToolBackups, ThatLackFilesAreSaid)
+{
+    BackupOptions options;
+    options.notStored = {mediaLog};
+    writeBackup(all_ / "half", library_, options);
+    options.notStored = {mediaDatabase};
+    writeBackup(all_ / "empty", library_, options);
+    const ToolRun run = backups({all_.string()});
+    EXPECT_THAT(run.out, testing::ContainsRegex("unknown  .*empty\n"));
+    EXPECT_THAT(run.error,
+                testing::AllOf(HasSubstr("the latest changes are missing: the stored file '" +
+                                         (all_ / "half").string()),
+                               HasSubstr(quoted(all_ / "empty") + " is half a backup")));
+    EXPECT_EQ(run.status, 1);
+}
+
 TEST_F(ToolBackups, StayAsTheyWere)
 {
     const auto before = allOf(all_);

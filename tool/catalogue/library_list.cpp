@@ -33,22 +33,23 @@ std::optional<std::int64_t> rowsIn(const CopyDatabase &database)
     return count;
 }
 
-/// Of an archive, each library would take a reading from its beginning.
-std::optional<std::int64_t> countAssets(Session &session, const LibraryDescription &library,
-                                        bool isInArchive)
+/// Counts the photos of a library that was described, and finds what is missing from it. Of an
+/// archive, each library would take a reading from its beginning.
+void look(Session &session, ListedLibrary &library, bool isInArchive)
 {
-    if (isInArchive || library.isEncrypted == true)
-        return std::nullopt;
+    LibraryDescription &description = library.description;
+    if (isInArchive || description.isEncrypted == true)
+        return;
     try {
-        const Source source(session, library.name);
+        const Source source(session, description.name);
+        description.findings = source.missing();
         if (!isSmall(source))
-            return std::nullopt;
+            return;
         const PrivateCopy copy(session, source);
-        return rowsIn({copy.database(), source.databaseName()});
+        library.assetCount = rowsIn({copy.database(), source.databaseName()});
+    } catch (const SourceError &error) {
+        description.findings.push_back(error.finding());
     } catch (const Failure &) { // who reads the library is told
-        return std::nullopt;
-    } catch (const SourceError &) {
-        return std::nullopt;
     }
 }
 
@@ -91,9 +92,11 @@ LibraryList listLibraries(Session &session, const std::string &name)
     LibraryList list;
     list.unsearched = search.unsearched;
     for (const FoundLibrary &found : search.libraries) {
-        const LibraryDescription library = describeOrSayWhy(session, *place.tree, found);
-        list.findings.insert(list.findings.end(), library.findings.begin(), library.findings.end());
-        list.libraries.push_back({library, countAssets(session, library, place.tree->isArchive())});
+        ListedLibrary library = {describeOrSayWhy(session, *place.tree, found), std::nullopt};
+        look(session, library, place.tree->isArchive());
+        const std::vector<SourceFinding> &findings = library.description.findings;
+        list.findings.insert(list.findings.end(), findings.begin(), findings.end());
+        list.libraries.push_back(std::move(library));
     }
     std::sort(list.libraries.begin(), list.libraries.end(), isBefore);
     return list;
