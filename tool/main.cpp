@@ -1,5 +1,7 @@
 #include "commands/command.h"
+#include "commands/command_line.h"
 #include "commands/general_options.h"
+#include "commands/help.h"
 #include "commands/problem_words.h"
 #include "commands/wrong_usage.h"
 #include "evidence/evidence.h"
@@ -23,6 +25,19 @@ namespace {
 
 using namespace iosphoto::tool;
 
+void parse(CLI::App &app, const std::vector<std::string> &commandLine)
+{
+    const auto firstWord = commandLine.begin() + (commandLine.empty() ? 0 : 1);
+    const std::vector<std::string> words = completed(app, {firstWord, commandLine.end()});
+    try {
+        app.parse(std::vector<std::string>(words.rbegin(), words.rend())); // as it wants them
+    } catch (const CLI::ParseError &error) {
+        if (error.get_exit_code() == 0) // --help, --version
+            throw;
+        throw wrongUsage(app, words, error);
+    }
+}
+
 /// Parses and runs a command.
 int run(Session &session, int argumentCount, char **arguments)
 {
@@ -36,14 +51,13 @@ int run(Session &session, int argumentCount, char **arguments)
     std::optional<std::string> evidence;
     for (const Command &command : commands)
         addEvidenceOption(*command.options, evidence);
+    app.footer(helpFooter({shortForms()}));
     addGeneralOptions(app, session.terminal, "iosphoto " IOSPHOTO_VERSION);
     const std::vector<std::string> commandLine(arguments, arguments + argumentCount);
     try {
-        app.parse(argumentCount, arguments);
-    } catch (const CLI::ParseError &error) {
-        if (error.get_exit_code() == 0) // --help, --version
-            return app.exit(error);
-        throw wrongUsage(app, commandLine, error);
+        parse(app, commandLine);
+    } catch (const CLI::ParseError &asked) { // for --help or --version
+        return app.exit(asked);
     }
     const auto *const wanted =
         std::find_if(std::begin(commands), std::end(commands),

@@ -17,7 +17,7 @@ protected:
 
 TEST_F(ToolBadInput, WrongUsage)
 {
-    expectFailure(runTool({}), "a command is required", 2);
+    expectFailure(runTool({"--color", "never"}), "a command is required", 2);
     expectFailure(runTool({"albums"}), "SOURCE is required", 2);
     expectFailure(runTool({"sing", "a.sqlite"}), "", 2);
     expectFailure(runTool({"albums", "a.sqlite", "--loud"}), "", 2);

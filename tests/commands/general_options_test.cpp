@@ -30,7 +30,7 @@ const CommandCase commands[] = {
     {"thumb", {"-o,--output", "--index", "--all", "--png", "--sheet", "--json"}},
 };
 
-const std::vector<std::string> generalOptions = {"--lang", "--color", "-q,--quiet", "--version",
+const std::vector<std::string> generalOptions = {"--lang", "--color", "-q,--quiet", "-V,--version",
                                                  "-h,--help"};
 
 /// The options that a help explains: the first words of lines.
@@ -166,6 +166,22 @@ TEST(ToolGeneralOptions, QuietKeepsWhatIsMissing)
     EXPECT_EQ(run.status, 1);
 }
 
+TEST(ToolGeneralOptions, QuietKeepsWhatIsLeftOutOfTheTrash)
+{
+    LibraryBuilder library(ios15);
+    library.asset("IMG_0001.JPG").trashedAt(0);
+    const ToolRun run = runTool({"photos", library.path(), "--as-of", "2020-01-10", "--quiet"});
+    EXPECT_EQ(run.error,
+              "iosphoto: left out: 1 in the trash for 30 days; iosphoto photos --left-out lists "
+              "them\n");
+}
+
+TEST(ToolGeneralOptions, QuietKeepsThatAScriptIsNotFilledIn)
+{
+    const ToolRun run = runTool({"statements", "--ios", "99", "--json", "--quiet"});
+    EXPECT_THAT(run.error, HasSubstr("not all entity numbers of iOS 99 are known"));
+}
+
 struct UsageCase
 {
     std::string what;
@@ -193,7 +209,10 @@ INSTANTIATE_TEST_SUITE_P(
     Cases, ToolWrongUsage,
     testing::Values(
         UsageCase{"no command", {"-q"}, "a command is required", "缺少命令"},
-        UsageCase{"wrong command", {"sing", "x"}, "'sing' is not a command", "“sing”不是命令"},
+        UsageCase{"wrong command",
+                  {"sing", "x"},
+                  "'sing' is neither a command nor a file that is there",
+                  "“sing”既不是命令，也不是现有的文件"},
         UsageCase{"option for a command", {"--loud"}, "not expected: --loud", "多余的参数：--loud"},
         UsageCase{"no source", {"albums"}, "SOURCE is required", "缺少 SOURCE"},
         UsageCase{"one too many", {"albums", "x", "y"}, "not expected: y", "多余的参数：y"},

@@ -94,9 +94,18 @@ TEST(Help, NamesValuesAsAPersonWould)
     const std::string help = runTool({"photos", "--help"}).out;
     for (const char *option :
          {"--as-of TIME", "--since TIME", "--until TIME", "--ios VERSION", "--product MODEL",
-          "--album NAME", "--kind KINDS", "--fields FIELDS", "--limit NUMBER", "--sqlite FILE"})
+          "--album NAME", "--kind KINDS", "--fields FIELDS", "-n,--limit NUMBER", "--sqlite FILE"})
         EXPECT_THAT(help, HasSubstr(std::string("\n  ") + option + " "));
     EXPECT_THAT(runTool({"thumb", "--help"}).out, HasSubstr("\n  -o,--output FILE|FOLDER "));
+}
+
+TEST(Help, NamesTheZoneOfTimes)
+{
+    for (const char *command : {"photos", "albums", "info"}) {
+        const ToolRun run = runTool({command, "--help"}, {{"TZ", "Asia/Shanghai"}});
+        EXPECT_THAT(between("TIMES: ", "\n\n", run.out),
+                    HasSubstr("Times are local, here of the zone Asia/Shanghai, unless Z "));
+    }
 }
 
 TEST(Help, HasArgumentsThatMayBeLeftOutInBrackets)

@@ -12,6 +12,7 @@
 using namespace iosphoto::test;
 using iosphoto::tool::displayWidth;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -103,3 +104,75 @@ INSTANTIATE_TEST_SUITE_P(Listings, NarrowTerminal,
                              return caseName(std::get<0>(tested.param).name() + " " +
                                              std::to_string(std::get<1>(tested.param)));
                          });
+
+namespace {
+
+/// The most that columns of usual libraries take.
+void fillWithWideCells(LibraryBuilder &library)
+{
+    const AlbumRow trip = library.album("A journey around the whole world");
+    const auto add = [&](const std::string &name) {
+        return library.asset(name)
+            .in(trip)
+            .set("ZFAVORITE", 1)
+            .set("ZHASADJUSTMENTS", 1)
+            .set("ZVIDEOCPDURATIONTIMESCALE", 600)
+            .set("ZWIDTH", 12000)
+            .set("ZHEIGHT", 9000)
+            .set("ZORIGINALFILESIZE", 1'023'900'000);
+    };
+    for (int i = 0; i < 12; ++i)
+        add("IMG_" + std::to_string(1000 + i) + ".HEIC");
+    add("IMG_2000.HEIC").trashedAt(600'000'000);
+    add("IMG_3000.HEIC").trashedAt(0); // left out
+}
+
+std::string shownAt80(const LibraryBuilder &library, const std::vector<std::string> &command,
+                      const std::string &language = "en", const std::string &zone = "UTC")
+{
+    std::vector<std::string> arguments = {library.path(), "--as-of", "2020-01-10", "--lang",
+                                          language,       "--color", "never",      "--quiet"};
+    arguments.insert(arguments.begin(), command.begin(), command.end());
+    return runToolOnTerminal(arguments, 80, {{"TZ", zone}}).out;
+}
+
+} // namespace
+
+TEST(TerminalOf80Columns, ShowsAlbumsAndPhotosAsTables)
+{
+    LibraryBuilder library(ios15);
+    fillWithWideCells(library);
+    const std::vector<std::vector<std::string>> commands = {{"albums"},
+                                                            {"photos"},
+                                                            {"photos", "--deleted"},
+                                                            {"photos", "--left-out"},
+                                                            {"photos", "--with-left-out"}};
+    for (const std::vector<std::string> &command : commands)
+        for (const char *zone : {"UTC", "Asia/Kathmandu"})
+            for (const char *language : {"en", "zh"}) {
+                const std::string out = shownAt80(library, command, language, zone);
+                const std::string firstLine = out.substr(0, out.find('\n'));
+                EXPECT_THAT(firstLine, Not(HasSubstr("2020"))) << "a block: " << out;
+                EXPECT_THAT(out, HasSubstr(language == std::string("en") ? "too narrow: "
+                                                                         : "未显示的列："));
+            }
+}
+
+TEST(TerminalOf80Columns, ShortensTheListOfAlbums)
+{
+    LibraryBuilder library(ios15);
+    fillWithWideCells(library);
+    const std::string out = shownAt80(library, {"photos"});
+    EXPECT_THAT(out, HasSubstr("Camera Roll, +3"));
+    EXPECT_THAT(out, HasSubstr("too narrow: PIXELS, SIZE"));
+}
+
+TEST(TerminalOf80Columns, LeavesOutNoFieldThatWasChosen)
+{
+    LibraryBuilder library(ios15);
+    fillWithWideCells(library);
+    const std::string out =
+        shownAt80(library, {"photos", "--fields", "created,path,pixels,fileSize,what,uuid"});
+    for (const char *heading : {"TAKEN", "FILE", "PIXELS", "SIZE", "WHAT", "uuid"})
+        EXPECT_THAT(out, HasSubstr(heading));
+}

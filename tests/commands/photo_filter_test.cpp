@@ -14,18 +14,20 @@ public:
     ManyKinds()
     {
         const AlbumRow trip = library_.album("Trip");
-        library_.asset("1.JPG").set("ZFAVORITE", 1).in(trip);
+        uuidOfTheFirst_ = library_.asset("1.JPG").set("ZFAVORITE", 1).in(trip).uuid();
         library_.asset("2.MOV").video().set("ZFAVORITE", 1);
         library_.asset("3.JPG").set("ZVIDEOCPDURATIONTIMESCALE", 600).in(trip);
         library_.asset("4.MOV").video().set("ZKINDSUBTYPE", 101);
         library_.asset("5.JPG").set("ZHIDDEN", 1);
-        library_.asset("6.JPG").set("ZHASADJUSTMENTS", 1);
+        library_.asset("6.JPG").set("ZHASADJUSTMENTS", 1).set("ZORIGINALFILENAME", "before.jpg");
         library_.asset("7.JPG").trashedAt(readingTime - 10 * days);
     }
 
     const LibraryBuilder &library() const { return library_; }
+    const std::string &uuidOfTheFirst() const { return uuidOfTheFirst_; }
 
 private:
+    std::string uuidOfTheFirst_;
     LibraryBuilder library_{ios15};
 };
 
@@ -55,6 +57,26 @@ const ListingCase filters[] = {
     {{"--until", "2019-12-31T10:40:00Z"}, {"6.JPG", "7.JPG"}},
     {{"--until", "2019-12-31 10:39"}, {"7.JPG"}},
     {{"--since", "2020-01-02", "--until", "2020-01-03"}, {"3.JPG", "4.MOV"}},
+    {{"--since", "2020"}, {"1.JPG", "2.MOV", "3.JPG", "4.MOV", "5.JPG"}},
+    {{"--until", "2019"}, {"6.JPG", "7.JPG"}},
+    {{"--until", "2019-12"}, {"6.JPG", "7.JPG"}},
+    {{"--since", "2019-12", "--until", "2019-12"}, {"6.JPG", "7.JPG"}},
+    {{"--until", "7d", "--since", "2020-01-05"}, {"1.JPG"}},
+    {{"-n", "2"}, {"1.JPG", "2.MOV"}},
+    {{"--name", "[12].*"}, {"1.JPG", "2.MOV"}},
+    {{"--name", "?.mov"}, {"2.MOV", "4.MOV"}},
+    {{"--name", "1.jpg", "--name", "4*"}, {"1.JPG", "4.MOV"}},
+    {{"--name", "[!1-6].*"}, {"7.JPG"}},
+    {{"--name", "BEFORE.*"}, {"6.JPG"}},
+    {{"--uuid", "A0000000-0000-0000-0000-000000000002"}, {"2.MOV"}},
+    {{"--uuid", "a0000000000000000000000000000003", "--uuid",
+      "A0000000-0000-0000-0000-000000000001"},
+     {"1.JPG", "3.JPG"}},
+    {{"--album", "trip", "--album", "hidden"}, {"1.JPG", "3.JPG", "5.JPG"}},
+    {{"--album", "trip", "--album", "Favorites"}, {"1.JPG", "2.MOV", "3.JPG"}},
+    {{"--where", "fileName like '%.mov' or isHidden"}, {"2.MOV", "4.MOV", "5.JPG"}},
+    {{"--where", "created >= '2020-01-04'"}, {"1.JPG", "2.MOV"}},
+    {{"--where", "1", "--favorite"}, {"1.JPG", "2.MOV"}},
 };
 
 } // namespace
@@ -79,6 +101,37 @@ TEST(ToolPhotoFilters, TrashedEarlierThanWithinTheDaysDoesNotFit)
               {"--deleted", "--within", "9", "--fields", "fileName"}),
         (ToolRun{"fileName\n",
                  "iosphoto: none of the 7 photos fits; leave out an option to see more\n", 0}));
+}
+
+TEST(ToolPhotoFilters, MayFitNothing)
+{
+    const ManyKinds many;
+    const std::vector<std::vector<std::string>> filters = {
+        {"--since", "yesterday"},
+        {"--name", "*.JP"},
+        {"--where", "null"},
+        {"--uuid", many.uuidOfTheFirst(), "--kind", "live"}};
+    for (std::vector<std::string> filter : filters) {
+        filter.insert(filter.end(), {"--fields", "fileName"});
+        const ToolRun run = runOn(many.library(), "photos", filter);
+        EXPECT_EQ(run.out, "fileName\n");
+        EXPECT_EQ(run.error,
+                  "iosphoto: none of the 7 photos fits; leave out an option to see more\n");
+    }
+}
+
+TEST(ToolPhotoFilters, UuidsThatNoPhotoHasAndNamesOfNoFileAreWrongUsage)
+{
+    const ManyKinds many;
+    const std::string there = many.uuidOfTheFirst();
+    expectFailure(runOn(many.library(), "photos", {"--uuid", there, "--uuid", "B1-C2"}),
+                  "no photo of the catalogue has the uuid 'B1-C2'; 'iosphoto photos " +
+                      many.library().path() + " --frames --fields uuid,path' lists them\n",
+                  2);
+    expectFailure(runOn(many.library(), "photos", {"--name", ""}), "--name: names no file", 2);
+    expectFailure(runOn(many.library(), "photos", {"--uuid="}), "--uuid requires a value", 2);
+    expectFailure(runOn(many.library(), "photos", {"--uuid", "--"}),
+                  "--uuid: '--' should look like 5A3D1F00-0000-4000-8000-000000000001", 2);
 }
 
 TEST(ToolPhotoFilters, ListsOfAnOptionEndWhereTheSourceBegins)
@@ -116,7 +169,14 @@ TEST(ToolPhotoFilters, MistakesAreWrongUsage)
     expectFailure(
         photos({"--fields", "uuid,colour"}),
         "--fields: there is no field 'colour'; there are uuid, assetId, mediaKind, path, ", 2);
-    expectFailure(photos({"--since", "yesterday"}), "--since: 'yesterday' is no time", 2);
+    expectFailure(photos({"--sort", "nmae"}),
+                  "--sort: there is no order 'nmae'; there are date, name, size, duration, added, "
+                  "modified, deleted; did you mean 'name'?\n",
+                  2);
+    expectFailure(photos({"--since", "once"}),
+                  "--since: 'once' is no time; write it like 2024, 2024-05, 2024-05-01, "
+                  "'2024-05-01 12:30', 2024-05-01T12:30:00Z, yesterday, 7d or now\n",
+                  2);
     expectFailure(photos({"--until", "2020-13-01"}), "--until: '2020-13-01' is no time", 2);
     expectFailure(photos({"--within", "3"}), "--within requires --deleted", 2);
     expectFailure(photos({"--deleted", "--within", "-1"}), "--within: '-1' should look like 7", 2);

@@ -28,7 +28,7 @@ TEST(ToolOnTerminal, ObeysColumns)
     const std::vector<std::string> arguments = {"albums", library.path()};
     const ToolRun wide = runToolOnTerminal(arguments, 200);
     EXPECT_THAT(wide.out, Not(HasSubstr("…")));
-    EXPECT_THAT(runToolOnTerminal(arguments, 200, {{"COLUMNS", "110"}}).out, HasSubstr("…"));
+    EXPECT_THAT(runToolOnTerminal(arguments, 200, {{"COLUMNS", "80"}}).out, HasSubstr("…"));
     EXPECT_EQ(runToolOnTerminal(arguments, 200, {{"COLUMNS", "x"}}), wide);
 }
 
@@ -38,6 +38,20 @@ TEST(ToolOnTerminal, IsNotToldByColumnsAlone)
     fill(library);
     const std::vector<std::string> arguments = {"albums", library.path()};
     EXPECT_EQ(runTool(arguments, {{"COLUMNS", "40"}}), runTool(arguments));
+}
+
+TEST(ToolOnTerminal, EscapesControlCharactersInCsvThatStaysExactElsewhere)
+{
+    LibraryBuilder library(ios15);
+    library.album("a\x1b[2J\n\u202Eb");
+    const std::vector<std::string> arguments = {
+        "albums", library.path(), "--csv", "--fields", "kind,name", "--quiet", "--color=never"};
+    EXPECT_THAT(runToolOnTerminal(arguments, 80).out, HasSubstr("user,a\\u001b[2J\\n\\u202eb\r"));
+    const std::string exact = "user,\"a\x1b[2J\n\u202Eb\"\r\n";
+    EXPECT_THAT(runTool(arguments).out, HasSubstr(exact));
+    writeFile(library.folder() / "out.csv", "");
+    runToolInto((library.folder() / "out.csv").string(), arguments);
+    EXPECT_THAT(readFile(library.folder() / "out.csv"), HasSubstr(exact));
 }
 
 namespace {

@@ -206,7 +206,7 @@ TEST_F(ToolThumbBadInput, FullDiskLeavesWhatWasThere)
 {
     writeFile(folder_ / "one.bmp", "old");
     const std::vector<std::string> arguments = {"thumb", cache_.string(), "--index", "0",
-                                                "-o",    path("one.bmp")};
+                                                "-o",    path("one.bmp"), "--force"};
     expectFailure(runToolOnFullDisk(arguments, 5000),
                   "cannot write '" + path("one.bmp") + "': File too large; choose", 3);
     EXPECT_EQ(readFile(folder_ / "one.bmp"), "old");

@@ -1,6 +1,7 @@
 #include "ios_photo.h"
 #include "ithmb/ithmb.h"
 #include "support/case_name.h"
+#include "support/expect_failure.h"
 #include "support/run_tool.h"
 #include "support/sample_thumb_cache.h"
 #include "support/temporary_folder.h"
@@ -84,6 +85,12 @@ protected:
         return runTool(arguments);
     }
 
+    static std::string thereAlready(const fs::path &file)
+    {
+        return quoted(file) + " is there already and is not replaced; choose another name, or "
+                              "replace it with --force\n";
+    }
+
     TemporaryFolder folder_;
     fs::path cache_;
 };
@@ -119,7 +126,7 @@ TEST_F(ToolThumb, ListsAsJson)
 
 TEST_F(ToolThumb, WritesOneAsTheLibraryDecodesIt)
 {
-    for (const char *name : {"one.bmp", "one.BMP", "one"}) {
+    for (const char *name : {"a.bmp", "b.BMP", "c"}) {
         const fs::path file = folder_ / name;
         expectGood(thumb({"--index", "3", "-o", file.string()}), "wrote " + file.string() + "\n");
         EXPECT_EQ(readFile(file), decodedByLibrary(cache_, 3));
@@ -150,19 +157,53 @@ TEST_F(ToolThumb, ReplacesTheTargetOfALinkAndKeepsItsRights)
     writeFile(folder_ / "target", "old");
     fs::permissions(folder_ / "target", fs::perms::owner_read | fs::perms::owner_write);
     fs::create_symlink("target", folder_ / "link.bmp");
-    EXPECT_EQ(thumb({"--index", "0", "-o", (folder_ / "link.bmp").string()}).status, 0);
+    EXPECT_EQ(thumb({"--index", "0", "-o", (folder_ / "link.bmp").string(), "--force"}).status, 0);
     EXPECT_TRUE(fs::is_symlink(folder_ / "link.bmp"));
     EXPECT_EQ(readFile(folder_ / "target"), decodedByLibrary(cache_, 0));
     EXPECT_EQ(fs::status(folder_ / "target").permissions(),
               fs::perms::owner_read | fs::perms::owner_write);
 }
 
-TEST_F(ToolThumb, ReplacesAFileThatIsThere)
+TEST_F(ToolThumb, ReplacesAFileThatIsThereOnlyWhenForced)
 {
     const fs::path file = folder_ / "one.bmp";
     writeFile(file, "old");
-    EXPECT_EQ(thumb({"--index", "0", "-o", file.string()}).status, 0);
+    expectFailure(thumb({"--index", "0", "-o", file.string()}), thereAlready(file), 3);
+    EXPECT_EQ(readFile(file), "old");
+    EXPECT_EQ(thumb({"--index", "0", "-o", file.string(), "--force"}).status, 0);
     EXPECT_EQ(readFile(file), decodedByLibrary(cache_, 0));
+}
+
+TEST_F(ToolThumb, WritesNothingWhereOneOfManyIsThere)
+{
+    const fs::path last = folder_ / "all/0003.bmp";
+    fs::create_directories(last.parent_path());
+    writeFile(last, "old");
+    const std::vector<std::string> arguments = {"--all", "-o", last.parent_path().string()};
+    expectFailure(thumb(arguments), thereAlready(last), 3);
+    EXPECT_EQ(std::distance(fs::directory_iterator(last.parent_path()), {}), 1);
+    EXPECT_EQ(readFile(last), "old");
+
+    EXPECT_EQ(thumb({"--all", "-o", last.parent_path().string(), "--force"}).status, 0);
+    EXPECT_EQ(readFile(last), decodedByLibrary(cache_, 3));
+}
+
+TEST_F(ToolThumb, ReplacesNoSheetThatIsThereUnlessForced)
+{
+    const fs::path sheet = folder_ / "sheet.png";
+    writeFile(sheet, "old");
+    expectFailure(thumb({"--sheet", sheet.string()}), thereAlready(sheet), 3);
+    EXPECT_EQ(readFile(sheet), "old");
+    EXPECT_EQ(thumb({"--sheet", sheet.string(), "--force"}).status, 0);
+    EXPECT_NE(readFile(sheet), "old");
+}
+
+TEST_F(ToolThumb, ReplacesNoLinkToNowhereUnlessForced)
+{
+    const fs::path link = folder_ / "link.bmp";
+    fs::create_symlink("nowhere", link);
+    expectFailure(thumb({"--index", "0", "-o", link.string()}), thereAlready(link), 3);
+    EXPECT_TRUE(fs::is_symlink(link));
 }
 
 TEST_F(ToolThumb, WritesAllIntoANewFolder)

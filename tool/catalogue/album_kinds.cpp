@@ -1,5 +1,6 @@
 #include "catalogue/album_kinds.h"
 
+#include "model/display_texts.h"
 #include "text/translate.h"
 
 namespace iosphoto::tool {
@@ -56,6 +57,28 @@ std::string kindText(const CAlbumGroup &album, Language language)
     return collectsFromAlbums(album) ? translateTo(language, "{0} from albums", kind) : kind;
 }
 
+struct ImportedName
+{
+    const char *title; ///< in the database
+    const char *english;
+};
+
+/// The albums that a computer imports are of the table, but nobody gave them their titles.
+constexpr ImportedName importedNames[] = {
+    {display_text::importedCameraRoll, translatable("Camera Roll from computer")},
+    {display_text::importedPhotoLibrary, translatable("Photo Library from computer")},
+};
+
+std::string nameIn(Language language, const CAlbumGroup &album)
+{
+    if (album.albumKind != Kind::User)
+        return kindText(album, language);
+    for (const ImportedName &name : importedNames)
+        if (album.albumName == QString::fromUtf8(name.title))
+            return translateTo(language, name.english);
+    return album.albumName.toStdString();
+}
+
 } // namespace
 
 bool isOfTheTable(const CAlbumGroup &album)
@@ -87,12 +110,12 @@ std::string shownKind(const CAlbumGroup &album)
 
 std::string shownName(const CAlbumGroup &album)
 {
-    return album.albumKind == Kind::User ? album.albumName.toStdString() : shownKind(album);
+    return nameIn(currentLanguage(), album);
 }
 
 std::string englishName(const CAlbumGroup &album)
 {
-    return album.albumKind == Kind::User ? album.albumName.toStdString() : englishKind(album);
+    return nameIn(Language::English, album);
 }
 
 } // namespace iosphoto::tool

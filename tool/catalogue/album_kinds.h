@@ -18,7 +18,7 @@ std::string englishKind(const CAlbumGroup &album);
 std::string shownKind(const CAlbumGroup &album);
 
 /// What a person calls the album: an album of the table by its own name, a built-in one by its
-/// kind, in the language that is spoken.
+/// kind, and one that a computer imported by what it is, in the language that is spoken.
 std::string shownName(const CAlbumGroup &album);
 
 /// The same in English, for documents.

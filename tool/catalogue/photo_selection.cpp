@@ -2,11 +2,15 @@
 
 #include "catalogue/album_kinds.h"
 #include "catalogue/burst_frames.h"
+#include "catalogue/difference.h"
+
+#include <sqlite3.h>
 
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <set>
 
 namespace iosphoto::tool {
 
@@ -17,6 +21,48 @@ bool isShownBy(const Asset &asset, const std::vector<const CAlbumGroup *> &album
     return std::any_of(asset.begin(), asset.end(), [&](const Appearance &appearance) {
         return std::find(albums.begin(), albums.end(), appearance.album) != albums.end();
     });
+}
+
+/// As names are compared: letter case aside, and whether an accent is a character of its own.
+std::string folded(const QString &name)
+{
+    return name.normalized(QString::NormalizationForm_C).toCaseFolded().toStdString();
+}
+
+class NamePatterns
+{
+public:
+    explicit NamePatterns(const std::vector<std::string> &patterns)
+    {
+        for (const std::string &pattern : patterns)
+            patterns_.push_back(
+                folded(QString::fromStdString(pattern).replace("[!", "[^"))); // as SQLite has it
+    }
+
+    bool fit(const Asset &asset) const
+    {
+        const CPhotoData &record = *asset.begin()->record;
+        return patterns_.empty() || fitsAny(record.fileName) || fitsAny(record.sourceFileName);
+    }
+
+private:
+    bool fitsAny(const QString &name) const
+    {
+        const std::string text = folded(name);
+        return std::any_of(patterns_.begin(), patterns_.end(), [&](const std::string &pattern) {
+            return sqlite3_strglob(pattern.c_str(), text.c_str()) == 0;
+        });
+    }
+
+    std::vector<std::string> patterns_;
+};
+
+std::set<std::string> comparableUuids(const PhotoFilter &filter)
+{
+    std::set<std::string> uuids;
+    for (const std::string &uuid : filter.uuids)
+        uuids.insert(comparable(uuid));
+    return uuids;
 }
 
 bool matchesTime(const PhotoFilter &filter, const Library &library, const Asset &asset)
@@ -123,6 +169,8 @@ bool matches(const CAlbumGroup &album, const QString &wanted)
                              QString::fromStdString(kindName(album)),
                              QString::fromStdString(englishKind(album)),
                              QString::fromStdString(shownKind(album)),
+                             QString::fromStdString(englishName(album)),
+                             QString::fromStdString(shownName(album)),
                              QString::number(album.albumKind),
                              QString::fromStdString(album.albumUuid)};
     return std::any_of(std::begin(names), std::end(names), [&](const QString &name) {
@@ -141,16 +189,32 @@ std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const st
     return matching;
 }
 
+std::string missingUuid(const PhotoFilter &filter, const std::vector<const AssetList *> &lists)
+{
+    std::set<std::string> missing = comparableUuids(filter);
+    for (const AssetList *const list : lists)
+        for (std::size_t i = 0; i < list->size() && !missing.empty(); ++i)
+            missing.erase(comparable((*list)[i].uuid()));
+    const auto found =
+        std::find_if(filter.uuids.begin(), filter.uuids.end(),
+                     [&](const std::string &uuid) { return missing.count(comparable(uuid)) > 0; });
+    return found != filter.uuids.end() ? *found : "";
+}
+
 std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
                                   const std::vector<const CAlbumGroup *> &albums,
                                   const Library &library, const AssetList &assets)
 {
+    const std::set<std::string> uuids = comparableUuids(filter);
+    const NamePatterns names(filter.names);
     std::vector<Asset> matching;
     for (std::size_t i = 0; i < assets.size(); ++i) {
         const Asset asset = assets[i];
-        if ((!filter.album || isShownBy(asset, albums)) && matchesTime(filter, library, asset) &&
-            matchesKinds(filter, asset) && matchesFlags(filter, asset) &&
-            matchesTrash(filter, library, asset))
+        if ((uuids.empty() || uuids.count(comparable(asset.uuid())) > 0) &&
+            (filter.albums.empty() || isShownBy(asset, albums)) &&
+            matchesTime(filter, library, asset) && matchesKinds(filter, asset) &&
+            matchesFlags(filter, asset) && matchesTrash(filter, library, asset) &&
+            names.fit(asset) && (!filter.isWanted || filter.isWanted(asset)))
             matching.push_back(asset);
     }
     return matching;

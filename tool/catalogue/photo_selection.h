@@ -10,8 +10,10 @@ namespace iosphoto::tool {
 /// Which photos are asked for. One that is asked for matches all that is said.
 struct PhotoFilter
 {
-    std::optional<std::string> album; ///< name, kind or uuid; see matchingAlbums()
-    std::optional<UnixTime> since;    ///< of its creation
+    std::vector<std::string> albums; ///< names, kinds or uuids, if any; see matchingAlbums()
+    std::vector<std::string> uuids;  ///< any of them, if there are some
+    std::vector<std::string> names; ///< likewise; patterns with * ? [a-z], whatever case of letters
+    std::optional<UnixTime> since;  ///< of its creation
     std::optional<UnixTime> until;
     std::vector<KindTest> kinds; ///< any of them, if there are some
     bool isDeleted = false;
@@ -19,15 +21,19 @@ struct PhotoFilter
     bool isHidden = false;
     bool isFavorite = false;
     bool isEdited = false;
+    KindTest isWanted; ///< whatever else is asked for; asked last
 };
 
-/// The albums that match `wanted`, in the catalogue's order: by their own name, by their kind (its
-/// machine name, name in English or in the current language, or number) or by their uuid, letter
-/// case aside.
+/// The albums that match `wanted`, in the catalogue's order: by the catalogue's name or that which
+/// a person sees, by their kind (its machine name, name in English or in the current language, or
+/// number) or by their uuid, letter case aside.
 std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const std::string &wanted);
 
+/// The first of the filter's uuids that no photo of any list has; empty where all are there.
+std::string missingUuid(const PhotoFilter &filter, const std::vector<const AssetList *> &lists);
+
 /// The photos that match, in the order of the list.
-/// @param albums  those that match the filter's
+/// @param albums  those that match any of the filter's
 std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
                                   const std::vector<const CAlbumGroup *> &albums,
                                   const Library &library, const AssetList &assets);

@@ -2,6 +2,7 @@
 #include "commands/help.h"
 #include "commands/library_messages.h"
 #include "commands/library_options.h"
+#include "commands/option_values.h"
 #include "commands/row_format_options.h"
 #include "rows/album_fields.h"
 #include "rows/library_database.h"
@@ -53,7 +54,7 @@ Command addAlbums(CLI::App &app)
     addLibraryOptions(*command, request->library);
     addRowFormatOptions(*command, request->format);
     command->footer(helpFooter(
-        {listOfFields(keysOf(albumFields())),
+        {listOfFields(keysOf(albumFields())), kindsOfTimes(),
          examples({"iosphoto albums Photos.sqlite", "iosphoto albums Photos.sqlite --csv",
                    "iosphoto albums Photos.sqlite --fields name,count,bytes"}),
          exitCodesOfALibrary()}));

@@ -75,9 +75,9 @@ void addGeneralOptionsTo(CLI::App &command, Terminal &terminal, const std::strin
     command
         .add_flag_callback(
             "-q,--quiet", [&terminal] { terminal.beQuiet(); },
-            translate("no remarks and no progress"))
+            translate("no remarks and no progress; what is missing is still said"))
         ->group(group);
-    command.set_version_flag("--version", version, translate("print the version"))->group(group);
+    command.set_version_flag("-V,--version", version, translate("print the version"))->group(group);
     command.set_help_flag("-h,--help", translate("print this help"))->group(group);
 }
 

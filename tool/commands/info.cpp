@@ -6,6 +6,7 @@
 #include "commands/info_document.h"
 #include "commands/library_messages.h"
 #include "commands/library_options.h"
+#include "commands/option_values.h"
 #include "commands/row_format_options.h"
 #include "terminal/paragraph.h"
 #include "terminal/text_table.h"
@@ -187,7 +188,8 @@ Command addInfo(CLI::App &app)
                             "together"))
         ->excludes(json);
     command->footer(
-        helpFooter({examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),
+        helpFooter({kindsOfTimes(),
+                    examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),
                     exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {
                 return showInfo(*request, session, out);

@@ -20,8 +20,9 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
                 request.asOf = Moment{timeOf(text, "--as-of").first, ""};
             },
             translate(
-                "the moment that counts as now, such as 2024-05-01 or now: what had been in the "
-                "trash for 30 days then is left out (default: when the source was made)"))
+                "the moment that counts as now, of a day its beginning, such as 2024-05-01 or now "
+                "(see TIMES below): what had been in the trash for 30 days then is left out "
+                "(default: when the source was made)"))
         ->type_name(translate("TIME"));
 }
 

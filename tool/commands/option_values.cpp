@@ -1,7 +1,9 @@
 #include "commands/option_values.h"
 
+#include "model/clock.h"
 #include "process/failure.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <QRegularExpression>
 
@@ -26,11 +28,22 @@ CLI::Validator looksLike(const char *pattern, const std::string &example)
 
 TimeSpan timeOf(const std::string &text, const std::string &option)
 {
-    if (const auto span = parseTime(text))
+    if (const auto span = parseTime(text, {currentUnixTime()}))
         return *span;
-    throw Failure(WrongUsage, translate("{0}: '{1}' is no time; write it like 2024-05-01, "
-                                        "'2024-05-01 12:30', 2024-05-01T12:30:00Z or now",
-                                        option, text));
+    throw Failure(WrongUsage,
+                  translate("{0}: '{1}' is no time; write it like 2024, 2024-05, 2024-05-01, "
+                            "'2024-05-01 12:30', 2024-05-01T12:30:00Z, yesterday, 7d or now",
+                            option, text));
+}
+
+std::string kindsOfTimes()
+{
+    return translate(
+        "TIMES: a year, month or day (2024, 2024-05, 2024-05-01), a minute or second ('2024-05-01 "
+        "12:30', 2024-05-01T12:30:00), now, today, yesterday, or the day so many days, weeks, "
+        "months or years before today (7d, 2w, 3m, 1y). Times are local, here of the zone {0}, "
+        "unless Z or an offset such as +02:00 stands behind them.",
+        timeZoneName());
 }
 
 CLI::Validator notEmpty()

@@ -20,6 +20,9 @@ CLI::Validator looksLike(const char *pattern, const std::string &example);
 /// The time that the text of an option is. Throws Failure when it is none.
 TimeSpan timeOf(const std::string &text, const std::string &option);
 
+/// The paragraph of a help that says how such texts are written, and of which zone they are.
+std::string kindsOfTimes();
+
 /// Accepts every text but the empty one.
 CLI::Validator notEmpty();
 

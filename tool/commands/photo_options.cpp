@@ -25,7 +25,8 @@ PhotoOrder orderOf(const std::string &name)
     if (const auto order = orderNamed(name))
         return *order;
     throw Failure(WrongUsage, translate("--sort: there is no order '{0}'; there are {1}", name,
-                                        joinedTexts(orderNames(), ", ")));
+                                        joinedTexts(orderNames(), ", ")) +
+                                  didYouMean(name, orderNames()));
 }
 
 void addTimes(CLI::App &command, PhotoFilter &filter)
@@ -34,15 +35,41 @@ void addTimes(CLI::App &command, PhotoFilter &filter)
         .add_option_function<std::string>(
             "--since",
             [&filter](const std::string &text) { filter.since = timeOf(text, "--since").first; },
-            translate(
-                "only what was created then or later, such as 2024-05-01 or '2024-05-01 12:30'"))
+            translate("only what was created then or later; see TIMES below"))
         ->type_name(translate("TIME"));
     command
         .add_option_function<std::string>(
             "--until",
             [&filter](const std::string &text) { filter.until = timeOf(text, "--until").last; },
-            translate("only what was created then or earlier; of a day, until its end"))
+            translate("only what was created then or earlier; of a day, month or year, until its "
+                      "end"))
         ->type_name(translate("TIME"));
+}
+
+/// An option of which each value counts when it is given several times.
+CLI::Option &repeatable(CLI::Option *option)
+{
+    return *option->allow_extra_args(false);
+}
+
+void addNames(CLI::App &command, PhotoFilter &filter)
+{
+    repeatable(command.add_option(
+                   "--album", filter.albums,
+                   translate("only what the albums of this name, kind (such as selfies) or uuid "
+                             "show; given several times, what any of them shows")))
+        .type_name(translate("NAME"));
+    repeatable(command.add_option("--uuid", filter.uuids,
+                                  translate("only the photo with this uuid; may be given several "
+                                            "times")))
+        .type_name("UUID")
+        ->check(looksLike("[^-]+.*", "5A3D1F00-0000-4000-8000-000000000001"));
+    repeatable(command.add_option("--name", filter.names,
+                                  translate("only files of this name, now or when they were "
+                                            "imported, such as 'IMG_00*.HEIC'; may be given "
+                                            "several times")))
+        .type_name(translate("GLOB"))
+        ->check(notEmpty());
 }
 
 void addKinds(CLI::App &command, PhotoFilter &filter)
@@ -104,7 +131,7 @@ void addOrder(CLI::App &command, PhotoChoice &choice)
     command.add_flag("--reverse", choice.isReversed, translate("reverse the order"));
     command
         .add_option_function<std::string>(
-            "--limit",
+            "-n,--limit",
             [&choice](const std::string &count) {
                 choice.limit = parseNumber<std::size_t>(count, "--limit");
             },
@@ -117,11 +144,7 @@ void addOrder(CLI::App &command, PhotoChoice &choice)
 
 void addPhotoOptions(CLI::App &command, PhotoChoice &choice)
 {
-    command
-        .add_option(
-            "--album", choice.filter.album,
-            translate("only what the albums of this name, kind (such as selfies) or uuid show"))
-        ->type_name(translate("NAME"));
+    addNames(command, choice.filter);
     addTimes(command, choice.filter);
     addKinds(command, choice.filter);
     addFlags(command, choice.filter);
@@ -129,6 +152,15 @@ void addPhotoOptions(CLI::App &command, PhotoChoice &choice)
                      translate("list every frame of a burst, not one for all"));
     addLeftOut(command, choice);
     addOrder(command, choice);
+}
+
+void addWhere(CLI::App &command, std::optional<std::string> &expression)
+{
+    command
+        .add_option("--where", expression,
+                    translate("only photos for which this SQL expression over the columns of "
+                              "--sqlite is true"))
+        ->type_name("SQL");
 }
 
 } // namespace iosphoto::tool

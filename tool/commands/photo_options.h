@@ -10,6 +10,9 @@ namespace iosphoto::tool {
 /// Adds the options that say which photos to show, and in which order.
 void addPhotoOptions(CLI::App &command, PhotoChoice &choice);
 
+/// Adds --where.
+void addWhere(CLI::App &command, std::optional<std::string> &expression);
+
 } // namespace iosphoto::tool
 
 #endif // IOSPHOTO_TOOL_PHOTO_OPTIONS_H

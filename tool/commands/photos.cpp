@@ -3,11 +3,14 @@
 #include "commands/help.h"
 #include "commands/library_messages.h"
 #include "commands/library_options.h"
+#include "commands/option_values.h"
 #include "commands/photo_options.h"
 #include "commands/row_format_options.h"
 #include "process/failure.h"
 #include "rows/library_database.h"
 #include "rows/library_head.h"
+#include "rows/photo_condition.h"
+#include "text/did_you_mean.h"
 #include "text/lists.h"
 #include "text/numbers.h"
 #include "text/printable.h"
@@ -21,6 +24,7 @@ struct PhotosRequest
 {
     LibraryRequest library;
     PhotoChoice choice;
+    std::optional<std::string> where;
     RowFormat format;
 };
 
@@ -32,21 +36,62 @@ void printPhotos(RowStream<PhotoRow> stream, const std::vector<Asset> &photos,
     stream.end();
 }
 
-/// The albums that are asked for, if one is.
+std::vector<std::string> namesOf(const Library &library)
+{
+    std::vector<std::string> names;
+    for (const CAlbumGroup &album : library.albums()) {
+        names.push_back(shownName(album));
+        names.push_back(kindName(album));
+    }
+    return names;
+}
+
+/// The albums that fit one name. Throws Failure where there are none.
+std::vector<const CAlbumGroup *> albumsNamed(const std::string &name, const Library &library,
+                                             const Terminal &terminal)
+{
+    std::vector<const CAlbumGroup *> albums = matchingAlbums(library, name);
+    if (albums.empty())
+        throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
+                                            name, library.name()) +
+                                      didYouMean(name, namesOf(library)));
+    if (albums.size() > 1)
+        terminal.printInfo(translate(
+            "'{0}' fits {1} albums, all are shown: {2}", name, albums.size(),
+            listForPeople(albums, [](const CAlbumGroup *album) { return shownName(*album); })));
+    return albums;
+}
+
+/// The albums that are asked for, if some are.
 std::vector<const CAlbumGroup *> albumsOf(const PhotoFilter &filter, const Library &library,
                                           const Terminal &terminal)
 {
-    if (!filter.album)
+    std::vector<const CAlbumGroup *> all;
+    for (const std::string &name : filter.albums) {
+        const std::vector<const CAlbumGroup *> albums = albumsNamed(name, library, terminal);
+        all.insert(all.end(), albums.begin(), albums.end());
+    }
+    return all;
+}
+
+void requireUuids(const PhotoFilter &filter, const std::vector<const AssetList *> &lists,
+                  const Library &library)
+{
+    if (const std::string missing = missingUuid(filter, lists); !missing.empty())
+        throw Failure(WrongUsage, translate("no photo of the catalogue has the uuid '{0}'; "
+                                            "'iosphoto photos {1} --frames --fields uuid,path' "
+                                            "lists them",
+                                            missing, library.name()));
+}
+
+/// Whether a photo fulfils --where; empty where that is not given.
+KindTest conditionOf(const PhotosRequest &request, const Library &library, const PhotoRows &rows)
+{
+    if (!request.where)
         return {};
-    const std::vector<const CAlbumGroup *> albums = matchingAlbums(library, *filter.album);
-    if (albums.empty())
-        throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
-                                            *filter.album, library.name()));
-    if (albums.size() > 1)
-        terminal.printInfo(translate(
-            "'{0}' fits {1} albums, all are shown: {2}", *filter.album, albums.size(),
-            listForPeople(albums, [](const CAlbumGroup *album) { return shownName(*album); })));
-    return albums;
+    const auto condition = std::make_shared<PhotoCondition>(
+        *request.where, withUnknown(photoColumns(), library.schema().unknownFields));
+    return [condition, &rows](const Asset &photo) { return condition->isMetBy(rows.of(photo)); };
 }
 
 /// @param count  of the photos that could have been chosen
@@ -76,6 +121,8 @@ FieldTable<PhotoRow> fieldsFor(const PhotoChoice &choice)
 ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out)
 {
     const auto fields = fieldsToShow(fieldsFor(request.choice), request.format);
+    if (request.where)
+        PhotoCondition(*request.where, photoColumns()); // a mistake is said before the long reading
     const Shown shown = request.choice.shown;
     request.library.keepsLeftOut = shown != Shown::Listed;
     const Library library(session, request.library);
@@ -83,10 +130,12 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
         albumsOf(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());
     const AssetList leftOut(library.leftOutPhotos().records());
-    const std::vector<Asset> photos =
-        choosePhotos(request.choice, albums, library, assets, leftOut);
+    requireUuids(request.choice.filter, {&assets, &leftOut}, library);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
+    request.choice.filter.isWanted = conditionOf(request, library, rows);
+    const std::vector<Asset> photos =
+        choosePhotos(request.choice, albums, library, assets, leftOut);
     printHowItWasRead(session.terminal, library);
     if (photos.empty())
         sayThatThereAreNone(shown, (shown == Shown::LeftOut ? 0 : assets.size()) + leftOut.size(),
@@ -113,14 +162,17 @@ Command addPhotos(CLI::App &app)
         app.add_subcommand("photos", translate("List the photos of a library, each once"));
     addLibraryOptions(*command, request->library);
     addPhotoOptions(*command, request->choice);
+    addWhere(*command, request->where);
     addRowFormatOptions(*command, request->format);
     command->footer(helpFooter(
-        {listOfFields(keysOf(photoFields())),
-         examples({"iosphoto photos Photos.sqlite --album favorites",
+        {listOfFields(keysOf(photoFields())), kindsOfTimes(),
+         examples({"iosphoto photos Photos.sqlite --album Favorites --album Selfies",
                    "iosphoto photos Photos.sqlite --album \"Summer 2019\" --json",
-                   "iosphoto photos Photos.sqlite --since 2024-05-01 --kind live,portrait",
+                   "iosphoto photos Photos.sqlite --since 2024-05 --kind live,portrait",
+                   "iosphoto photos Photos.sqlite --since 7d --name 'IMG_*.HEIC'",
+                   "iosphoto photos Photos.sqlite --where \"width > 2 * height and isEdited\"",
                    "iosphoto photos Photos.sqlite --deleted --within 7 --sort deleted",
-                   "iosphoto photos Photos.sqlite --sort size --limit 20 --fields path,fileSize",
+                   "iosphoto photos Photos.sqlite --sort size -n 20 --fields path,fileSize",
                    "iosphoto photos Photos.sqlite --left-out",
                    "iosphoto photos Photos.sqlite --frames --sqlite photos.db"}),
          exitCodesOfALibrary()}));

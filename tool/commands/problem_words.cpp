@@ -2,8 +2,10 @@
 
 #include "catalogue/library.h"
 #include "commands/reading_stop.h"
+#include "files/output_file.h"
 #include "input/library_search.h"
 #include "rows/fields.h"
+#include "rows/photo_condition.h"
 #include "text/did_you_mean.h"
 #include "text/lists.h"
 #include "text/translate.h"
@@ -167,6 +169,22 @@ constexpr Wording<OutputProblem> outputWords[] = {
      translatable("cannot write '{0}': {1}; choose another place for the output")},
 };
 
+constexpr Wording<ConditionProblem> conditionWords[] = {
+    {ConditionProblem::NoColumn, WrongUsage,
+     translatable("--where: there is no column '{0}'; there are {1}")},
+    {ConditionProblem::NotAllowed, WrongUsage,
+     translatable("--where: '{0}' asks for more than the columns of a photo; write no query and "
+                  "no rowid in it, and only functions that compute")},
+    {ConditionProblem::NotOne, WrongUsage,
+     translatable("--where: '{0}' is not one complete expression; write one such as \"fileSize > "
+                  "10000000 and width > height\"")},
+    {ConditionProblem::Wrong, WrongUsage,
+     translatable("--where: {0}; write an expression such as \"fileSize > 10000000 and width > "
+                  "height\"")},
+    {ConditionProblem::TooMuchWork, WrongUsage,
+     translatable("--where: the expression takes too much work for a photo; write a simpler one")},
+};
+
 /// Whether a table has words for every kind up to the last, in their order.
 template <typename Kind, std::size_t count>
 constexpr bool hasAll(const Wording<Kind> (&wordings)[count], Kind last)
@@ -180,6 +198,7 @@ constexpr bool hasAll(const Wording<Kind> (&wordings)[count], Kind last)
 static_assert(hasAll(sourceWords, SourceProblem::IndexIsDamaged));
 static_assert(hasAll(schemaWords, SchemaProblem::MissingColumns));
 static_assert(hasAll(outputWords, OutputProblem::Unwritten));
+static_assert(hasAll(conditionWords, ConditionProblem::TooMuchWork));
 
 std::string filledIn(const char *english, const std::vector<std::string> &facts)
 {
@@ -244,6 +263,24 @@ Failure inWords(const UnknownField &field)
                             didYouMean(field.key, field.known)};
 }
 
+Failure inWords(const Finding<ConditionProblem> &finding)
+{
+    if (finding.kind != ConditionProblem::NoColumn)
+        return wordsFor(conditionWords, finding);
+    const std::string &name = finding.facts.front();
+    const std::vector<std::string> columns(finding.facts.begin() + 1, finding.facts.end());
+    const Failure failure =
+        wordsFor(conditionWords, {finding.kind, {name, joinedTexts(columns, ", ")}});
+    return {failure.status(), failure.what() + didYouMean(name, columns)};
+}
+
+Failure inWords(const FileIsThere &there)
+{
+    return {CannotAccess, translate("'{0}' is there already and is not replaced; choose another "
+                                    "name, or replace it with --force",
+                                    there.file.string())};
+}
+
 } // namespace
 
 Failure inWords(const SourceFinding &finding)
@@ -271,6 +308,10 @@ ExitStatus runWithWords(const std::function<ExitStatus()> &command)
         throw inWords(error.finding());
     } catch (const OutputError &error) {
         throw inWords(error.finding());
+    } catch (const ConditionError &error) {
+        throw inWords(error.finding());
+    } catch (const FileIsThere &there) {
+        throw inWords(there);
     } catch (const NothingRead &nothing) {
         throw inWords(nothing);
     } catch (const SeveralLibraries &libraries) {

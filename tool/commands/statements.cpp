@@ -175,8 +175,11 @@ void printAsJson(const Target &target, const std::vector<BuildStatement> &statem
 void printHowTheyWereMade(const Terminal &terminal, const Target &target,
                           const std::vector<BuildStatement> &statements)
 {
-    if (!target.numbers.areRead)
-        terminal.printInfo(origin(target, statements));
+    if (!target.numbers.areRead) {
+        const bool isWhole = unknownNumbers(target, statements).empty();
+        isWhole ? terminal.printInfo(origin(target, statements))
+                : terminal.printWarning(origin(target, statements));
+    }
     if (!target.assumption.empty())
         terminal.printInfo(target.assumption);
     if (target.warning)

@@ -30,6 +30,7 @@ struct ThumbRequest
     std::optional<std::string> sheet;  ///< draw all on a contact sheet
     std::optional<std::string> output; ///< there with index and all
     bool asPng = false;                ///< with `all`
+    bool isForced = false;             ///< files that are there give way
     Format format = Format::Table;
 };
 
@@ -96,11 +97,19 @@ void printAsJson(const ThumbCache &cache, const WrittenFiles &pictures, const Wr
     print(document, out);
 }
 
+IfThere ifThereOf(const ThumbRequest &request)
+{
+    return request.isForced ? IfThere::Replace : IfThere::Refuse;
+}
+
 WrittenFiles writePictures(Session &session, const ThumbCache &cache, const ThumbRequest &request)
 {
+    const IfThere ifThere = ifThereOf(request);
     if (request.index)
-        return exportOne(session, cache, cache.at(*request.index), *request.output);
-    return request.all ? exportAll(session, cache, *request.output, request.asPng) : WrittenFiles();
+        return exportOne(session, cache, cache.at(*request.index), *request.output, ifThere);
+    if (request.all)
+        return exportAll(session, cache, *request.output, request.asPng, ifThere);
+    return {};
 }
 
 /// @param input  to keep what comes through standard input, while the cache is used
@@ -125,7 +134,8 @@ ExitStatus showThumbnails(const ThumbRequest &request, Session &session, std::os
     const ThumbCache cache = openCache(request.cache, input, session);
     const WrittenFiles pictures = writePictures(session, cache, request);
     const WrittenFiles sheets =
-        request.sheet ? exportSheets(session, cache, *request.sheet) : WrittenFiles();
+        request.sheet ? exportSheets(session, cache, *request.sheet, ifThereOf(request))
+                      : WrittenFiles();
     if (request.format == Format::JsonDocument)
         printAsJson(cache, pictures, sheets, out);
     else if (pictures.empty() && sheets.empty())
@@ -179,6 +189,8 @@ Command addThumb(CLI::App &app)
                          translate("draw all on a contact sheet, a .png file; from "
                                    "501 on also on FILE-2.png and so on"));
     sheet->excludes(index, all, output);
+    thumb.add_flag("--force", request->isForced,
+                   translate("replace files that are there; without it, nothing is written then"));
     output->type_name(translate("FILE") + "|" + translate("FOLDER"))->check(notEmpty());
     sheet->type_name(translate("FILE"))->check(notEmpty());
     addFormatFlag(thumb, request->format, Format::JsonDocument, translate("print a JSON document"));

@@ -1,8 +1,11 @@
 #include "commands/wrong_usage.h"
 
+#include "commands/command_line.h"
+#include "text/did_you_mean.h"
 #include "text/translate.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
 
 namespace iosphoto::tool {
@@ -137,8 +140,12 @@ std::string wrongCommand(const CLI::App &app)
     const std::vector<std::string> left = app.remaining();
     if (left.empty())
         return translate("a command is required");
-    return left.front().compare(0, 1, "-") == 0 ? unexpected(app)
-                                                : translate("'{0}' is not a command", left.front());
+    if (left.front().compare(0, 1, "-") == 0)
+        return unexpected(app);
+    std::error_code ignored;
+    return std::filesystem::exists(left.front(), ignored)
+               ? translate("'{0}' is not a command", left.front())
+               : translate("'{0}' is neither a command nor a file that is there", left.front());
 }
 
 /// The options of the program and of the command that is asked for.
@@ -150,6 +157,34 @@ Options optionsOf(CLI::App &app)
         options.insert(options.end(), ofCommand.begin(), ofCommand.end());
     }
     return options;
+}
+
+std::vector<std::string> namesOf(const Options &options)
+{
+    std::vector<std::string> names;
+    for (const CLI::Option *option : options) {
+        for (const std::string &name : option->get_lnames())
+            names.push_back("--" + name);
+        for (const std::string &name : option->get_snames())
+            names.push_back("-" + name);
+    }
+    return names;
+}
+
+/// What may be meant by the first word that is no command, or by the first option that is none.
+std::string suggestion(CLI::App &app, CLI::ExitCodes error)
+{
+    if (error != CLI::ExitCodes::ExtrasError && error != CLI::ExitCodes::RequiredError)
+        return "";
+    constexpr bool withCommands = true;
+    const std::vector<std::string> left = app.remaining(withCommands);
+    const auto isOption = [](const std::string &word) { return word.compare(0, 1, "-") == 0; };
+    if (app.get_subcommands().empty() && !left.empty() && !isOption(left.front()))
+        return didYouMean(left.front(), commandNames(app));
+    const auto option = std::find_if(left.begin(), left.end(), isOption);
+    return option != left.end()
+               ? didYouMean(option->substr(0, option->find('=')), namesOf(optionsOf(app)))
+               : "";
 }
 
 Wording wordingOf(CLI::App &app, const std::vector<std::string> &commandLine, CLI::ExitCodes error)
@@ -184,7 +219,8 @@ Failure wrongUsage(CLI::App &app, const std::vector<std::string> &commandLine,
 {
     const auto code = static_cast<CLI::ExitCodes>(error.get_exit_code());
     return {WrongUsage, translate("{0}; see iosphoto --help",
-                                  wordingOf(app, commandLine, code).value_or(error.what()))};
+                                  wordingOf(app, commandLine, code).value_or(error.what())) +
+                            suggestion(app, code)};
 }
 
 } // namespace iosphoto::tool

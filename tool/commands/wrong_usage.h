@@ -11,7 +11,8 @@
 namespace iosphoto::tool {
 
 /// What is wrong with the command line that the parser met an error in, in the language that is
-/// spoken.
+/// spoken, and what may have been meant.
+/// @param commandLine  without the name of the program
 Failure wrongUsage(CLI::App &app, const std::vector<std::string> &commandLine,
                    const CLI::ParseError &error);
 

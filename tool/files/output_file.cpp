@@ -56,6 +56,16 @@ void requireWritable(const fs::path &file)
     const AtomicFile attempt(targetOf(file));
 }
 
+void requireNew(const FileUse &files, const fs::path &file, const fs::path &source)
+{
+    requirePlaceForFile(file);
+    requireOther(file, FileSet(source));
+    requireUnprotected(files, file);
+    std::error_code ignored;
+    if (fs::exists(fs::symlink_status(file, ignored)))
+        throw FileIsThere{file};
+}
+
 fs::path outputPlace(FileUse &files, const fs::path &file, const fs::path &source)
 {
     requirePlaceForFile(file);

@@ -24,6 +24,17 @@ void writeOutput(FileUse &files, const std::filesystem::path &file, const QByteA
 std::filesystem::path outputPlace(FileUse &files, const std::filesystem::path &file,
                                   const std::filesystem::path &source);
 
+/// That an output would take the place of a file.
+struct FileIsThere
+{
+    std::filesystem::path file;
+};
+
+/// Throws FileIsThere where writeOutput() would replace something, be it a link to nowhere, and
+/// Failure where it would not.
+void requireNew(const FileUse &files, const std::filesystem::path &file,
+                const std::filesystem::path &source);
+
 /// Throws Failure where writeOutput() would, as far as can be told before.
 void requireWritable(const std::filesystem::path &file);
 

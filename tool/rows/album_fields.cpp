@@ -26,8 +26,7 @@ Value number(std::int64_t number)
 /// The name that somebody gave; built-in albums are called by their kind.
 Value ownName(const Row &row)
 {
-    return row.album.albumKind == AlbumKind::User ? text(row.album.albumName.toStdString())
-                                                  : Value();
+    return row.album.albumKind == AlbumKind::User ? text(shownName(row.album)) : Value();
 }
 
 /// Of the time itself, so that the first day is none after the last; a record's own day can be that
@@ -103,6 +102,7 @@ FieldTable<AlbumRow> albumFields()
         table.fields.insert(table.fields.end(), part.begin(), part.end());
     table.inTables = {"index", "shownKind", "ownName", "count",
                       "bytes", "firstDay",  "lastDay", "uuid"};
+    table.spare = {"uuid", "bytes"};
     return table;
 }
 

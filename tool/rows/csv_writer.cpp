@@ -57,6 +57,7 @@ struct AppendValue
 {
     std::string &line;
     std::size_t begin; ///< of the line
+    bool isOnTerminal;
 
     void operator()(std::monostate) const {}
     void operator()(bool flag) const { line += flag ? "true" : "false"; }
@@ -79,7 +80,15 @@ struct AppendValue
         fmt::format_to(std::back_inserter(line), "{}", number);
     }
 
-    void appendText(const std::string &bytes) const
+    void appendText(const std::string &text) const
+    {
+        if (isOnTerminal)
+            appendExactly(printable(text));
+        else
+            appendExactly(text);
+    }
+
+    void appendExactly(const std::string &bytes) const
     {
         const bool isSplit = hasSpecial(bytes);
         std::string changed; // hardly ever, so that most texts are not copied
@@ -117,7 +126,7 @@ void CsvWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &colu
 
 void CsvWriter::row(const std::vector<Value> &values)
 {
-    const AppendValue append = {buffer_, buffer_.size()};
+    const AppendValue append = {buffer_, buffer_.size(), isOnTerminal_};
     const char *separator = "";
     for (const Value &value : values) {
         buffer_ += separator;

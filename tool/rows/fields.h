@@ -3,6 +3,7 @@
 
 #include "rows/row_format.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -35,6 +36,8 @@ struct FieldTable
 {
     std::vector<Field<Row>> fields;
     std::vector<std::string> inTables; ///< the keys that tables show unless others are chosen
+    std::vector<std::string>
+        spare; ///< of these, those that narrow tables do without, first to last
 };
 
 /// The fields that are no mere views of others.
@@ -69,6 +72,19 @@ std::vector<Field<Row>> fieldsOfKeys(const FieldTable<Row> &table,
     return chosen;
 }
 
+/// The fields that tables show unless others are chosen.
+template <typename Row>
+std::vector<Field<Row>> fieldsInTables(const FieldTable<Row> &table)
+{
+    std::vector<Field<Row>> fields = fieldsOfKeys(table, table.inTables);
+    for (Field<Row> &field : fields) {
+        const auto spare = std::find(table.spare.begin(), table.spare.end(), field.column.key);
+        if (spare != table.spare.end())
+            field.column.spareRank = static_cast<std::size_t>(spare - table.spare.begin()) + 1;
+    }
+    return fields;
+}
+
 /// The fields that are to be shown: the chosen ones, or the usual ones of the format. Throws
 /// UnknownField when one is unknown.
 template <typename Row>
@@ -76,7 +92,7 @@ std::vector<Field<Row>> fieldsToShow(const FieldTable<Row> &table, const RowForm
 {
     if (!format.fields.empty())
         return fieldsOfKeys(table, format.fields);
-    return format.format == Format::Table ? fieldsOfKeys(table, table.inTables) : factsOf(table);
+    return format.format == Format::Table ? fieldsInTables(table) : factsOf(table);
 }
 
 /// The fields, those of the unknown keys null in every row.

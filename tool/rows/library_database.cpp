@@ -4,8 +4,6 @@
 #include "rows/library_head.h"
 #include "rows/sqlite_output.h"
 
-#include <algorithm>
-
 namespace iosphoto::tool {
 
 namespace {
@@ -20,22 +18,12 @@ void writeAlbums(SqliteOutput &output, const Library &library)
     stream.end();
 }
 
-/// A list is a table of its own.
-std::vector<Field<PhotoRow>> photoColumns(const Library &library)
-{
-    std::vector<Field<PhotoRow>> fields = factsOf(photoFields());
-    fields.erase(std::remove_if(
-                     fields.begin(), fields.end(),
-                     [](const Field<PhotoRow> &field) { return field.column.type == Type::List; }),
-                 fields.end());
-    return withUnknown(fields, library.schema().unknownFields);
-}
-
 void writePhotos(SqliteOutput &output, const Library &library, const std::vector<Asset> &photos,
                  const PhotoRows &rows)
 {
     SqliteRows writer(output);
-    RowStream<PhotoRow> stream(writer, {"photos", {}, {}}, photoColumns(library));
+    RowStream<PhotoRow> stream(writer, {"photos", {}, {}},
+                               withUnknown(photoColumns(), library.schema().unknownFields));
     for (const Asset &photo : photos)
         stream.write(rows.of(photo));
     stream.end();

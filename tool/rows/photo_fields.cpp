@@ -213,6 +213,7 @@ FieldTable<PhotoRow> photoFields()
           fieldsOfTraits(std::make_index_sequence<std::size(traits)>()), places, viewsForPeople()})
         table.fields.insert(table.fields.end(), part.begin(), part.end());
     table.inTables = {"created", "path", "pixels", "fileSize", "what", "albums"};
+    table.spare = {"pixels", "fileSize"};
     return table;
 }
 
@@ -221,6 +222,7 @@ FieldTable<PhotoRow> photoFieldsOfTheTrash()
     FieldTable<PhotoRow> table = photoFields();
     table.inTables = {"created", "path",     "pixels", "fileSize",
                       "kinds",   "daysLeft", "goes",   "albums"};
+    table.spare = {"pixels", "fileSize", "albums", "kinds", "created"};
     return table;
 }
 
@@ -235,6 +237,7 @@ FieldTable<PhotoRow> photoFieldsWithLeftOut()
 {
     FieldTable<PhotoRow> table = photoFields();
     table.inTables.emplace_back("reason");
+    table.spare.emplace_back("what");
     return table;
 }
 
@@ -248,6 +251,15 @@ PhotoRow PhotoRows::of(const Asset &asset) const
             albums_.of(asset),
             library_.dates(),
             reason};
+}
+
+std::vector<Field<PhotoRow>> photoColumns()
+{
+    std::vector<Field<PhotoRow>> columns;
+    for (const Field<PhotoRow> &field : factsOf(photoFields()))
+        if (field.column.type != Type::List)
+            columns.push_back(field);
+    return columns;
 }
 
 AlbumItems::AlbumItems(const std::vector<CAlbumGroup> &catalogue) : catalogue_(catalogue)

@@ -59,7 +59,11 @@ private:
 /// What is known about a photo.
 FieldTable<PhotoRow> photoFields();
 
-/// The same; tables show how long each photo stays in the trash in columns of their own.
+/// Those that a table of a database has as columns: the facts, without lists.
+std::vector<Field<PhotoRow>> photoColumns();
+
+/// The same as photoFields(); tables show how long each photo stays in the trash in columns of
+/// their own.
 FieldTable<PhotoRow> photoFieldsOfTheTrash();
 
 /// The same; tables say why photos are left out, and so are in no albums.

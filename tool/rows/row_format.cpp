@@ -14,7 +14,7 @@ std::unique_ptr<RowWriter> makeRowWriter(Format format, std::ostream &out, const
     case Format::JsonLines:
         return std::make_unique<JsonLinesWriter>(out);
     case Format::Csv:
-        return std::make_unique<CsvWriter>(out);
+        return std::make_unique<CsvWriter>(out, screen);
     case Format::Table:
     case Format::Sqlite:
         break;

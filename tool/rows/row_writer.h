@@ -46,6 +46,7 @@ struct Column
     Type type;
     std::string heading; ///< in tables; the key unless a word of the user's language stands there
     Align align;
+    std::size_t spareRank = 0; ///< which one narrow tables do without first; 0: none do
 
 private:
     std::size_t dot_ = key.find('.');

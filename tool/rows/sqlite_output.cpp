@@ -2,10 +2,9 @@
 
 #include "files/output_file.h"
 #include "formats/big_endian.h"
+#include "rows/sqlite_values.h"
 #include "sqlite/sqlite_error.h"
 #include "text/lists.h"
-#include "text/printable.h"
-#include "time/time_text.h"
 
 #include <algorithm>
 #include <fstream>
@@ -45,69 +44,7 @@ void requireReplaceable(const fs::path &file)
         throw OutputError(OutputProblem::NotOurs, {file.string()});
 }
 
-/// Binds a value to a place of a statement and gives SQLite's result. Text is not copied, so it
-/// stays until the step.
-struct Bind
-{
-    sqlite3_stmt *statement;
-    int place;
-    std::string &made; ///< keeps a text that is made here
-
-    int operator()(std::monostate) const { return sqlite3_bind_null(statement, place); }
-    int operator()(bool flag) const { return sqlite3_bind_int(statement, place, flag ? 1 : 0); }
-    int operator()(std::int64_t number) const
-    {
-        return sqlite3_bind_int64(statement, place, number);
-    }
-    int operator()(double number) const { return sqlite3_bind_double(statement, place, number); }
-    int operator()(const std::string &text) const
-    {
-        const bool isWhole = isUtf8(text);
-        if (!isWhole)
-            made = asUtf8(text);
-        return bindText(isWhole ? text : made);
-    }
-    int operator()(UnixTime time) const
-    {
-        made = utcTimeText(time);
-        return made.empty() ? (*this)(std::monostate()) : bindText(made);
-    }
-    int operator()(const Items &items) const
-    {
-        made = "[" + joinedTexts(items, ",", [](const ListItem *item) { return item->json; }) + "]";
-        return bindText(made);
-    }
-
-    int bindText(const std::string &text) const
-    {
-        return sqlite3_bind_text64(statement, place, text.data(), text.size(), SQLITE_STATIC,
-                                   SQLITE_UTF8);
-    }
-};
-
-const char *sqlType(Type type)
-{
-    switch (type) {
-    case Type::Flag:
-    case Type::Number:
-    case Type::Bytes:
-        return "integer";
-    case Type::Real:
-        return "real";
-    default:
-        return "text";
-    }
-}
-
 } // namespace
-
-std::string quotedName(const std::string &name)
-{
-    std::string quoted = "\"";
-    for (const char character : name)
-        quoted += character == '"' ? std::string("\"\"") : std::string(1, character);
-    return quoted + "\"";
-}
 
 SqliteOutput::SqliteOutput(FileUse &files, const fs::path &file, const fs::path &source,
                            const Json &head)
@@ -189,8 +126,8 @@ void SqliteInsert::row(const std::vector<Value> &values)
     made_.resize(values.size());
     const int firstPlace = 1 + static_cast<int>(columns_ - values.size());
     for (std::size_t i = 0; i < values.size(); ++i) {
-        const Bind bind = {statement_.get(), firstPlace + static_cast<int>(i), made_[i]};
-        if (std::visit(bind, values[i]) != SQLITE_OK)
+        const int place = firstPlace + static_cast<int>(i);
+        if (bindValue(statement_.get(), place, values[i], made_[i]) != SQLITE_OK)
             throw output_.unwritable();
     }
     const int result = sqlite3_step(statement_.get());
@@ -212,7 +149,7 @@ void SqliteRows::begin(const RowsHead &head, const std::vector<Column> &columns)
     if (isCounting)
         definitions.push_back(quotedName(key_) + " integer primary key");
     for (const Column &column : columns)
-        definitions.push_back(quotedName(column.key) + " " + sqlType(column.type) +
+        definitions.push_back(columnDefinition(column) +
                               (column.key == key_ ? " primary key" : ""));
     output_.execute("create table " + quotedName(head.rows) + " (" +
                     joinedTexts(definitions, ", ") + ")");

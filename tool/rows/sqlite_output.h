@@ -48,9 +48,6 @@ private:
     SqliteConnection connection_;
 };
 
-/// A name as SQL has it, whatever it is made of.
-std::string quotedName(const std::string &name);
-
 /// Inserts rows into a table of an output, which outlives it and is finished after it is gone.
 class SqliteInsert
 {

@@ -1,6 +1,6 @@
 #include "rows/table_writer.h"
 
-#include "text/lists.h"
+#include "terminal/item_list.h"
 #include "text/numbers.h"
 #include "text/translate.h"
 #include "time/time_text.h"
@@ -25,7 +25,10 @@ struct ShownValue
     std::string operator()(UnixTime time) const { return localTimeText(time); }
     std::string operator()(const Items &items) const
     {
-        return listForPeople(items, [](const ListItem *item) { return item->shown; });
+        std::vector<std::string> texts;
+        for (const ListItem *item : items)
+            texts.push_back(item->shown);
+        return cellOfItems(texts);
     }
 };
 
@@ -40,7 +43,8 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
         shown.push_back({column.heading, column.align,
                          column.type == Type::Path ? Elide::Left : Elide::Right,
                          column.align == Align::Left && column.type != Type::Time &&
-                             column.type != Type::Source});
+                             column.type != Type::Source,
+                         column.type == Type::List, column.spareRank});
     table_.emplace(std::move(shown));
 }
 

@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_TEXT_TABLE_H
 #define IOSPHOTO_TOOL_TEXT_TABLE_H
 
+#include "terminal/column_layout.h"
 #include "terminal/display_width.h"
 #include "terminal/terminal.h"
 
@@ -21,6 +22,8 @@ public:
         Align align = Align::Left;
         Elide elide = Elide::Right;        ///< of cells that are cut; the end of paths tells more
         bool isCut = align == Align::Left; ///< where there is little room; numbers never are
+        bool isList = false;               ///< its cells are those of cellOfItems()
+        std::size_t spareRank = 0; ///< which one narrow terminals do without first; 0: none do
     };
 
     explicit TextTable(std::vector<Column> columns);
@@ -28,16 +31,20 @@ public:
     /// Adds a row, a cell for each column. Cells may hold any text; they are made printable.
     void add(const std::vector<std::string> &cells);
 
-    /// On a terminal that is too narrow, long cells are cut; where that does not help, each row is
-    /// a block of lines, a cell after the other.
+    /// On a terminal that is too narrow, long cells are cut, and spare columns left out, as a last
+    /// line says; where that does not help, each row is a block of lines, a cell after the other.
     void print(std::ostream &out, const Screen &screen) const;
 
 private:
     using Row = std::vector<std::string>;
 
-    void printRows(std::ostream &out, const Screen &screen,
-                   const std::vector<std::size_t> &widths) const;
-    std::string line(const Row &row, const std::vector<std::size_t> &widths) const;
+    std::vector<ColumnNeeds> needs() const;
+    void printRows(std::ostream &out, const Screen &screen, const ColumnWidths &widths) const;
+    void printWhatIsLeftOut(std::ostream &out, const Screen &screen,
+                            const ColumnWidths &widths) const;
+    std::string line(const Row &row, const ColumnWidths &widths) const;
+    std::string whole(std::size_t column, const std::string &cell) const;
+    std::vector<Row> wholeRows() const;
     Row headings() const;
 
     std::vector<Column> columns_;

@@ -46,55 +46,83 @@ fs::path sheetName(const fs::path &file, int sheet)
     return name;
 }
 
+void requireRoom(const Session &session, const ThumbCache &cache, const WrittenFiles &files,
+                 IfThere ifThere)
+{
+    if (ifThere == IfThere::Refuse)
+        for (const auto &[number, file] : files)
+            requireNew(session.files, file, cache.file());
+}
+
+WrittenFiles filesOfAll(const ThumbCache &cache, const fs::path &folder, bool asPng)
+{
+    WrittenFiles files;
+    const int last = cache.thumbnails().empty() ? 0 : cache.thumbnails().back().index;
+    for (const Thumbnail &thumbnail : cache.thumbnails())
+        files[thumbnail.index] =
+            (folder / (paddedIndex(thumbnail.index, last) + (asPng ? ".png" : ".bmp"))).string();
+    return files;
+}
+
+WrittenFiles filesOfSheets(const ThumbCache &cache, const fs::path &file)
+{
+    WrittenFiles files;
+    for (int sheet = 0; sheet < sheetCount(cache); ++sheet)
+        files[sheet] = sheetName(file, sheet).string();
+    return files;
+}
+
 } // namespace
 
 WrittenFiles exportOne(Session &session, const ThumbCache &cache, const Thumbnail &thumbnail,
-                       const std::string &file)
+                       const std::string &file, IfThere ifThere)
 {
     const QString suffix = lowerSuffix(file);
     if (!suffix.isEmpty() && suffix != "bmp" && suffix != "png")
         throw Failure(WrongUsage, translate("cannot write '{0}': thumbnails are written as .bmp or "
                                             ".png; name such a file",
                                             file));
+    WrittenFiles files = {{thumbnail.index, file}};
+    requireRoom(session, cache, files, ifThere);
     writeOutput(session.files, file, content(cache, thumbnail, suffix == "png"), cache.file());
-    return {{thumbnail.index, file}};
+    return files;
 }
 
 WrittenFiles exportAll(Session &session, const ThumbCache &cache, const std::string &folder,
-                       bool asPng)
+                       bool asPng, IfThere ifThere)
 {
+    WrittenFiles files = filesOfAll(cache, folder, asPng);
+    requireRoom(session, cache, files, ifThere);
     const OutputFolder output(folder);
-    const std::vector<Thumbnail> &thumbnails = cache.thumbnails();
     ProgressBar progress(session.terminal, translate("writing thumbnails"),
-                         static_cast<int>(thumbnails.size()));
-    WrittenFiles written;
-    for (const Thumbnail &thumbnail : thumbnails) {
-        const std::string name =
-            paddedIndex(thumbnail.index, thumbnails.back().index) + (asPng ? ".png" : ".bmp");
-        output.write(session.files, name, content(cache, thumbnail, asPng), cache.file());
-        written[thumbnail.index] = (fs::path(folder) / name).string();
-        progress.show(static_cast<int>(written.size()));
+                         static_cast<int>(files.size()));
+    int done = 0;
+    for (const Thumbnail &thumbnail : cache.thumbnails()) {
+        const fs::path name = fs::path(files.at(thumbnail.index)).filename();
+        output.write(session.files, name.string(), content(cache, thumbnail, asPng), cache.file());
+        progress.show(++done);
     }
     output.finish();
-    return written;
+    return files;
 }
 
-WrittenFiles exportSheets(Session &session, const ThumbCache &cache, const std::string &file)
+WrittenFiles exportSheets(Session &session, const ThumbCache &cache, const std::string &file,
+                          IfThere ifThere)
 {
     if (lowerSuffix(file) != "png")
         throw Failure(WrongUsage,
                       translate("cannot write '{0}': a contact sheet is a PNG file; name one "
                                 "that ends in .png",
                                 file));
-    ProgressBar progress(session.terminal, translate("drawing sheets"), sheetCount(cache));
-    WrittenFiles written;
-    for (int sheet = 0; sheet < sheetCount(cache); ++sheet) {
-        const fs::path name = sheetName(file, sheet);
+    WrittenFiles files = filesOfSheets(cache, file);
+    requireRoom(session, cache, files, ifThere);
+    ProgressBar progress(session.terminal, translate("drawing sheets"),
+                         static_cast<int>(files.size()));
+    for (const auto &[sheet, name] : files) {
         writeOutput(session.files, name, asPng(drawSheet(cache, sheet)), cache.file());
-        written[sheet] = name.string();
         progress.show(sheet + 1);
     }
-    return written;
+    return files;
 }
 
 } // namespace iosphoto::tool

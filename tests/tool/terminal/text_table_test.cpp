@@ -1,6 +1,7 @@
 #include "terminal/text_table.h"
 
 #include "terminal/display_width.h"
+#include "terminal/item_list.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +13,10 @@ namespace {
 
 const std::string family = "👨‍👩‍👧‍👦"; // one character, two columns wide
 
+using Align = TextTable::Align;
+
 TextTable sample()
 {
-    using Align = TextTable::Align;
     TextTable table({{"DAY"}, {"FILE NAME"}, {"SIZE", Align::Right}, {"UUID"}});
     table.add({"2020-01-06", "DCIM/100APPLE/a very long name.JPG", "1.5 MB", ""});
     table.add({"2020-01-07", "相机胶卷/" + family + family + family + ".JPG", "10 KB", "B0000000"});
@@ -56,18 +58,48 @@ TEST(TextTable, CutsTheWidestCellsToFitATerminal)
 
 TEST(TextTable, CutsNothingToLessThanIsUseful)
 {
-    using Align = TextTable::Align;
     TextTable table({{"TIME", Align::Left, Elide::Right, false},
                      {"PATH", Align::Left, Elide::Left},
                      {"WORDS"}});
     table.add(
         {"2020-01-06 10:40:00 UTC", "DCIM/100APPLE/IMG_0001 (1).JPG", "many words of a text"});
-    EXPECT_EQ(printed(table, terminal(23 + 24 + 16 + 4)),
+    EXPECT_EQ(printed(table, terminal(23 + 24 + 13 + 4)),
               "TIME                     PATH                      WORDS\n"
-              "2020-01-06 10:40:00 UTC  …0APPLE/IMG_0001 (1).JPG  many words of a…\n");
-    EXPECT_EQ(printed(table, terminal(23 + 24 + 16 + 3)), "TIME   2020-01-06 10:40:00 UTC\n"
+              "2020-01-06 10:40:00 UTC  …0APPLE/IMG_0001 (1).JPG  many words o…\n");
+    EXPECT_EQ(printed(table, terminal(23 + 24 + 13 + 3)), "TIME   2020-01-06 10:40:00 UTC\n"
                                                           "PATH   DCIM/100APPLE/IMG_0001 (1).JPG\n"
                                                           "WORDS  many words of a text\n");
+}
+
+TEST(TextTable, LeavesSpareColumnsOutAndSaysSo)
+{
+    TextTable::Column size = {"SIZE", Align::Right};
+    size.spareRank = 1;
+    TextTable table({{"NAME"}, size, {"WORDS"}});
+    table.add({"IMG_0001.JPG", "1.5 MB", "many words of a text"});
+    EXPECT_EQ(printed(table, terminal(42)), "NAME            SIZE  WORDS\n"
+                                            "IMG_0001.JPG  1.5 MB  many words of a text\n");
+    EXPECT_EQ(printed(table, terminal(34)), "NAME          WORDS\n"
+                                            "IMG_0001.JPG  many words of a text\n"
+                                            "\n"
+                                            "columns for which the terminal is\n"
+                                            "too narrow: SIZE\n");
+    EXPECT_EQ(printed(table, {}), printed(table, terminal(42)));
+}
+
+TEST(TextTable, ShortensListsByItems)
+{
+    TextTable::Column albums = {"ALBUMS"};
+    albums.isList = true;
+    TextTable table({{"NAME"}, albums});
+    table.add({"1.JPG", cellOfItems({"Camera Roll", "Favorites", "a\nb"})});
+    EXPECT_EQ(printed(table, {}), "NAME   ALBUMS\n1.JPG  Camera Roll, Favorites, a\\nb\n");
+    EXPECT_EQ(printed(table, terminal(34)), "NAME   ALBUMS\n1.JPG  Camera Roll, Favorites, +1\n");
+    EXPECT_EQ(printed(table, terminal(19)), "NAME    1.JPG\n"
+                                            "ALBUMS  Camera\n"
+                                            "        Roll,\n"
+                                            "        Favorites,\n"
+                                            "        a\\nb\n");
 }
 
 TEST(TextTable, PrintsBlocksWhereCuttingIsNotEnough)
