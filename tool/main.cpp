@@ -46,8 +46,8 @@ int run(Session &session, int argumentCount, char **arguments)
                  "iosphoto");
     app.require_subcommand(1);
 
-    const Command commands[] = {addInfo(app), addAlbums(app),     addPhotos(app),
-                                addDiff(app), addStatements(app), addThumb(app)};
+    const Command commands[] = {addInfo(app),    addAlbums(app),     addPhotos(app), addDiff(app),
+                                addBackups(app), addStatements(app), addThumb(app)};
     std::optional<std::string> evidence;
     for (const Command &command : commands)
         addEvidenceOption(*command.options, evidence);

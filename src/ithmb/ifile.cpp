@@ -1,4 +1,5 @@
 #include "ithmb/ithmb.h"
+#include "unnoticed_open.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,7 +15,7 @@ std::FILE *openRegularFile(char const *path)
 {
     if (path == nullptr)
         return nullptr;
-    const int descriptor = open(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int descriptor = iosphoto::openUnnoticed(path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
         return nullptr;
     struct stat status = {};

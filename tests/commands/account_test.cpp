@@ -257,7 +257,7 @@ TEST(LeftOutPhotos, AreInAllFormats)
         runOn(library, "photos", {"--left-out", "--jsonl", "--fields", "fileName,leftOutBecause"})
             .out,
         R"({"source":")" + library.path() +
-            R"(","fileName":"B.JPG","leftOutBecause":"sharedAlbum"})"
+            R"(","sourceBytes":null,"fileName":"B.JPG","leftOutBecause":"sharedAlbum"})"
             "\n");
     EXPECT_EQ(runOn(library, "photos", {"--left-out", "--fields", "fileName,reason"}).out,
               "fileName  LEFT OUT\nB.JPG     of a shared album\n");

@@ -143,18 +143,25 @@ TEST_F(ToolBrokenBackup, WithoutAnIndexAndWithFlatNames)
 
 TEST_F(ToolBrokenBackup, OneOfSeveralMustBeNamed)
 {
-    for (const char *name : {"a", "b"})
-        writeBackup(backup_ / name, library_);
+    writeBackup(backup_ / "a", library_);
+    BackupOptions encrypted;
+    encrypted.isEncrypted = true;
+    writeBackup(backup_ / "b", library_, encrypted);
     fs::create_directory(backup_ / "empty");
+    const std::string known = " (Somebody's, iPhone14,2, iOS 17.4.1, 2023-11-14 22:13 UTC";
     expectFailure(albums(backup_),
-                  quoted(backup_) + " holds 2 backups; name one of them: " + quoted(backup_ / "a") +
-                      ", " + quoted(backup_ / "b") + "\n",
+                  quoted(backup_) +
+                      " holds 2 backups, which iosphoto backups lists; name one of them: " +
+                      quoted(backup_ / "a") + known + "), " + quoted(backup_ / "b") + known +
+                      ", encrypted)\n",
                   2);
     const fs::path archive = packed(backup_, folder_ / "both", zip, "Backup");
     expectFailure(albums(archive),
-                  quoted(archive) + " holds 2 backups; unpack it and name one of them: " +
+                  quoted(archive) +
+                      " holds 2 backups, which iosphoto backups lists; name one of them: " +
                       quoted(archive / "Backup/a") + ", " + quoted(archive / "Backup/b") + "\n",
                   2);
+    expectWhole(albums(archive / "Backup/a"));
 }
 
 TEST_F(ToolBrokenBackup, IndexThatNamesAFileOutsideTheBackup)

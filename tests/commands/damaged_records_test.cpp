@@ -1,4 +1,4 @@
-// Backups whose property lists cannot be read.
+// Backups whose property lists or index cannot be read, or that are not finished.
 #include "support/case_name.h"
 #include "support/source_folder.h"
 
@@ -70,3 +70,127 @@ TEST_F(ToolDamagedRecords, StatusTellsTheDateWhenNothingElseDoes)
     EXPECT_THAT(run.error, HasSubstr("2019-01-02 03:04"));
     EXPECT_EQ(run.status, 0);
 }
+
+class ToolDamagedIndex : public ToolDamagedRecords
+{
+protected:
+    /// A backup whose index has some hundred entries, so that damage can hit any of its pages.
+    fs::path backupWithLargeIndex() const
+    {
+        BackupBuilder builder(backup_);
+        builder.add(library_);
+        for (int i = 1000; i < 1300; ++i)
+            builder.add("DCIM/" + std::to_string(i) + ".JPG", "x");
+        builder.finish();
+        return backup_ / "Manifest.db";
+    }
+
+    void expectReadWithWarning(const std::string &warning) const
+    {
+        const ToolRun run = albums(backup_);
+        EXPECT_EQ(run.out, expected_.out);
+        EXPECT_THAT(run.error, HasSubstr("iosphoto: " + quoted(backup_ / "Manifest.db") + warning));
+        EXPECT_EQ(run.status, 1);
+    }
+};
+
+TEST_F(ToolDamagedIndex, ThatIsCutShortIsSaidWithItsSize)
+{
+    const fs::path index = backupWithLargeIndex();
+    const auto size = fs::file_size(index);
+    cutShort(index);
+    expectReadWithWarning(" is cut short: " + std::to_string(size / 2) + " of its " +
+                          std::to_string(size) +
+                          " bytes are there, so files of the photo library may be missing without "
+                          "a word; the database was found by the name that every backup gives it; "
+                          "copy the whole backup again\n");
+}
+
+TEST_F(ToolDamagedIndex, ThatIsEmptyIsSaid)
+{
+    fs::resize_file(backupWithLargeIndex(), 0);
+    expectReadWithWarning(" is damaged, so files of the photo library may be missing");
+}
+
+TEST_F(ToolDamagedIndex, WithAPageOfGarbageIsSaid)
+{
+    const fs::path index = backupWithLargeIndex();
+    constexpr std::size_t page = 4096;
+    std::string content = readFile(index);
+    for (std::size_t at = page; at < content.size(); at += page)
+        content.replace(at, page, std::string(page, 'x'));
+    writeFile(index, content);
+    expectReadWithWarning(" is damaged, so files of the photo library may be missing");
+}
+
+TEST_F(ToolDamagedIndex, WithoutAHeaderIsSaidWhereTheBackupIsNotEncrypted)
+{
+    const fs::path index = backupWithLargeIndex();
+    writeFile(index, std::string(5000, 'x'));
+    expectReadWithWarning(" is damaged, so files of the photo library may be missing");
+}
+
+TEST_F(ToolDamagedIndex, OfABackupBeforeIos10IsSaidToo)
+{
+    BackupOptions options;
+    options.index = BackupIndexKind::Mbdb;
+    writeBackup(backup_, library_, options);
+    fs::resize_file(backup_ / "Manifest.mbdb", fs::file_size(backup_ / "Manifest.mbdb") - 10);
+    const ToolRun run = albums(backup_);
+    EXPECT_EQ(run.out, expected_.out);
+    EXPECT_THAT(run.error, HasSubstr(quoted(backup_ / "Manifest.mbdb") + " is damaged, so files"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolDamagedIndex, EndsTheCommandWhereTheDatabaseIsNotFoundEither)
+{
+    cutShort(backupWithLargeIndex());
+    fs::remove(BackupBuilder(backup_).stored(mediaDatabase));
+    expectFailure(albums(backup_),
+                  "cannot read " + quoted(backup_ / "Manifest.db") + ": it is damaged; copy", 3);
+}
+
+/// What Status.plist says of a backup.
+struct Status
+{
+    const char *label;
+    const char *snapshotState;
+    const char *backupState;
+    const char *said; ///< null where the backup is finished
+
+    std::string name() const { return label; }
+};
+
+std::ostream &operator<<(std::ostream &stream, const Status &status)
+{
+    return stream << status.label;
+}
+
+class ToolBackupStatus : public ToolDamagedRecords, public testing::WithParamInterface<Status>
+{
+};
+
+TEST_P(ToolBackupStatus, IsSaidWhereItIsNotThatOfTheEnd)
+{
+    BackupOptions options;
+    options.snapshotState = GetParam().snapshotState;
+    options.backupState = GetParam().backupState;
+    const ToolRun run = albums(writeBackup(backup_, library_, options));
+    EXPECT_EQ(run.out, expected_.out);
+    const std::string warning =
+        GetParam().said == nullptr
+            ? ""
+            : "iosphoto: " + quoted(backup_) + " is not finished, as its Status.plist says ('" +
+                  GetParam().said +
+                  "'), so photos and changes may be missing; wait for its end, or make another\n";
+    EXPECT_EQ(run.error.substr(run.error.find('\n') + 1), warning);
+    EXPECT_EQ(run.status, GetParam().said == nullptr ? 0 : 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(States, ToolBackupStatus,
+                         testing::Values(Status{"Finished", "finished", "new", nullptr},
+                                         Status{"Uploading", "uploading", "new", "uploading"},
+                                         Status{"OfAnOldProgram", "", "new", nullptr},
+                                         Status{"Empty", "", "empty", "empty"},
+                                         Status{"Nothing", "", "", nullptr}),
+                         NameOfCase());

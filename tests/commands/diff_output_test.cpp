@@ -119,7 +119,9 @@ TEST_F(ToolDiffOutput, JsonLinesNameBothSources)
     std::istringstream lines(run.out);
     for (json expected : {favorite(), gone()}) {
         expected["a"] = phone_.before.path();
+        expected["aBytes"] = nullptr;
         expected["b"] = phone_.after.path();
+        expected["bBytes"] = nullptr;
         std::string line;
         ASSERT_TRUE(std::getline(lines, line));
         EXPECT_EQ(json::parse(line), expected);

@@ -92,7 +92,9 @@ TEST_F(ToolHostileArchive, SeveralLibraries)
         .add("a/PhotoData/Photos.sqlite", database_)
         .add("b/private/var/mobile/Media/PhotoData/Photos.sqlite", database_);
     expectFailure(albumsOfArchive(),
-                  quoted(archive_) + " holds 2 photo libraries; unpack it and name one of them: " +
+                  quoted(archive_) +
+                      " holds 2 photo libraries, which iosphoto backups lists; name one of "
+                      "them: " +
                       quoted(archive_ / "a") + ", " +
                       quoted(archive_ / "b/private/var/mobile/Media") + "\n",
                   2);
@@ -109,8 +111,8 @@ TEST_F(ToolHostileArchive, MoreLibrariesThanCanBeNamed)
         std::string names;
         for (int i = 100; i < 105; ++i)
             names += (i > 100 ? ", " : "") + quoted(archive_ / std::to_string(i));
-        return std::pair(albumsOfArchive(),
-                         "; unpack it and name one of them: " + names + " and more\n");
+        return std::pair(albumsOfArchive(), ", which iosphoto backups lists; name one of them: " +
+                                                names + " and more\n");
     };
     const auto [twenty, rest] = holds(20);
     expectFailure(twenty, quoted(archive_) + " holds 20 photo libraries" + rest, 2);

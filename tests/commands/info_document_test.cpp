@@ -1,4 +1,5 @@
 // info --json
+#include "support/backup_builder.h"
 #include "support/case_name.h"
 #include "support/damage.h"
 #include "support/json_schema.h"
@@ -114,4 +115,57 @@ TEST(ToolInfoLines, AreTheDocumentInOneLine)
     EXPECT_EQ(line.out.find('\n'), line.out.size() - 1);
     EXPECT_EQ(nlohmann::json::parse(line.out),
               nlohmann::json::parse(runOn(library, "info", {"--json"}).out));
+}
+
+class InfoOfABackup : public testing::Test
+{
+protected:
+    InfoOfABackup() { library_.asset("1.JPG"); }
+
+    ToolRun info(const BackupOptions &options, const std::string &format = "--json")
+    {
+        std::filesystem::remove_all(folder_ / "backup");
+        writeBackup(folder_ / "backup", library_, options);
+        return runTool({"info", (folder_ / "backup").string(), "--ios", "15.0", format});
+    }
+
+    LibraryBuilder library_{ios15};
+    TemporaryFolder folder_;
+};
+
+TEST_F(InfoOfABackup, NamesTheDeviceAndItsSerialNumber)
+{
+    const json document = json::parse(info({}).out);
+    EXPECT_EQ(document["deviceName"], "Somebody's");
+    EXPECT_EQ(document["serialNumber"], "F2LXK0ABCD");
+    EXPECT_THAT(info({}, "--quiet").out,
+                testing::HasSubstr("\nName         Somebody's\nSerial       F2LXK0ABCD\n"));
+}
+
+TEST_F(InfoOfABackup, TakesThemFromManifestWhereInfoIsMissing)
+{
+    info({});
+    std::filesystem::remove(folder_ / "backup/Info.plist");
+    const json document =
+        json::parse(runTool({"info", (folder_ / "backup").string(), "--json"}).out);
+    EXPECT_EQ(document["deviceName"], "Somebody's");
+    EXPECT_EQ(document["serialNumber"], "F2LXK0ABCD");
+}
+
+TEST_F(InfoOfABackup, IsAloneInNamingThem)
+{
+    info({});
+    for (const char *const command : {"albums", "photos", "statements"})
+        for (const char *const format : {"--json", "--quiet"}) {
+            const ToolRun run = runTool({command, (folder_ / "backup").string(), format});
+            EXPECT_THAT(run.out + run.error,
+                        testing::Not(testing::ContainsRegex("Somebody|F2LXK0ABCD")))
+                << command;
+        }
+}
+
+TEST_F(InfoDocument, KnowsNoNameOfADeviceWithoutABackup)
+{
+    EXPECT_EQ(document()["deviceName"], nullptr);
+    EXPECT_EQ(document()["serialNumber"], nullptr);
 }

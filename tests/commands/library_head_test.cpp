@@ -15,10 +15,11 @@ using testing::StartsWith;
 
 namespace {
 
-constexpr const char *keys[] = {"source",          "sourceKind",     "isArchive",    "database",
-                                "iosVersion",      "iosVersionFrom", "build",        "productType",
-                                "productTypeFrom", "schema",         "modelVersion", "asOf",
-                                "leftOut",         "isComplete",     "unknownFields"};
+constexpr const char *keys[] = {
+    "source",          "sourceBytes", "sourceKind",     "isArchive", "database",
+    "databaseBytes",   "iosVersion",  "iosVersionFrom", "build",     "productType",
+    "productTypeFrom", "schema",      "modelVersion",   "asOf",      "assumedTimeZone",
+    "leftOut",         "isComplete",  "unknownFields"};
 
 /// The keys of the head alone.
 json headOf(const json &document)
@@ -109,9 +110,11 @@ TEST(LibraryHeadOfADatabase, IsNullForWhatItDoesNotSay)
 {
     const LibraryBuilder library(ios15);
     EXPECT_EQ(headOfInfo(library), (json{{"source", library.path()},
+                                         {"sourceBytes", nullptr},
                                          {"sourceKind", "database"},
                                          {"isArchive", false},
                                          {"database", library.path()},
+                                         {"databaseBytes", nullptr},
                                          {"iosVersion", "15.0"},
                                          {"iosVersionFrom", "user"},
                                          {"build", nullptr},
@@ -120,6 +123,7 @@ TEST(LibraryHeadOfADatabase, IsNullForWhatItDoesNotSay)
                                          {"schema", "iOS 15 to 17"},
                                          {"modelVersion", nullptr},
                                          {"asOf", "2020-01-10T00:00:00Z"},
+                                         {"assumedTimeZone", nullptr},
                                          {"leftOut", 0},
                                          {"isComplete", true},
                                          {"unknownFields", json::array()}}));

@@ -87,8 +87,9 @@ TEST_F(ToolBursts, AreAlikeInDocuments)
     const ToolRun run =
         runOn(library_, "photos",
               {"--jsonl", "--fields", "fileName,burstUuid,burstCount,burstFrames,isBurstPick"});
-    EXPECT_EQ(run, (ToolRun{"{\"source\":\"" + library_.path() +
-                                "\",\"fileName\":\"2.JPG\",\"burstUuid\":\"one\",\"burstCount\":2,"
-                                "\"burstFrames\":2,\"isBurstPick\":true}\n",
-                            "", 0}));
+    EXPECT_EQ(run,
+              (ToolRun{"{\"source\":\"" + library_.path() +
+                           "\",\"sourceBytes\":null,\"fileName\":\"2.JPG\",\"burstUuid\":\"one\","
+                           "\"burstCount\":2,\"burstFrames\":2,\"isBurstPick\":true}\n",
+                       "", 0}));
 }

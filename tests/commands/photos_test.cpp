@@ -203,10 +203,12 @@ TEST_F(ToolPhotos, FieldsAreChosenAndOrderedInEveryFormat)
                                     "2020-01-05T10:40:00Z," +
                                         uuid + ",4032x3024\r\n",
                                     "", 0}));
-    EXPECT_EQ(as("--jsonl"), (ToolRun{"{\"source\":\"" + library_.path() +
-                                          "\",\"created\":\"2020-01-05T10:40:00Z\",\"uuid\":\"" +
-                                          uuid + "\",\"pixels\":\"4032x3024\"}\n",
-                                      "", 0}));
+    EXPECT_EQ(as("--jsonl"),
+              (ToolRun{"{\"source\":\"" + library_.path() +
+                           "\",\"sourceBytes\":null,\"created\":\"2020-01-05T10:40:00Z\","
+                           "\"uuid\":\"" +
+                           uuid + "\",\"pixels\":\"4032x3024\"}\n",
+                       "", 0}));
     EXPECT_THAT(as("--json").out, HasSubstr("{\n      \"created\": \"2020-01-05T10:40:00Z\",\n"
                                             "      \"uuid\": \"" +
                                             uuid + "\",\n      \"pixels\": \"4032x3024\"\n"));

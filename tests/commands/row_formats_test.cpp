@@ -93,6 +93,7 @@ TEST_P(ToolRows, LinesSayWhatTheDocumentSays)
     std::vector<json> expected;
     for (json row : document[GetParam()]) {
         row["source"] = document["source"];
+        row["sourceBytes"] = document["sourceBytes"];
         expected.push_back(row);
     }
     EXPECT_EQ(lines(run({"--jsonl"}).out), expected);

@@ -92,11 +92,12 @@ TEST(ToolStandardOutput, ThatIsClosedIsNamed)
     EXPECT_EQ(runToolWithout({1, 2}, {"thumb", cache.string()}).status, 3);
 }
 
-TEST(ToolClosedDescriptors, AreNoFolderToLookIn)
+TEST(ToolClosedDescriptors, AreNoSource)
 {
     for (const char *command : {"photos", "thumb"}) {
         const ToolRun run = runToolWithout({0}, {command, "/dev/stdin"});
-        EXPECT_THAT(run.error, testing::HasSubstr("'/dev/stdin': it is not a file"));
+        EXPECT_THAT(run.error,
+                    testing::HasSubstr("cannot read standard input: it is closed; send"));
         EXPECT_EQ(run.status, 3);
     }
 }

@@ -28,7 +28,10 @@ protected:
 
     static Json output(const std::string &path, const std::string &content)
     {
-        return {{"path", path}, {"size", content.size()}, {"sha256", sha256Of(content)}};
+        return {{"path", path},
+                {"pathBytes", nullptr},
+                {"size", content.size()},
+                {"sha256", sha256Of(content)}};
     }
 
     TemporaryFolder folder_;

@@ -119,8 +119,8 @@ TEST_F(ToolThumb, ListsAsJson)
     EXPECT_EQ(document["isComplete"], true);
     EXPECT_TRUE(document["sheets"].empty());
     ASSERT_EQ(document["thumbnails"].size(), 3);
-    const nlohmann::json last = {
-        {"index", 3}, {"width", 77}, {"height", 77}, {"bmpBytes", 12078}, {"file", nullptr}};
+    const nlohmann::json last = {{"index", 3},        {"width", 77},     {"height", 77},
+                                 {"bmpBytes", 12078}, {"file", nullptr}, {"fileBytes", nullptr}};
     EXPECT_EQ(document["thumbnails"][2], last);
 }
 

@@ -140,6 +140,7 @@ void BackupBuilder::writeDb() const
         return;
     }
     const SqliteConnection connection = openDatabase(folder_ / "Manifest.db");
+    execute(connection, "pragma synchronous = off");
     execute(connection, "create table Files (fileID text primary key, domain text, "
                         "relativePath text, flags integer, file blob)");
     execute(connection, "insert into Files values ('0000000000000000000000000000000000000000', '" +
@@ -163,20 +164,27 @@ void BackupBuilder::writeMbdb() const
 void BackupBuilder::writeLists() const
 {
     const std::string info = textKey("Build Version", options_.buildVersion) +
-                             textKey("Device Name", "Somebody's") +
+                             textKey("Device Name", options_.deviceName) +
                              dateKey("Last Backup Date", options_.lastBackup) +
                              textKey("Product Type", options_.productType) +
                              textKey("Product Version", options_.iosVersion) +
+                             textKey("Serial Number", options_.serialNumber) +
                              textKey("Unique Identifier", "00008110-0001");
     writeFile(folder_ / "Info.plist", propertyList(info, options_.hasBinaryInfo));
-    const std::string lockdown = textKey("ProductType", options_.productType) +
-                                 textKey("ProductVersion", options_.iosVersion);
+    const std::string lockdown = textKey("DeviceName", options_.deviceName) +
+                                 textKey("ProductType", options_.productType) +
+                                 textKey("ProductVersion", options_.iosVersion) +
+                                 textKey("SerialNumber", options_.serialNumber);
     writeFile(folder_ / "Manifest.plist",
               propertyList(key("IsEncrypted", options_.isEncrypted ? "<true/>" : "<false/>") +
                                dateKey("Date", options_.lastBackup) +
                                key("Lockdown", "<dict>" + lockdown + "</dict>"),
                            true));
-    writeFile(folder_ / "Status.plist", propertyList(textKey("BackupState", "new"), true));
+    const std::string snapshot =
+        options_.snapshotState.empty() ? "" : textKey("SnapshotState", options_.snapshotState);
+    writeFile(folder_ / "Status.plist", propertyList(textKey("BackupState", options_.backupState) +
+                                                         key("IsFullBackup", "<false/>") + snapshot,
+                                                     true));
 }
 
 fs::path writeBackup(const fs::path &folder, const LibraryBuilder &library,

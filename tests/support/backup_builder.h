@@ -24,6 +24,10 @@ struct BackupOptions
     std::string iosVersion = "17.4.1";
     std::string productType = "iPhone14,2";
     std::string buildVersion = "21E236";
+    std::string deviceName = "Somebody's";
+    std::string serialNumber = "F2LXK0ABCD";
+    std::string snapshotState = "finished"; ///< of Status.plist; empty for none
+    std::string backupState = "new";
     std::int64_t lastBackup = 1'700'000'000; // 2023-11-14 22:13:20 UTC
     /// Paths below Media that the index lists, but that are not stored.
     std::set<std::string> notStored;

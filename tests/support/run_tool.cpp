@@ -98,6 +98,39 @@ ToolRun runTool(const std::vector<std::string> &arguments, const Environment &en
     return RunningTool(arguments, environment).result();
 }
 
+ToolRun runToolOnPipe(const std::string &input, const std::vector<std::string> &arguments,
+                      const Environment &environment)
+{
+    const auto readPipe = [&] {
+        std::array<int, 2> ends = {};
+        if (pipe(ends.data()) != 0)
+            _exit(notRun);
+        if (fork() == 0) {
+            close(ends[0]);
+            for (std::size_t at = 0; at < input.size();)
+                at += static_cast<std::size_t>(
+                    write(ends[1], input.data() + at, input.size() - at)); // or SIGPIPE
+            _exit(0);
+        }
+        dup2(ends[0], STDIN_FILENO);
+        close(ends[0]);
+        close(ends[1]);
+    };
+    return RunningTool(arguments, environment, readPipe).result();
+}
+
+ToolRun runToolFrom(const std::string &file, const std::vector<std::string> &arguments)
+{
+    return RunningTool(arguments, {}, [&] { redirect(file, O_RDONLY, STDIN_FILENO); }).result();
+}
+
+ToolRun runToolFromTerminal(const std::vector<std::string> &arguments)
+{
+    constexpr int columns = 80;
+    PseudoTerminal input(columns);
+    return RunningTool(arguments, {}, [&] { dup2(input.descriptor(), STDIN_FILENO); }).result();
+}
+
 ToolRun runToolOnTerminal(const std::vector<std::string> &arguments, int columns,
                           const Environment &environment)
 {

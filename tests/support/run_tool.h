@@ -33,6 +33,13 @@ using Environment = std::map<std::string, std::string>;
 /// Runs the tool with no input, in our environment with these variables set besides.
 ToolRun runTool(const std::vector<std::string> &arguments, const Environment &environment = {});
 
+/// Runs the tool with this coming through a pipe.
+ToolRun runToolOnPipe(const std::string &input, const std::vector<std::string> &arguments,
+                      const Environment &environment = {});
+
+/// Runs the tool with its input redirected from a file or folder.
+ToolRun runToolFrom(const std::string &file, const std::vector<std::string> &arguments);
+
 /// A run of the tool that goes on meanwhile. Ctrl-C and the like have their usual effect on it,
 /// whatever they have on this process.
 class RunningTool
@@ -54,6 +61,9 @@ private:
     TemporaryFolder folder_;
     pid_t process_;
 };
+
+/// Runs the tool with its input being a terminal.
+ToolRun runToolFromTerminal(const std::vector<std::string> &arguments);
 
 /// Runs the tool with stdout and stderr on a terminal each, which knows colours unless the
 /// variables say otherwise.

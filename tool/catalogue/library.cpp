@@ -2,8 +2,10 @@
 
 #include "catalogue/album_account.h"
 #include "catalogue/catalogue_build.h"
+#include "model/clock.h"
 #include "schema/asset_tables.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <algorithm>
 
@@ -35,7 +37,10 @@ Moment ownTimeOf(const Source &source)
 {
     if (const auto date = source.backupDate())
         return {*date, translate("Last Backup Date")};
-    return {source.lastChange(), translate("its last change")};
+    if (source.isBareStream())
+        return {{currentUnixTime()}, translate("now, as standard input has no date")};
+    const std::string zone = source.isLastChangeWithoutZone() ? timeZoneName() : "";
+    return {source.lastChange(), translate("its last change"), zone};
 }
 
 Library::Library(Session &session, const LibraryRequest &request)
@@ -50,6 +55,8 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     database_ = source.databaseName();
     kind_ = source.kind();
     isArchive_ = source.isArchive();
+    isBareStream_ = source.isBareStream();
+    identity_ = source.identity();
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);
     read(session, copy);

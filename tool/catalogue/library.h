@@ -26,6 +26,8 @@ struct Moment
 {
     UnixTime time;
     std::string why; ///< such as "Last Backup Date"; empty if the user named it
+    std::string assumedZone =
+        {}; ///< that its time is taken to be in, where nothing says; mostly empty
 };
 
 /// Which library to read, and as what.
@@ -80,6 +82,8 @@ public:
     const std::string &database() const { return database_; }   ///< that was found there
     SourceKind kind() const { return kind_; }
     bool isArchive() const { return isArchive_; }
+    bool isBareStream() const { return isBareStream_; }
+    const DeviceIdentity &identity() const { return identity_; }
     const Device &device() const { return schema_.device; }
     const ProbedSchema &schema() const { return schema_; }
     const std::vector<CAlbumGroup> &albums() const { return catalogue_.albums; }
@@ -123,6 +127,8 @@ private:
     std::string database_;
     SourceKind kind_ = SourceKind::Database;
     bool isArchive_ = false;
+    bool isBareStream_ = false;
+    DeviceIdentity identity_;
     ProbedSchema schema_;
     Moment asOf_ = {};
     Trash trash_;

@@ -22,6 +22,7 @@ struct Command
 /// Each adds a command to the tool.
 Command addInfo(CLI::App &app);
 Command addAlbums(CLI::App &app);
+Command addBackups(CLI::App &app);
 Command addDiff(CLI::App &app);
 Command addPhotos(CLI::App &app);
 Command addStatements(CLI::App &app);

@@ -6,6 +6,8 @@
 #include "commands/library_options.h"
 #include "commands/option_values.h"
 #include "commands/row_format_options.h"
+#include "files/standard_input.h"
+#include "process/failure.h"
 #include "rows/difference_fields.h"
 #include "text/translate.h"
 #include "time/time_text.h"
@@ -111,6 +113,9 @@ LibraryRequest compared(const std::string &source, const Device &device, const M
 
 ExitStatus showDifference(const DiffRequest &request, Session &session, std::ostream &out)
 {
+    if (isStandardInput(request.before) && isStandardInput(request.after))
+        throw Failure(WrongUsage, translate("A and B cannot both be standard input; name a file "
+                                            "for one of them"));
     const Source first(session, request.before);
     const Source second(session, request.after);
     const Moment asOf = request.asOf.value_or(Moment{beforeAllTrash, ""});

@@ -60,6 +60,8 @@ void printFacts(const Library &library, const Summary &summary, const Screen &sc
     };
     add(translate("LIBRARY"), library.name());
     const ProbedSchema &schema = library.schema();
+    add(translate("Name"), library.identity().name);
+    add(translate("Serial"), library.identity().serialNumber);
     add(translate("Device"), schema.productOrigin == DeviceOrigin::Assumption
                                  ? translate("not recorded; read like {0}, which hides no album",
                                              schema.device.productType)

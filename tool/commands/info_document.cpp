@@ -106,6 +106,8 @@ const char *logChangeName(Change change)
 Json infoDocument(const Library &library, const Summary &summary, const LogChanges *changes)
 {
     Json document = libraryHead(library);
+    document["deviceName"] = textOrNull(library.identity().name);
+    document["serialNumber"] = textOrNull(library.identity().serialNumber);
     document["isOfMac"] = library.schema().metadata.isOfMac();
     document["albumCount"] = library.albums().size();
     document["photoCount"] = summary.all.count;

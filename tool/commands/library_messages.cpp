@@ -11,6 +11,14 @@ namespace iosphoto::tool {
 
 namespace {
 
+std::string reasonOf(const Moment &asOf)
+{
+    if (asOf.assumedZone.empty())
+        return asOf.why;
+    return translate("{0}; the archive does not say in which time zone, {1} is assumed", asOf.why,
+                     asOf.assumedZone);
+}
+
 std::string assumptions(const Library &library)
 {
     const Moment &asOf = library.asOf();
@@ -20,13 +28,20 @@ std::string assumptions(const Library &library)
     const std::string when = localTimeText(asOf.time);
     return translate("reading as {0} and {1}, as of {2}", library.schema().iosText(),
                      library.schema().productText(),
-                     asOf.why.empty() ? when : translate("{0} ({1})", when, asOf.why));
+                     asOf.why.empty() ? when : translate("{0} ({1})", when, reasonOf(asOf)));
 }
 
 /// What was assumed; empty if nothing.
 std::string infoOf(const Library &library)
 {
-    return library.schema().isAssumed() || !library.asOf().why.empty() ? assumptions(library) : "";
+    std::string line;
+    if (library.schema().isAssumed() || !library.asOf().why.empty())
+        line = assumptions(library);
+    if (library.isBareStream())
+        line += (line.empty() ? "" : translate("; ")) +
+                translate("a write-ahead log (-wal) does not come through standard input, so what "
+                          "only that holds is not shown");
+    return line;
 }
 
 /// What is left out and why; empty if nothing.

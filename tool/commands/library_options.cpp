@@ -9,7 +9,8 @@ void addLibraryOptions(CLI::App &command, LibraryRequest &request)
 {
     command
         .add_option("SOURCE", request.source,
-                    translate("Photos.sqlite, media folder, backup folder, or a zip or tar of one"))
+                    translate("Photos.sqlite, media folder, backup folder, or a zip or tar of one; "
+                              "ARCHIVE/PATH is one in an archive, - standard input"))
         ->required();
     addDeviceOptions(command, request.device);
     addAsOfOption(

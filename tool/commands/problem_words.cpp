@@ -9,6 +9,7 @@
 #include "text/did_you_mean.h"
 #include "text/lists.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <fmt/args.h>
 
@@ -51,6 +52,17 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::NoLibrary, WrongKindOfFile,
      translatable("'{0}' holds no photo library: neither {1}, such as in the Media folder of a "
                   "phone, nor the Manifest.db of a backup; name another source")},
+    {SourceProblem::NoLibrarySoFar, WrongKindOfFile,
+     translatable("no photo library is in the first {1} folders of '{0}', where the search ended; "
+                  "name a folder further in")},
+    {SourceProblem::EndedSearch, Incomplete,
+     translatable("the search of '{0}' ended after {1} folders, so photo libraries in the others "
+                  "are not known; name a folder further in")},
+    {SourceProblem::UnsearchedPlaces, Incomplete,
+     translatable("not all of '{0}' was searched for photo libraries, as not everything in it can "
+                  "be read (such places: {1}), the first: {2}")},
+    {SourceProblem::NoSuchEntry, CannotAccess,
+     translatable("there is no '{1}' in '{0}'; check the path")},
     {SourceProblem::EncryptedArchive, CannotAccess,
      translatable("'{0}' is an encrypted archive; unpack it with its password and name the "
                   "folder")},
@@ -90,6 +102,17 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::BackupWithoutMedia, Incomplete,
      translatable("'{0}' is half a backup: {1} of the {2} files of the photo library that {3} "
                   "lists are missing; copy the whole backup again")},
+    {SourceProblem::BackupWithDamagedIndex, Incomplete,
+     translatable("'{0}' is damaged, so files of the photo library may be missing without a word; "
+                  "the database was found by the name that every backup gives it; copy the whole "
+                  "backup again")},
+    {SourceProblem::BackupWithShortIndex, Incomplete,
+     translatable("'{0}' is cut short: {1} of its {2} bytes are there, so files of the photo "
+                  "library may be missing without a word; the database was found by the name that "
+                  "every backup gives it; copy the whole backup again")},
+    {SourceProblem::UnfinishedBackup, Incomplete,
+     translatable("'{0}' is not finished, as its {1} says ('{2}'), so photos and changes may be "
+                  "missing; wait for its end, or make another")},
     {SourceProblem::DamagedPropertyList, Incomplete,
      translatable("'{0}' cannot be read, so what it says of the device and the backup is missing; "
                   "copy the whole backup again")},
@@ -107,6 +130,8 @@ constexpr Wording<SourceProblem> sourceWords[] = {
                   "again")},
     {SourceProblem::IndexIsCutShort, CannotAccess,
      translatable("cannot read '{0}': it is cut short; copy the whole backup again")},
+    {SourceProblem::IndexIsDamaged, CannotAccess,
+     translatable("cannot read '{0}': it is damaged; copy the whole backup again")},
 };
 
 constexpr Wording<SchemaProblem> schemaWords[] = {
@@ -182,7 +207,7 @@ constexpr bool hasAll(const Wording<Kind> (&wordings)[count], Kind last)
     return static_cast<std::size_t>(last) + 1 == count;
 }
 
-static_assert(hasAll(sourceWords, SourceProblem::IndexIsCutShort));
+static_assert(hasAll(sourceWords, SourceProblem::IndexIsDamaged));
 static_assert(hasAll(schemaWords, SchemaProblem::MissingColumns));
 static_assert(hasAll(outputWords, OutputProblem::Unwritten));
 static_assert(hasAll(conditionWords, ConditionProblem::TooMuchWork));
@@ -202,24 +227,45 @@ Failure wordsFor(const Wording<Kind> (&wordings)[count], const Finding<Kind> &fi
     return {wording.status, filledIn(wording.english, finding.facts)};
 }
 
-Failure inWords(const SeveralLibraries &libraries)
+std::string encryptionOf(const LibraryDescription &library)
+{
+    return library.isEncrypted == true ? translate("encrypted") : "";
+}
+
+/// The name, then what a person knows it by.
+std::string shownName(const LibraryDescription &library)
+{
+    const RecordedDevice device = library.device.value_or(RecordedDevice());
+    const std::string ios =
+        device.iosVersion.empty() ? "" : translate("iOS {0}", device.iosVersion);
+    const std::string date = library.backupDate ? localTimeText(*library.backupDate) : "";
+    std::vector<std::string> known;
+    for (const std::string &fact :
+         {library.deviceName, device.productType, ios, date, encryptionOf(library)})
+        if (!fact.empty())
+            known.push_back(fact);
+    const std::string name = translate("'{0}'", library.name);
+    return known.empty() ? name : translate("{0} ({1})", name, listForPeople(known));
+}
+
+Failure inWords(const SeveralLibraries &several)
 {
     constexpr std::size_t mostNames = 5;
-    const std::size_t count = libraries.names.size();
-    std::string what = libraries.areBackups ? translate("{0} backups", count)
-                                            : translate("{0} photo libraries", count);
+    const std::size_t count = several.libraries.size();
+    std::string what = several.areBackups ? translate("{0} backups", count)
+                                          : translate("{0} photo libraries", count);
     if (count > SeveralLibraries::mostCounted)
         what = translate("more than {0} libraries", SeveralLibraries::mostCounted);
-    const std::vector<std::string> named(
-        libraries.names.begin(),
-        libraries.names.begin() + static_cast<std::ptrdiff_t>(std::min(count, mostNames)));
-    const std::string names =
-        listForPeople(named, [](const std::string &name) { return translate("'{0}'", name); });
-    return {WrongUsage,
-            translate("'{0}' holds {1}; {2}: {3}", libraries.source, what,
-                      libraries.areInArchive ? translate("unpack it and name one of them")
-                                             : translate("name one of them"),
-                      count > mostNames ? translate("{0} and more", names) : names)};
+    const std::vector<LibraryDescription> named(
+        several.libraries.begin(),
+        several.libraries.begin() + static_cast<std::ptrdiff_t>(std::min(count, mostNames)));
+    const std::string names = listForPeople(named, shownName);
+    std::string text = translate(
+        "'{0}' holds {1}, which iosphoto backups lists; name one of them: {2}", several.source,
+        what, count > mostNames ? translate("{0} and more", names) : names);
+    for (const SourceFinding &finding : several.unsearched)
+        text += translate("; ") + inWords(finding).what();
+    return {WrongUsage, text};
 }
 
 Failure inWords(const UnknownField &field)

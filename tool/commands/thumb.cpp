@@ -2,6 +2,7 @@
 #include "commands/help.h"
 #include "commands/option_values.h"
 #include "commands/row_format_options.h"
+#include "files/standard_input.h"
 #include "process/failure.h"
 #include "terminal/paragraph.h"
 #include "terminal/text_table.h"
@@ -70,13 +71,15 @@ Json thumbnailAsJson(const Thumbnail &thumbnail, const WrittenFiles &files)
             {"width", thumbnail.width},
             {"height", thumbnail.height},
             {"bmpBytes", thumbnail.bytes},
-            {"file", file != files.end() ? Json(file->second) : Json()}};
+            {"file", file != files.end() ? Json(file->second) : Json()},
+            {"fileBytes", file != files.end() ? bytesOrNull(file->second) : Json()}};
 }
 
 void printAsJson(const ThumbCache &cache, const WrittenFiles &pictures, const WrittenFiles &sheets,
                  std::ostream &out)
 {
     Json document = {{"cache", cache.path()},
+                     {"cacheBytes", bytesOrNull(cache.path())},
                      {"format", cache.format().code},
                      {"recordSize", cache.format().recordSize},
                      {"recordCount", cache.recordCount()},
@@ -85,9 +88,12 @@ void printAsJson(const ThumbCache &cache, const WrittenFiles &pictures, const Wr
     Json &thumbnails = document["thumbnails"] = Json::array();
     for (const Thumbnail &thumbnail : cache.thumbnails())
         thumbnails.push_back(thumbnailAsJson(thumbnail, pictures));
-    Json &sheetNames = document["sheets"] = Json::array();
-    for (const auto &[number, name] : sheets)
-        sheetNames.push_back(name);
+    document["sheets"] = Json::array();
+    Json &sheetBytes = document["sheetBytes"] = Json::array();
+    for (const auto &[number, name] : sheets) {
+        document["sheets"].push_back(name);
+        sheetBytes.push_back(bytesOrNull(name));
+    }
     print(document, out);
 }
 
@@ -106,14 +112,26 @@ WrittenFiles writePictures(Session &session, const ThumbCache &cache, const Thum
     return {};
 }
 
+/// @param input  to keep what comes through standard input, while the cache is used
+ThumbCache openCache(const std::string &name, std::optional<StandardInput> &input, Session &session)
+{
+    if (isStandardInput(name) && !redirectedInput()) {
+        input.emplace(session.files);
+        return ThumbCache(name, input->file());
+    }
+    const std::string file = isStandardInput(name) ? redirectedInput()->string() : name;
+    session.files.protectFiles({file});
+    session.files.willRead({file});
+    return ThumbCache(file);
+}
+
 ExitStatus showThumbnails(const ThumbRequest &request, Session &session, std::ostream &out)
 {
     if (request.output && !request.index && !request.all)
         throw Failure(WrongUsage,
                       translate("--output requires --index or --all; see iosphoto --help"));
-    session.files.protectFiles({request.cache});
-    session.files.willRead({request.cache});
-    const ThumbCache cache(request.cache);
+    std::optional<StandardInput> input;
+    const ThumbCache cache = openCache(request.cache, input, session);
     const WrittenFiles pictures = writePictures(session, cache, request);
     const WrittenFiles sheets =
         request.sheet ? exportSheets(session, cache, *request.sheet, ifThereOf(request))

@@ -3,6 +3,7 @@
 #include "evidence/file_state.h"
 #include "files/output_file.h"
 #include "process/failure.h"
+#include "text/printable.h"
 #include "text/translate.h"
 #include "time/time_text.h"
 
@@ -18,7 +19,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char *standardOutput = "-";
+/// The name of standard input and output.
+constexpr const char *nameOfStream = "-";
 
 template <typename Value>
 Json orNull(const std::optional<Value> &value)
@@ -35,11 +37,42 @@ Json asJson(const FileState &state)
 
 Json asJson(const InputFile &input)
 {
-    Json entry = {{"path", input.path.string()}};
+    Json entry = {{"path", input.path.string()}, {"pathBytes", bytesOrNull(input.path.string())}};
     entry.update(asJson(input.before));
     entry["after"] = input.after ? asJson(*input.after) : Json();
     entry["isUnchanged"] = input.isUnchanged();
     return entry;
+}
+
+/// It comes but once, so that there is nothing after it that could differ.
+Json asInput(const HashedStream &received)
+{
+    return {{"path", nameOfStream},
+            {"pathBytes", nullptr},
+            {"size", received.size},
+            {"modified", nullptr},
+            {"sha256", received.hash.digits()},
+            {"after", nullptr},
+            {"isUnchanged", true}};
+}
+
+void add(std::optional<HashedStream> &stream, const char *bytes, std::size_t size)
+{
+    if (!stream)
+        stream.emplace();
+    stream->size += size;
+    stream->hash.add(bytes, size);
+}
+
+/// For each text its bytes or null; null where all texts are UTF-8.
+Json bytesOfAll(const std::vector<std::string> &texts)
+{
+    if (std::all_of(texts.begin(), texts.end(), isUtf8))
+        return {};
+    Json all = Json::array();
+    for (const std::string &text : texts)
+        all.push_back(bytesOrNull(text));
+    return all;
 }
 
 /// What goes wrong here must not hide why the command failed.
@@ -170,33 +203,42 @@ void Evidence::wroteWhole(const fs::path &file)
     outputs_[file.string()] = {*state.size, *state.sha256};
 }
 
+void Evidence::received(const char *bytes, std::size_t size)
+{
+    add(received_, bytes, size);
+}
+
 void Evidence::printed(const char *bytes, std::size_t size)
 {
-    if (!printed_)
-        printed_.emplace();
-    printed_->size += size;
-    printed_->hash.add(bytes, size);
+    add(printed_, bytes, size);
 }
 
 Json Evidence::document(int exitStatus) const
 {
     std::error_code ignored;
+    const std::string workingFolder = fs::current_path(ignored).string();
     Json document = {{"tool", {{"name", "iosphoto"}, {"version", IOSPHOTO_VERSION}}},
                      {"commandLine", commandLine_},
-                     {"workingFolder", fs::current_path(ignored).string()},
+                     {"commandLineBytes", bytesOfAll(commandLine_)},
+                     {"workingFolder", workingFolder},
+                     {"workingFolderBytes", bytesOrNull(workingFolder)},
                      {"timeZone", {{"name", timeZoneName()}, {"utcOffset", utcOffsetNow()}}},
                      {"started", started_},
                      {"finished", utcNow()}};
     Json &inputs = document["inputs"] = Json::array();
+    if (received_)
+        inputs.push_back(asInput(*received_));
     for (const InputFile &input : inputs_)
         inputs.push_back(asJson(input));
     std::map<std::string, Output> outputs = outputs_;
     if (printed_)
-        outputs[standardOutput] = {printed_->size, printed_->hash.digits()};
+        outputs[nameOfStream] = {printed_->size, printed_->hash.digits()};
     document["outputs"] = Json::array();
     for (const auto &[path, output] : outputs)
-        document["outputs"].push_back(
-            {{"path", path}, {"size", output.size}, {"sha256", output.sha256}});
+        document["outputs"].push_back({{"path", path},
+                                       {"pathBytes", bytesOrNull(path)},
+                                       {"size", output.size},
+                                       {"sha256", output.sha256}});
     document["exitStatus"] = exitStatus;
     return document;
 }

@@ -25,8 +25,8 @@ struct InputFile
     bool isUnchanged() const { return after && *after == before; }
 };
 
-/// What goes to standard output, bit by bit.
-struct PrintedOutput
+/// What goes through standard input or output, bit by bit.
+struct HashedStream
 {
     std::uint64_t size = 0;
     Sha256 hash;
@@ -59,6 +59,7 @@ private:
     };
 
     void willRead(const std::vector<std::filesystem::path> &files) override { addInputs(files); }
+    void received(const char *bytes, std::size_t size) override;
     void willWrite(const std::filesystem::path &file) override;
     void wrote(const std::filesystem::path &file, const QByteArray &content) override;
     void wroteWhole(const std::filesystem::path &file) override;
@@ -74,7 +75,8 @@ private:
     FileSet sources_; ///< the inputs, and those that could not be read
     std::vector<InputFile> inputs_;
     std::map<std::string, Output> outputs_; ///< by path; the last content of each
-    std::optional<PrintedOutput> printed_;
+    std::optional<HashedStream> received_;
+    std::optional<HashedStream> printed_;
 };
 
 /// Runs a command and returns its exit status. Where a file for it is named, writes evidence, of a

@@ -3,6 +3,7 @@
 #include "evidence/sha256.h"
 #include "files/file_stamp.h"
 #include "files/source_file.h"
+#include "files/source_reader.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
@@ -10,9 +11,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -23,52 +22,16 @@ namespace {
 
 constexpr std::size_t pieceSize = std::size_t{1024} * 1024;
 
-/// A file open for reading; none where nothing is there.
-class OpenFile
+/// Nothing for what is not there or no regular file, as it has no content of its own.
+std::optional<struct stat> statusOf(const fs::path &file, const SourceReader &reader)
 {
-public:
-    explicit OpenFile(const fs::path &file)
-        // A pipe must not make us wait for its writer.
-        : file_(file), descriptor_(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC))
-    {
-        if (descriptor_ < 0 && errno != ENOENT && errno != ENOTDIR)
-            throw mayNotRead(file_, systemError(errno));
-    }
-    ~OpenFile()
-    {
-        if (descriptor_ >= 0)
-            close(descriptor_);
-    }
-    OpenFile(const OpenFile &) = delete;
-    OpenFile &operator=(const OpenFile &) = delete;
-
-    /// Nothing for what is no regular file, as it has no content of its own.
-    std::optional<struct stat> status() const
-    {
-        struct stat status = {};
-        if (descriptor_ < 0)
-            return std::nullopt;
-        if (fstat(descriptor_, &status) != 0)
-            throw mayNotRead(file_, systemError(errno));
-        return S_ISREG(status.st_mode) ? std::make_optional(status) : std::nullopt;
-    }
-
-    /// 0 at the end.
-    std::size_t read(std::vector<char> &piece) const
-    {
-        ssize_t size = 0;
-        do
-            size = ::read(descriptor_, piece.data(), piece.size());
-        while (size < 0 && errno == EINTR);
-        if (size < 0)
-            throw mayNotRead(file_, systemError(errno));
-        return static_cast<std::size_t>(size);
-    }
-
-private:
-    fs::path file_;
-    int descriptor_;
-};
+    struct stat status = {};
+    if (!reader.isOpen() && (errno == ENOENT || errno == ENOTDIR))
+        return std::nullopt;
+    if (!reader.isOpen() || fstat(reader.descriptor(), &status) != 0)
+        throw mayNotRead(file, systemError(errno));
+    return S_ISREG(status.st_mode) ? std::make_optional(status) : std::nullopt;
+}
 
 /// Rounded up, and never 0.
 int mebibytes(std::uint64_t bytes)
@@ -92,18 +55,21 @@ std::uint64_t totalSize(const std::vector<fs::path> &files)
 
 FileState stateOf(const fs::path &file, HashingProgress &progress)
 {
-    const OpenFile opened(file);
-    const std::optional<struct stat> status = opened.status();
+    const SourceReader reader(file);
+    const std::optional<struct stat> status = statusOf(file, reader);
     if (!status)
         return {};
     Sha256 hash;
     std::vector<char> piece(pieceSize);
     std::uint64_t hashed = 0;
-    while (const std::size_t size = opened.read(piece)) {
-        hash.add(piece.data(), size);
-        progress.add(size);
-        hashed += size;
+    ssize_t size = 0;
+    while ((size = reader.read(piece.data(), piece.size())) > 0) {
+        hash.add(piece.data(), static_cast<std::size_t>(size));
+        progress.add(static_cast<std::uint64_t>(size));
+        hashed += static_cast<std::uint64_t>(size);
     }
+    if (size < 0)
+        throw mayNotRead(file, systemError(errno));
     if (hashed != static_cast<std::uint64_t>(status->st_size))
         throw Failure(CannotAccess,
                       translate("cannot read '{0}': it changed while it was read; copy it first",

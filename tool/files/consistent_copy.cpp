@@ -1,16 +1,23 @@
 #include "files/consistent_copy.h"
 
+#include "files/file_clone.h"
 #include "files/file_stamp.h"
 #include "files/new_file.h"
 #include "files/private_folder.h"
 #include "files/source_file.h"
+#include "files/source_reader.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
 #include <thread>
+#include <unistd.h>
 
 namespace iosphoto::tool {
 
@@ -22,24 +29,75 @@ namespace {
 /// now, the next change could have the same time and go unnoticed.
 constexpr std::chrono::milliseconds settlingTime(20);
 
+/// Throws std::system_error.
+[[noreturn]] void fail(int error)
+{
+    throw std::system_error(error, std::generic_category());
+}
+
+/// Copies what is left of an open file, a piece at a time.
+void copyContent(const SourceReader &from, int to)
+{
+    constexpr std::size_t pieceSize = std::size_t{1024} * 1024;
+    std::vector<char> piece(pieceSize);
+    for (;;) {
+        const ssize_t size = from.read(piece.data(), piece.size());
+        if (size < 0)
+            fail(errno);
+        if (size == 0)
+            return;
+        for (ssize_t written = 0; written < size;) {
+            const ssize_t step =
+                write(to, piece.data() + written, static_cast<std::size_t>(size - written));
+            if (step < 0 && errno != EINTR)
+                fail(errno);
+            written += std::max<ssize_t>(step, 0);
+        }
+    }
+}
+
+void writeCopy(const SourceReader &from, const fs::path &to)
+{
+    const int copy = open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (copy < 0)
+        fail(errno);
+    try {
+        copyContent(from, copy);
+    } catch (...) {
+        close(copy);
+        throw;
+    }
+    if (close(copy) != 0)
+        fail(errno);
+}
+
+void keepTime(const struct stat &original, const fs::path &copy)
+{
+    const timespec times[] = {modifiedAt(original), modifiedAt(original)};
+    if (utimensat(AT_FDCWD, copy.c_str(), times, 0) != 0)
+        fail(errno);
+}
+
 void copyFile(const Copy &file)
 {
     std::error_code error;
-    if (!fs::is_regular_file(file.from, error)) // a pipe would keep us waiting
+    if (!fs::is_regular_file(file.from, error))
         throw cannotRead(file.from, error ? systemError(error.value())
                                           : translate("it is not a file; name a file"));
-    requireReadable(file.from);
-    if (const auto size = fs::file_size(file.from, error); !error)
-        requireRoom(file.to, size); // copying does not tell a full disk from a failing one
-    fs::copy_file(file.from, file.to, error);
-    if (!error)
-        fs::permissions(file.to, fs::perms::owner_read | fs::perms::owner_write, error);
-    const fs::file_time_type time =
-        error ? fs::file_time_type() : fs::last_write_time(file.from, error);
-    if (!error)
-        fs::last_write_time(file.to, time, error);
-    if (error)
-        throw cannotCopy(file.from, file.to.parent_path(), systemError(error.value()));
+    const SourceReader from(file.from);
+    struct stat facts = {};
+    if (!from.isOpen() || fstat(from.descriptor(), &facts) != 0)
+        throw mayNotRead(file.from, systemError(errno));
+    try {
+        if (!cloneFile(from.descriptor(), file.to)) {
+            // Copying does not tell a full disk from a failing one.
+            requireRoom(file.to, static_cast<std::uint64_t>(facts.st_size));
+            writeCopy(from, file.to);
+        }
+        keepTime(facts, file.to);
+    } catch (const std::system_error &failed) {
+        throw cannotCopy(file.from, file.to.parent_path(), systemError(failed.code().value()));
+    }
 }
 
 std::vector<FileStamp> stampsOf(const std::vector<Copy> &files)

@@ -1,5 +1,7 @@
 #include "files/file_use.h"
 
+#include <algorithm>
+
 namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
@@ -32,8 +34,18 @@ bool FileUse::isInProtectedFolder(const fs::path &file) const
 
 void FileUse::willRead(const std::vector<fs::path> &files)
 {
+    std::vector<fs::path> ofSources;
+    for (const fs::path &file : files)
+        if (std::count(ownFolders_.begin(), ownFolders_.end(), file.parent_path()) == 0)
+            ofSources.push_back(file);
     if (observer_ != nullptr)
-        observer_->willRead(files);
+        observer_->willRead(ofSources);
+}
+
+void FileUse::received(const char *bytes, std::size_t size)
+{
+    if (observer_ != nullptr)
+        observer_->received(bytes, size);
 }
 
 void FileUse::willWrite(const fs::path &file)

@@ -22,6 +22,8 @@ public:
 
     /// May throw, and so keep the files from being read. One may be missing.
     virtual void willRead(const std::vector<std::filesystem::path> &files) = 0;
+    /// From standard input.
+    virtual void received(const char *bytes, std::size_t size) = 0;
     /// May throw, and so keep the file from being written.
     virtual void willWrite(const std::filesystem::path &file) = 0;
     virtual void wrote(const std::filesystem::path &file, const QByteArray &content) = 0;
@@ -47,11 +49,15 @@ public:
     /// Whether an output to `file` would change a source.
     bool isProtected(const std::filesystem::path &file) const;
 
+    /// Says that the files in a folder are the command's own, so that nobody is told of them.
+    void passOver(const std::filesystem::path &folder) { ownFolders_.push_back(folder); }
+
     /// @param observer  has to outlive this, or be taken away before it goes; null takes it away
     void observe(FileUseObserver *observer) { observer_ = observer; }
 
     /// To be told by whoever is about to read the files of a source, or to write an output.
     void willRead(const std::vector<std::filesystem::path> &files);
+    void received(const char *bytes, std::size_t size);
     void willWrite(const std::filesystem::path &file);
     void wrote(const std::filesystem::path &file, const QByteArray &content);
     void wroteWhole(const std::filesystem::path &file);
@@ -62,6 +68,7 @@ private:
 
     FileSet protectedFiles_;
     FileSet protectedFolders_;
+    std::vector<std::filesystem::path> ownFolders_;
     FileUseObserver *observer_ = nullptr;
 };
 

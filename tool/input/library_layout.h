@@ -19,6 +19,14 @@ struct RecordedDevice
     std::string recordedIn;   ///< the file that says so, such as "Info.plist"
 };
 
+/// What tells a device from others of its model: it identifies a person. What is not known is
+/// empty.
+struct DeviceIdentity
+{
+    std::string name; ///< that its owner gave it
+    std::string serialNumber;
+};
+
 enum class SourceKind { Database, MediaFolder, Backup };
 
 /// The kind's name for machines.
@@ -53,6 +61,7 @@ public:
     virtual std::optional<std::string> locate(const std::string &mediaPath) const = 0;
 
     virtual std::optional<RecordedDevice> device() const { return std::nullopt; }
+    virtual DeviceIdentity identity() const { return {}; }
     virtual std::optional<UnixTime> backupDate() const { return std::nullopt; }
 
     /// What should be there and is not; mostly nothing.

@@ -2,22 +2,15 @@
 
 #include "input/backup/backup.h"
 #include "input/library_layout.h"
+#include "terminal/busy_line.h"
+#include "text/translate.h"
 
 #include <algorithm>
-#include <iterator>
+#include <set>
 
 namespace iosphoto::tool {
 
 namespace {
-
-/// A library that was found: its kind and its path in the tree.
-struct Find
-{
-    SourceKind kind;
-    std::string path;
-
-    bool operator==(const Find &other) const { return path == other.path; }
-};
 
 /// Where Media is in the file system of a phone, or in a part of it.
 constexpr const char *mediaPlaces[] = {"", "private/var/mobile/Media", "var/mobile/Media",
@@ -29,96 +22,167 @@ bool isOfSystem(const std::string &path)
     return ("/" + path).find("/Library/Photos/Libraries/") != std::string::npos;
 }
 
-bool isInside(const std::string &path, const std::string &folder)
+/// Looks into one folder after the other.
+class Search
 {
-    return folder.empty() || path.compare(0, folder.size() + 1, folder + "/") == 0;
-}
-
-std::optional<Find> libraryAt(const FileTree &tree, const std::string &folder)
-{
-    for (const char *const place : mediaPlaces) {
-        const std::string media = joinedPath(folder, place);
-        const std::string database = joinedPath(media, databaseBelowMedia);
-        if (tree.find(database) && !isOfSystem(database))
-            return Find{SourceKind::MediaFolder, media};
+public:
+    Search(const FileTree &tree, std::string top, std::size_t most)
+        : tree_(tree), top_(std::move(top)), most_(most)
+    {
     }
-    if (isBackup(tree, folder))
-        return Find{SourceKind::Backup, folder};
-    return std::nullopt;
-}
 
-std::vector<Find> librariesIn(const FileTree &tree)
-{
-    std::vector<Find> finds;
-    const auto isInsideFind = [&](const std::string &folder) {
-        return std::any_of(finds.begin(), finds.end(),
-                           [&](const Find &find) { return isInside(folder, find.path); });
-    };
-    for (const std::string &folder : tree.searchedFolders()) {
-        if (finds.size() > SeveralLibraries::mostCounted)
-            break;
-        if (isInsideFind(folder))
-            continue;
-        const auto find = libraryAt(tree, folder);
-        if (find && std::find(finds.begin(), finds.end(), *find) == finds.end())
-            finds.push_back(*find);
+    /// Whether to look into the folders in this one.
+    bool look(const std::string &folder)
+    {
+        if (libraries_.size() > most_ || paths_.count(folder) != 0)
+            return false;
+        if (const auto library = libraryAt(folder)) {
+            paths_.insert(library->path);
+            libraries_.push_back(*library);
+            return library->path != folder;
+        }
+        if (std::string path = joinedPath(folder, "Photos.sqlite"); tree_.find(path))
+            loneDatabases_.push_back(std::move(path));
+        return true;
     }
-    return finds;
-}
 
-/// Databases that lie there without the folders of a phone.
-std::vector<Find> loneDatabasesIn(const FileTree &tree)
-{
-    std::vector<std::string> paths;
-    for (const std::string &folder : tree.searchedFolders())
-        if (std::string path = joinedPath(folder, "Photos.sqlite"); tree.find(path))
-            paths.push_back(std::move(path));
-    if (paths.empty())
-        paths = tree.loneFiles();
-    std::vector<Find> finds;
-    for (const std::string &path : paths)
-        if (finds.size() <= SeveralLibraries::mostCounted && !isOfSystem(path))
-            finds.push_back({SourceKind::Database, path});
-    return finds;
-}
-
-SeveralLibraries several(const FileTree &tree, const std::string &shownName,
-                         const std::vector<Find> &finds)
-{
-    SeveralLibraries libraries = {shownName, true, tree.isArchive(), {}};
-    for (const Find &find : finds) {
-        libraries.areBackups = libraries.areBackups && find.kind == SourceKind::Backup;
-        libraries.names.push_back(tree.shown(find.path));
+    /// To be called at the end.
+    std::vector<FoundLibrary> libraries() const
+    {
+        if (!libraries_.empty())
+            return libraries_;
+        std::vector<FoundLibrary> databases;
+        for (const std::string &path :
+             loneDatabases_.empty() ? tree_.loneFiles(top_) : loneDatabases_)
+            if (databases.size() <= most_ && !isOfSystem(path))
+                databases.push_back({SourceKind::Database, path});
+        return databases;
     }
-    return libraries;
+
+private:
+    std::optional<FoundLibrary> libraryAt(const std::string &folder) const
+    {
+        for (const char *const place : mediaPlaces) {
+            const std::string media = joinedPath(folder, place);
+            const std::string database = joinedPath(media, databaseBelowMedia);
+            if (tree_.find(database) && !isOfSystem(database))
+                return FoundLibrary{SourceKind::MediaFolder, media};
+            if (folder != top_) // below, each place is a folder that is looked into
+                break;
+        }
+        if (isBackup(tree_, folder))
+            return FoundLibrary{SourceKind::Backup, folder};
+        return std::nullopt;
+    }
+
+    const FileTree &tree_;
+    std::string top_;
+    std::size_t most_;
+    std::vector<FoundLibrary> libraries_;
+    std::set<std::string> paths_;            ///< of these
+    std::vector<std::string> loneDatabases_; ///< that lie there without the folders of a phone
+};
+
+/// Throws Failure where nothing was found since a folder could not be read.
+std::vector<SourceFinding> findingsOf(const UnsearchedFolders &unsearched, bool isAnythingFound,
+                                      const std::string &shownName)
+{
+    std::vector<SourceFinding> findings;
+    if (!unsearched.unreadable.empty()) {
+        const Failure &first = unsearched.unreadable.front();
+        if (!isAnythingFound)
+            throw first;
+        findings.push_back(
+            {SourceProblem::UnsearchedPlaces,
+             {shownName, std::to_string(unsearched.unreadable.size()), first.what()}});
+    }
+    if (unsearched.endedAfter)
+        findings.push_back(
+            {SourceProblem::EndedSearch, {shownName, std::to_string(*unsearched.endedAfter)}});
+    return findings;
 }
 
-std::unique_ptr<LibraryLayout> layoutOf(Session &session, const FileTree &tree, const Find &find)
+std::unique_ptr<LibraryLayout> layoutOf(Session &session, const FileTree &tree,
+                                        const FoundLibrary &library)
 {
-    switch (find.kind) {
+    switch (library.kind) {
     case SourceKind::Backup:
-        return std::make_unique<Backup>(session, tree, find.path);
+        return std::make_unique<Backup>(session, tree, library.path);
     case SourceKind::MediaFolder:
-        return std::make_unique<MediaFolder>(find.path);
+        return std::make_unique<MediaFolder>(library.path);
     case SourceKind::Database:
         break;
     }
-    return std::make_unique<LoneDatabase>(find.path);
+    return std::make_unique<LoneDatabase>(library.path);
+}
+
+/// Only its name where the rest cannot be had at once.
+LibraryDescription describeShortly(Session &session, const FileTree &tree,
+                                   const FoundLibrary &library)
+{
+    if (!tree.isArchive()) // which would be read from its beginning
+        try {
+            return describe(session, tree, library);
+        } catch (const Failure &) { // who names the library is told
+        }
+    return {library.kind, tree.shown(library.path), {}, {}, {}, {}, {}, {}};
+}
+
+SeveralLibraries several(Session &session, const FileTree &tree, const LibrarySearch &search,
+                         const std::string &shownName)
+{
+    SeveralLibraries several = {shownName, true, {}, search.unsearched};
+    for (const FoundLibrary &library : search.libraries) {
+        several.areBackups = several.areBackups && library.kind == SourceKind::Backup;
+        several.libraries.push_back(describeShortly(session, tree, library));
+    }
+    return several;
 }
 
 } // namespace
 
-std::unique_ptr<LibraryLayout> findLibrary(Session &session, const FileTree &tree,
+LibrarySearch searchLibraries(Session &session, const FileTree &tree, const std::string &top,
+                              const std::string &shownName, std::size_t most)
+{
+    Search search(tree, top, most);
+    const UnsearchedFolders unsearched = [&] {
+        const BusyLine busy(session.terminal, translate("searching folders"));
+        return tree.searchFolders(top,
+                                  [&](const std::string &folder) { return search.look(folder); });
+    }();
+    LibrarySearch result = {search.libraries(), {}};
+    result.unsearched = findingsOf(unsearched, !result.libraries.empty(), shownName);
+    return result;
+}
+
+LibraryDescription describe(Session &session, const FileTree &tree, const FoundLibrary &library)
+{
+    LibraryDescription description = {
+        library.kind, tree.shown(library.path), {}, {}, {}, {}, {}, {}};
+    if (library.kind != SourceKind::Backup)
+        return description;
+    const BackupRecords records(session, tree, library.path, BackupRecords::Extent::Lists);
+    description.device = records.device();
+    description.deviceName = records.identity().name;
+    description.backupDate = records.date();
+    description.isEncrypted = records.isEncrypted();
+    description.isFinished = records.isFinished();
+    description.findings = records.findings();
+    return description;
+}
+
+std::unique_ptr<LibraryLayout> onlyLibrary(Session &session, const FileTree &tree,
+                                           const LibrarySearch &search,
                                            const std::string &shownName)
 {
-    std::vector<Find> finds = librariesIn(tree);
-    if (finds.empty())
-        finds = loneDatabasesIn(tree);
-    if (finds.empty())
-        throw SourceError(SourceProblem::NoLibrary, {shownName, databaseBelowMedia});
-    if (finds.size() > 1)
-        throw several(tree, shownName, finds);
-    return layoutOf(session, tree, finds.front());
+    if (search.libraries.size() > 1)
+        throw several(session, tree, search, shownName);
+    if (search.libraries.size() == 1)
+        return layoutOf(session, tree, search.libraries.front());
+    for (const SourceFinding &finding : search.unsearched)
+        if (finding.kind == SourceProblem::EndedSearch)
+            throw SourceError(SourceProblem::NoLibrarySoFar, finding.facts);
+    throw SourceError(SourceProblem::NoLibrary, {shownName, databaseBelowMedia});
 }
 
 } // namespace iosphoto::tool

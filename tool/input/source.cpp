@@ -1,46 +1,15 @@
 #include "input/source.h"
 
-#include "files/source_file.h"
-#include "input/backup/backup.h"
-#include "input/backup/stored_names.h"
 #include "input/library_layout.h"
 #include "input/library_search.h"
-#include "input/tree/archive_reader.h"
-#include "input/tree/archive_tree.h"
-#include "input/tree/folder_tree.h"
-#include "terminal/busy_line.h"
-#include "text/translate.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-bool hasBackupIndex(const fs::path &folder)
-{
-    return std::any_of(std::begin(backupIndexNames), std::end(backupIndexNames),
-                       [&](const char *name) {
-                           std::error_code ignored;
-                           return fs::exists(folder / name, ignored);
-                       });
-}
-
-/// The folder to look in: the one around PhotoData where the user named just that, and the backup
-/// where it was the stored database, whose log is not beside it.
-std::optional<fs::path> folderToSearch(const fs::path &named)
-{
-    if (fs::is_directory(named))
-        return named.filename() == "PhotoData" ? named.parent_path() : named;
-    if (named.filename() == storedName(databaseBelowMedia))
-        for (const fs::path &folder : {named.parent_path(), named.parent_path().parent_path()})
-            if (hasBackupIndex(folder))
-                return folder;
-    return std::nullopt;
-}
 
 /// Paths come from databases, which may say anything.
 bool staysBelowMedia(const std::string &mediaPath)
@@ -51,30 +20,26 @@ bool staysBelowMedia(const std::string &mediaPath)
 
 } // namespace
 
-Source::Source(Session &session, const std::string &name) : name_(name), databaseName_(name)
+Source::Source(Session &session, const std::string &name) : place_(openPlace(session, name))
 {
-    folder_ = folderToSearch(resolved(name));
-    if (folder_) {
-        search(session, std::make_unique<FolderTree>(*folder_));
+    if (place_.database) {
+        layout_ = std::make_unique<LoneDatabase>(*place_.database);
+        databaseName_ = isArchive() ? tree().shown(*place_.database) : name;
         return;
     }
-    const fs::path file = sourceFile(name, "");
-    isArchive_ = tool::isArchive(file);
-    if (isArchive_) {
-        const BusyLine busy(session.terminal, translate("reading the archive"));
-        search(session, std::make_unique<ArchiveTree>(file));
-        return;
-    }
-    // The files beside a database lie beside the target of a link.
-    tree_ = std::make_unique<FolderTree>(file.parent_path());
-    layout_ = std::make_unique<LoneDatabase>(file.filename().string());
+    const LibrarySearch search =
+        searchLibraries(session, tree(), place_.top, name, SeveralLibraries::mostCounted);
+    unsearched_ = search.unsearched;
+    layout_ = onlyLibrary(session, tree(), search, name);
+    databaseName_ = tree().shown(databaseFiles().front().path);
 }
 
-void Source::search(Session &session, std::unique_ptr<FileTree> tree)
+std::vector<SourceFinding> Source::missing() const
 {
-    tree_ = std::move(tree);
-    layout_ = findLibrary(session, *tree_, name_);
-    databaseName_ = tree_->shown(databaseFiles().front().path);
+    std::vector<SourceFinding> all = unsearched_;
+    for (SourceFinding &finding : layout_->missing())
+        all.push_back(std::move(finding));
+    return all;
 }
 
 UnixTime Source::lastChange() const
@@ -86,6 +51,18 @@ UnixTime Source::lastChange() const
     return last;
 }
 
+bool Source::isLastChangeWithoutZone() const
+{
+    const UnixTime last = lastChange();
+    for (const char *const suffix : {"", "-wal"}) {
+        const auto path = locate(std::string(databaseBelowMedia) + suffix);
+        const auto facts = path ? tree().find(*path) : std::nullopt;
+        if (facts && facts->modified == last && tree().hasTimeWithoutZone(*path))
+            return true;
+    }
+    return false;
+}
+
 std::vector<fs::path> Source::inputs() const
 {
     std::vector<std::string> paths = layout_->records();
@@ -94,18 +71,18 @@ std::vector<fs::path> Source::inputs() const
     std::vector<fs::path> files;
     files.reserve(paths.size());
     for (const std::string &path : paths)
-        files.push_back(tree_->onDisk(path));
+        files.push_back(tree().onDisk(path));
     files.erase(std::unique(files.begin(), files.end()), files.end());
     return files;
 }
 
 void Source::announceReading(FileUse &fileUse) const
 {
-    if (folder_)
-        fileUse.protectFolder(*folder_);
+    if (place_.folder)
+        fileUse.protectFolder(*place_.folder);
     const std::vector<fs::path> files = inputs();
     fileUse.protectFiles(files);
-    const std::string database = tree_->onDisk(databaseFiles().front().path).string();
+    const std::string database = tree().onDisk(databaseFiles().front().path).string();
     fileUse.protectFiles({database + "-wal", database + "-journal", database + "-shm"});
     fileUse.willRead(files);
 }
@@ -124,7 +101,7 @@ void Source::copyDatabaseTo(const fs::path &folder) const
     std::vector<FileToCopy> files = databaseFiles();
     for (FileToCopy &file : files)
         file.target = folder / file.target;
-    tree_->copyOut(files);
+    tree().copyOut(files);
     if (!fs::exists(folder / databaseFile))
         throw SourceError(SourceProblem::VanishedDatabase, {databaseName_});
 }
@@ -137,7 +114,7 @@ std::optional<std::string> Source::locate(const std::string &mediaPath) const
 std::optional<FileFacts> Source::find(const std::string &mediaPath) const
 {
     const auto path = locate(mediaPath);
-    return path ? tree_->find(*path) : std::nullopt;
+    return path ? tree().find(*path) : std::nullopt;
 }
 
 void Source::copyOut(const std::vector<FileToCopy> &files) const
@@ -146,7 +123,7 @@ void Source::copyOut(const std::vector<FileToCopy> &files) const
     for (const FileToCopy &file : files)
         if (const auto path = locate(file.path))
             located.push_back({*path, file.target});
-    tree_->copyOut(located);
+    tree().copyOut(located);
 }
 
 } // namespace iosphoto::tool

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_SOURCE_H
 
 #include "input/library_layout.h"
+#include "input/place.h"
 #include "input/tree/file_tree.h"
 #include "session/session.h"
 
@@ -25,20 +26,25 @@ public:
     Source(Session &session, const std::string &name);
 
     /// As the user named it.
-    const std::string &name() const { return name_; }
+    const std::string &name() const { return place_.name; }
     SourceKind kind() const { return layout_->kind(); }
-    bool isArchive() const { return isArchive_; }
+    bool isArchive() const { return tree().isArchive(); }
+    /// Whether it is a database that came through standard input: alone, and without a time.
+    bool isBareStream() const { return place_.input != nullptr && !isArchive(); }
 
     /// The device that the source says it comes from.
     std::optional<RecordedDevice> device() const { return layout_->device(); }
+    DeviceIdentity identity() const { return layout_->identity(); }
     std::optional<UnixTime> backupDate() const { return layout_->backupDate(); }
 
     /// The database as messages name it; in an archive its path there follows that of the archive.
     const std::string &databaseName() const { return databaseName_; }
     /// When the database or its log was last written.
     UnixTime lastChange() const;
-    /// What should be there and is not; mostly nothing.
-    std::vector<SourceFinding> missing() const { return layout_->missing(); }
+    /// Whether that is the local time of an archive without time zones.
+    bool isLastChangeWithoutZone() const;
+    /// What should be there and is not, and where nobody looked; mostly nothing.
+    std::vector<SourceFinding> missing() const;
     /// The files on disk that are read to read the library, or would be if they were there, as a
     /// write-ahead log; for an archive the archive.
     std::vector<std::filesystem::path> inputs() const;
@@ -59,17 +65,15 @@ public:
     void copyOut(const std::vector<FileToCopy> &files) const;
 
 private:
-    void search(Session &session, std::unique_ptr<FileTree> tree);
+    const FileTree &tree() const { return *place_.tree; }
     std::optional<std::string> locate(const std::string &mediaPath) const;
     /// Database, log and journal, as far as the source has a place for them.
     std::vector<FileToCopy> databaseFiles() const;
 
-    std::string name_;
-    std::string databaseName_;
-    bool isArchive_ = false;
-    std::optional<std::filesystem::path> folder_; ///< where the source is one
-    std::unique_ptr<FileTree> tree_;
+    Place place_;
+    std::vector<SourceFinding> unsearched_;
     std::unique_ptr<LibraryLayout> layout_;
+    std::string databaseName_;
 };
 
 } // namespace iosphoto::tool

@@ -15,6 +15,10 @@ enum class SourceProblem {
     LogEndsInOpenChange,    ///< database; nothing is missing if the device gave the change up
     TooLarge,               ///< file, the bytes that it can have
     NoLibrary,              ///< source, path of the database below Media
+    NoLibrarySoFar,         ///< source, after how many folders the search ended
+    EndedSearch,            ///< source, after how many folders
+    UnsearchedPlaces,       ///< source, how many, why of the first
+    NoSuchEntry,            ///< archive, path in it
     EncryptedArchive,       ///< archive
     DamagedArchive,         ///< archive
     DamagedArchiveBecause,  ///< archive, reason
@@ -29,12 +33,16 @@ enum class SourceProblem {
     BackupWithoutIndex,     ///< backup
     BackupWithoutLog,       ///< file, path of the log below Media
     BackupWithoutMedia,     ///< backup, how many files, of how many, its index
+    BackupWithDamagedIndex, ///< its index
+    BackupWithShortIndex,   ///< its index, how many bytes, of how many
+    UnfinishedBackup,       ///< backup, its property list, what that says
     DamagedPropertyList,    ///< file
     IndexIsNoDatabase,      ///< file
     IndexHasOtherTables,    ///< file
     IndexNamesNoStoredFile, ///< file, the name
     IndexIsSomethingElse,   ///< file
     IndexIsCutShort,        ///< file
+    IndexIsDamaged,         ///< file
 };
 
 using SourceFinding = Finding<SourceProblem>;

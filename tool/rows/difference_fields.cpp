@@ -154,13 +154,15 @@ Json albumChanges(const std::vector<AlbumDifference> &differences)
 RowsHead differenceHead(const Library &before, const Library &after,
                         const LibraryDifference &difference)
 {
+    Json names = sourceNamed("a", before);
+    names.update(sourceNamed("b", after));
     return {"photos",
             {{"a", libraryHead(before)},
              {"b", libraryHead(after)},
              {"photoCounts", countsOf(difference, allChanges)},
              {"albumCounts", countsOf(difference, allAlbumChanges)},
              {"albums", albumChanges(difference.albums)}},
-            {{"a", before.name()}, {"b", after.name()}}};
+            std::move(names)};
 }
 
 } // namespace iosphoto::tool

@@ -14,6 +14,9 @@ Json libraryHead(const Library &library);
 /// @param rows  what they are, such as "photos"
 RowsHead rowsHead(const std::string &rows, const Library &library);
 
+/// What names a library, under a key of its own and the key for its bytes.
+Json sourceNamed(const std::string &key, const Library &library);
+
 /// What names an album wherever one is mentioned.
 Json albumReference(const CAlbumGroup &album);
 

@@ -10,8 +10,9 @@
 
 namespace iosphoto::tool {
 
-/// What the values of a column are. Each may be null besides.
-enum class Type { Flag, Number, Real, Bytes, Text, Path, Time, List };
+/// What the values of a column are. Each may be null besides. A Source is a path that a person
+/// gives to the command, and so is never cut.
+enum class Type { Flag, Number, Real, Bytes, Text, Path, Source, Time, List };
 
 using Align = TextTable::Align;
 

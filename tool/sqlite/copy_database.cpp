@@ -146,6 +146,12 @@ SqliteStatement CopyDatabase::prepare(const std::string &text) const
     return owned;
 }
 
+bool CopyDatabase::isDamaged() const
+{
+    const int code = sqlite3_errcode(connection_.get());
+    return code == SQLITE_CORRUPT || code == SQLITE_NOTADB;
+}
+
 Failure CopyDatabase::unreadable() const
 {
     return {CannotAccess,

@@ -68,6 +68,9 @@ public:
     const std::string &file() const { return file_; }
     const std::string &shownName() const { return shownName_; }
 
+    /// Whether the last call failed since the file is damaged.
+    bool isDamaged() const;
+
     /// Says that it cannot be read, for the reason of the last call.
     Failure unreadable() const;
 

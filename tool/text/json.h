@@ -14,6 +14,10 @@ using Json = nlohmann::ordered_json;
 /// `text`, or null where there is none.
 Json textOrNull(const std::string &text);
 
+/// The bytes of a text that is not UTF-8, such as the name of a file, as a URL writes them:
+/// "caf%E9". Null for others, which a document gives back as they are.
+Json bytesOrNull(const std::string &text);
+
 /// A document without a line break, UTF-8.
 std::string oneLine(const Json &document);
 

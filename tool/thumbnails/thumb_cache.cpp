@@ -15,16 +15,20 @@
 namespace iosphoto::tool {
 
 ThumbCache::ThumbCache(const std::string &path)
-    : path_(path), file_(sourceFile(path, translate("a cache in it, such as 120x120.ithmb of "
-                                                    "PhotoData/Thumbnails"))),
-      reader_(file_.c_str())
+    : ThumbCache(path, sourceFile(path, translate("a cache in it, such as 120x120.ithmb of "
+                                                  "PhotoData/Thumbnails")))
+{
+}
+
+ThumbCache::ThumbCache(std::string shownPath, std::filesystem::path file)
+    : path_(std::move(shownPath)), file_(std::move(file)), reader_(file_.c_str())
 {
     requireReadable(file_);
     format_ = findFormat(reader_);
     if (format_ == nullptr)
         format_ = formatWithoutThumbnails(reader_);
     if (format_ == nullptr)
-        throw unsupportedCache(reader_, path);
+        throw unsupportedCache(reader_, path_);
     readRecords();
 }
 

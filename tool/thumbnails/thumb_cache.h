@@ -28,6 +28,8 @@ class ThumbCache
 public:
     /// Throws Failure when the file cannot be read or is no cache that holds thumbnails.
     explicit ThumbCache(const std::string &path);
+    /// The same of a file that is shown under another name.
+    ThumbCache(std::string shownPath, std::filesystem::path file);
 
     /// As the user named it.
     const std::string &path() const { return path_; }

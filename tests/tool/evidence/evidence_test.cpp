@@ -70,11 +70,11 @@ TEST_F(EvidenceTest, TellsOfInputsWhatTheyAreBeforeAndAfter)
                         {"modified", "2020-01-06T10:40:00.123456789Z"},
                         {"sha256", sha256Of("before")}};
     const Json nothing = {{"size", nullptr}, {"modified", nullptr}, {"sha256", nullptr}};
-    Json input = {{"path", input_.string()}};
+    Json input = {{"path", input_.string()}, {"pathBytes", nullptr}};
     input.update(state);
     input["after"] = state;
     input["isUnchanged"] = true;
-    Json absent = {{"path", (folder_ / "absent").string()}};
+    Json absent = {{"path", (folder_ / "absent").string()}, {"pathBytes", nullptr}};
     absent.update(nothing);
     absent["after"] = nothing;
     absent["isUnchanged"] = true;
@@ -149,7 +149,8 @@ TEST_F(EvidenceTest, ListsWrittenFilesWithTheirLastContent)
     for (const char *content : {"first", "second"})
         writeOutput(session_.files, out, content, input_);
     evidence.finish(0);
-    const Json output = {{"path", out}, {"size", 6}, {"sha256", sha256Of("second")}};
+    const Json output = {
+        {"path", out}, {"pathBytes", nullptr}, {"size", 6}, {"sha256", sha256Of("second")}};
     EXPECT_EQ(document()["outputs"], Json::array({output}));
 }
 

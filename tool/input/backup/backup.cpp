@@ -1,13 +1,14 @@
 #include "input/backup/backup.h"
 
-#include "formats/property_list.h"
-#include "formats/versions.h"
+#include "formats/big_endian.h"
 #include "input/backup/manifest_db.h"
 #include "input/backup/manifest_mbdb.h"
 #include "input/backup/stored_names.h"
-#include "sqlite/rollback_journal.h"
 
 #include <algorithm>
+#include <array>
+#include <fstream>
+#include <string_view>
 
 namespace iosphoto::tool {
 
@@ -15,30 +16,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char *info = "Info.plist";
-constexpr const char *manifest = "Manifest.plist";
-constexpr const char *status = "Status.plist";
 constexpr const char *database = backupIndexNames[0];
 constexpr const char *mbdb = backupIndexNames[1];
 
-constexpr const char *recordNames[] = {
-    info, manifest, status, database, "Manifest.db-wal", "Manifest.db-journal", mbdb};
-
-std::optional<RecordedDevice> recordedDevice(const PropertyList &infoList,
-                                             const PropertyList &manifestList)
+/// The bytes that a database has by its header; nothing where that is cut off itself.
+std::optional<std::uint64_t> wholeSize(const fs::path &databaseFile)
 {
-    const RecordedDevice fromInfo = {versionOrNothing(infoList.text({"Product Version"})),
-                                     productOrNothing(infoList.text({"Product Type"})),
-                                     infoList.text({"Build Version"}), info};
-    if (!fromInfo.iosVersion.empty() || !fromInfo.productType.empty())
-        return fromInfo;
-    const RecordedDevice fromManifest = {
-        versionOrNothing(manifestList.text({"Lockdown", "ProductVersion"})),
-        productOrNothing(manifestList.text({"Lockdown", "ProductType"})),
-        manifestList.text({"Lockdown", "BuildVersion"}), manifest};
-    if (!fromManifest.iosVersion.empty() || !fromManifest.productType.empty())
-        return fromManifest;
-    return std::nullopt;
+    constexpr std::string_view magic = "SQLite format 3";
+    constexpr std::size_t headerSize = 100;
+    std::array<char, headerSize> header = {};
+    std::ifstream(databaseFile, std::ios::binary).read(header.data(), header.size());
+    const std::string_view bytes(header.data(), header.size());
+    const std::uint64_t pageSize = bigEndian(bytes.substr(16, 2));
+    constexpr std::uint64_t largestPage = 65536; // written as 1
+    const std::uint64_t pages = bigEndian(bytes.substr(28, 4));
+    const bool isHeader = bytes.substr(0, magic.size()) == magic;
+    return isHeader && pages > 0
+               ? std::make_optional(pages * (pageSize == 1 ? largestPage : pageSize))
+               : std::nullopt;
 }
 
 } // namespace
@@ -49,77 +44,78 @@ bool isBackup(const FileTree &tree, const std::string &folder)
         return tree.find(joinedPath(folder, name)).has_value();
     };
     // Other programs have a Manifest.db or Manifest.plist too, but not both.
-    const bool hasLists = has(manifest) || has(info);
-    return has(mbdb) || (has(database) && hasLists) || (has(manifest) && has(info)) ||
+    const bool hasLists = has(backupManifest) || has(backupInfo);
+    return has(mbdb) || (has(database) && hasLists) || (has(backupManifest) && has(backupInfo)) ||
            StoredNames(tree, folder).locate(databaseBelowMedia);
 }
 
 Backup::Backup(Session &session, const FileTree &tree, std::string folder)
-    : fileUse_(session.files), tree_(tree), folder_(std::move(folder))
+    : tree_(tree), folder_(std::move(folder)),
+      records_(session, tree_, folder_, BackupRecords::Extent::ListsAndIndex),
+      missing_(records_.findings())
 {
-    copyRecords();
-    readProperties();
+    if (records_.isEncrypted() == true)
+        throw SourceError(SourceProblem::EncryptedBackup, {tree_.shown(folder_)});
     index_ = openIndex();
     requireDatabase();
     noteWhatIsMissing();
 }
 
-void Backup::copyRecords() const
-{
-    std::vector<FileToCopy> files;
-    std::vector<fs::path> onDisk;
-    for (const char *const name : recordNames) {
-        files.push_back({joinedPath(folder_, name), copies_ / name});
-        if (files.back().target.extension() == ".plist")
-            files.back().most = PropertyList::largest;
-        if (has(name))
-            onDisk.push_back(tree_.onDisk(files.back().path));
-    }
-    fileUse_.willRead(onDisk);
-    tree_.copyOut(files);
-    forgetSuperJournal(copies_ / database);
-}
-
-void Backup::readProperties()
-{
-    const PropertyList infoList(copies_ / info);
-    const PropertyList manifestList(copies_ / manifest);
-    isManifestDamaged_ = manifestList.isDamaged();
-    for (const auto &[list, name] :
-         {std::pair(&infoList, info), std::pair(&manifestList, manifest)})
-        if (list->isDamaged())
-            missing_.push_back({SourceProblem::DamagedPropertyList, {shown(name)}});
-    if (manifestList.isTrue({"IsEncrypted"}))
-        throw SourceError(SourceProblem::EncryptedBackup, {tree_.shown(folder_)});
-    device_ = recordedDevice(infoList, manifestList);
-    date_ = infoList.time({"Last Backup Date"});
-    if (!date_)
-        date_ = manifestList.time({"Date"});
-    if (!date_)
-        date_ = PropertyList(copies_ / status).time({"Date"});
-}
-
-void Backup::requireKnownEncryption() const
-{
-    if (isManifestDamaged_ &&
-        !CopyDatabase((copies_ / database).string(), shown(database), IfDamaged::CopyBackupAgain)
-             .isDatabase())
-        throw SourceError(SourceProblem::UnknownEncryption,
-                          {tree_.shown(folder_), manifest, database});
-}
-
 std::unique_ptr<BackupIndex> Backup::openIndex()
 {
     for (const char *const name : backupIndexNames)
-        if (indexName_.empty() && has(name))
+        if (indexName_.empty() && records_.has(name))
             indexName_ = name;
     if (indexName_.empty())
         return std::make_unique<StoredNames>(tree_, folder_);
-    if (indexName_ == database) {
-        requireKnownEncryption();
-        return std::make_unique<ManifestDb>(copies_ / database, shown(database));
+    try {
+        return readIndex();
+    } catch (const SourceError &error) {
+        if (!isOfDamage(error.finding().kind))
+            throw;
+        auto names = std::make_unique<StoredNames>(tree_, folder_);
+        if (!names->locate(databaseBelowMedia))
+            throw;
+        noteDamagedIndex();
+        return names;
     }
-    return std::make_unique<ManifestMbdb>(copies_ / mbdb, shown(mbdb));
+}
+
+std::unique_ptr<BackupIndex> Backup::readIndex()
+{
+    std::unique_ptr<BackupIndex> index;
+    if (indexName_ == database)
+        index = std::make_unique<ManifestDb>(records_.copyOf(database), records_.shown(database));
+    else
+        index = std::make_unique<ManifestMbdb>(records_.copyOf(mbdb), records_.shown(mbdb));
+    for (const char *const suffix : {"", "-wal", "-journal"}) // which may meet damage too
+        (void)index->locate(std::string(databaseBelowMedia) + suffix);
+    listed_ = index->storedFiles();
+    return index;
+}
+
+bool Backup::isOfDamage(SourceProblem problem) const
+{
+    if (problem != SourceProblem::IndexIsNoDatabase)
+        return problem == SourceProblem::IndexIsDamaged ||
+               problem == SourceProblem::IndexIsCutShort;
+    if (records_.isManifestDamaged())
+        throw SourceError(SourceProblem::UnknownEncryption,
+                          {tree_.shown(folder_), backupManifest, database});
+    return records_.isEncrypted() == false;
+}
+
+void Backup::noteDamagedIndex()
+{
+    const std::string index = records_.shown(indexName_);
+    std::error_code ignored;
+    const std::uint64_t size = fs::file_size(records_.copyOf(indexName_), ignored);
+    const auto whole = indexName_ == database ? wholeSize(records_.copyOf(database)) : std::nullopt;
+    if (whole && size < *whole)
+        missing_.push_back({SourceProblem::BackupWithShortIndex,
+                            {index, std::to_string(size), std::to_string(*whole)}});
+    else
+        missing_.push_back({SourceProblem::BackupWithDamagedIndex, {index}});
 }
 
 void Backup::requireDatabase() const
@@ -135,10 +131,10 @@ void Backup::requireDatabase() const
 
 void Backup::noteWhatIsMissing()
 {
-    if (indexName_.empty()) {
+    if (indexName_.empty())
         missing_.push_back({SourceProblem::BackupWithoutIndex, {tree_.shown(folder_)}});
+    if (!listed_)
         return;
-    }
     bool isLogMissing = false;
     for (const char *const suffix : {"-wal", "-journal"}) {
         const std::string log = std::string(databaseBelowMedia) + suffix;
@@ -154,39 +150,19 @@ void Backup::noteWhatIsMissing()
 
 void Backup::noteMissingMedia()
 {
-    const std::vector<std::string> listed = index_->storedFiles();
-    const auto absent = std::count_if(listed.begin(), listed.end(), [&](const std::string &path) {
+    const auto absent = std::count_if(listed_->begin(), listed_->end(), [&](const auto &path) {
         return !tree_.find(joinedPath(folder_, path));
     });
     if (absent > 0)
         missing_.push_back({SourceProblem::BackupWithoutMedia,
                             {tree_.shown(folder_), std::to_string(absent),
-                             std::to_string(listed.size()), indexName_}});
+                             std::to_string(listed_->size()), indexName_}});
 }
 
 std::optional<std::string> Backup::locate(const std::string &mediaPath) const
 {
     const auto path = index_->locate(mediaPath);
     return path ? std::make_optional(joinedPath(folder_, *path)) : std::nullopt;
-}
-
-std::vector<std::string> Backup::records() const
-{
-    std::vector<std::string> paths;
-    for (const char *const name : recordNames)
-        if (has(name))
-            paths.push_back(joinedPath(folder_, name));
-    return paths;
-}
-
-bool Backup::has(const std::string &name) const
-{
-    return tree_.find(joinedPath(folder_, name)).has_value();
-}
-
-std::string Backup::shown(const std::string &name) const
-{
-    return tree_.shown(joinedPath(folder_, name));
 }
 
 } // namespace iosphoto::tool

@@ -1,8 +1,8 @@
 #ifndef IOSPHOTO_TOOL_BACKUP_H
 #define IOSPHOTO_TOOL_BACKUP_H
 
-#include "files/private_folder.h"
 #include "input/backup/backup_index.h"
+#include "input/backup/backup_records.h"
 #include "input/library_layout.h"
 #include "input/tree/file_tree.h"
 #include "session/session.h"
@@ -10,8 +10,6 @@
 #include <memory>
 
 namespace iosphoto::tool {
-
-constexpr const char *backupIndexNames[] = {"Manifest.db", "Manifest.mbdb"};
 
 /// Whether a folder is a backup: it has the index of one, or the database under its stored name.
 bool isBackup(const FileTree &tree, const std::string &folder);
@@ -25,32 +23,31 @@ public:
 
     SourceKind kind() const override { return SourceKind::Backup; }
     std::optional<std::string> locate(const std::string &mediaPath) const override;
-    std::optional<RecordedDevice> device() const override { return device_; }
-    std::optional<UnixTime> backupDate() const override { return date_; }
+    std::optional<RecordedDevice> device() const override { return records_.device(); }
+    DeviceIdentity identity() const override { return records_.identity(); }
+    std::optional<UnixTime> backupDate() const override { return records_.date(); }
     std::vector<SourceFinding> missing() const override { return missing_; }
-    std::vector<std::string> records() const override;
+    std::vector<std::string> records() const override { return records_.files(); }
 
 private:
-    void copyRecords() const;
-    void readProperties();
-    void requireKnownEncryption() const;
+    /// Does without an index that is damaged, where the database is found all the same.
     std::unique_ptr<BackupIndex> openIndex();
+    std::unique_ptr<BackupIndex> readIndex();
+    /// Whether an index that has this problem is one that is damaged, not encrypted or something
+    /// else. Throws SourceError where that cannot be told.
+    bool isOfDamage(SourceProblem problem) const;
+    void noteDamagedIndex();
     void requireDatabase() const;
     void noteWhatIsMissing();
     void noteMissingMedia();
-    bool has(const std::string &name) const;
-    std::string shown(const std::string &name) const;
 
-    FileUse &fileUse_;
     const FileTree &tree_;
     std::string folder_;
-    PrivateFolder copies_; ///< of the records
-    std::unique_ptr<BackupIndex> index_;
-    std::string indexName_; ///< empty when there is none
-    std::optional<RecordedDevice> device_;
-    std::optional<UnixTime> date_;
+    BackupRecords records_;
+    std::string indexName_;                          ///< empty when there is none
+    std::optional<std::vector<std::string>> listed_; ///< in the index, if it could be read
     std::vector<SourceFinding> missing_;
-    bool isManifestDamaged_ = false;
+    std::unique_ptr<BackupIndex> index_;
 };
 
 } // namespace iosphoto::tool

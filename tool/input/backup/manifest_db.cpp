@@ -28,6 +28,14 @@ bool isStoredName(const std::string &name)
 ManifestDb::ManifestDb(const std::filesystem::path &copy, std::string shownName)
     : database_(copy.string(), std::move(shownName), IfDamaged::CopyBackupAgain)
 {
+    std::error_code ignored;
+    if (std::filesystem::file_size(copy, ignored) == 0) // which SQLite takes for a database
+        throw SourceError(SourceProblem::IndexIsCutShort, {database_.shownName()});
+    sayingDamage([&] { requireIndex(); });
+}
+
+void ManifestDb::requireIndex() const
+{
     if (!database_.isDatabase())
         throw SourceError(SourceProblem::IndexIsNoDatabase, {database_.shownName()});
     if (!database_.areRealTables({"Files"}, ""))
@@ -36,11 +44,24 @@ ManifestDb::ManifestDb(const std::filesystem::path &copy, std::string shownName)
         throw database_.unreadable();
 }
 
+void ManifestDb::sayingDamage(const std::function<void()> &read) const
+{
+    try {
+        read();
+    } catch (const Failure &) {
+        if (database_.isDamaged())
+            throw SourceError(SourceProblem::IndexIsDamaged, {database_.shownName()});
+        throw;
+    }
+}
+
 std::optional<std::string> ManifestDb::locate(const std::string &mediaPath) const
 {
     std::optional<std::string> name;
-    database_.forEachRow(lookupStatement, [&](const QueryRow &row) { name = row.text(0); },
-                         {mediaDomain, pathInDomain(mediaPath)});
+    sayingDamage([&] {
+        database_.forEachRow(lookupStatement, [&](const QueryRow &row) { name = row.text(0); },
+                             {mediaDomain, pathInDomain(mediaPath)});
+    });
     if (!name)
         return std::nullopt;
     if (!isStoredName(*name))
@@ -51,12 +72,11 @@ std::optional<std::string> ManifestDb::locate(const std::string &mediaPath) cons
 std::vector<std::string> ManifestDb::storedFiles() const
 {
     std::vector<std::string> files;
-    database_.forEachRow(listStatement,
-                         [&](const QueryRow &row) {
-                             if (const std::string name = row.text(0); isStoredName(name))
-                                 files.push_back(inItsFolder(name));
-                         },
-                         {mediaDomain});
+    const auto add = [&](const QueryRow &row) {
+        if (const std::string name = row.text(0); isStoredName(name))
+            files.push_back(inItsFolder(name));
+    };
+    sayingDamage([&] { database_.forEachRow(listStatement, add, {mediaDomain}); });
     return files;
 }
 

@@ -5,6 +5,7 @@
 #include "sqlite/copy_database.h"
 
 #include <filesystem>
+#include <functional>
 
 namespace iosphoto::tool {
 
@@ -12,7 +13,8 @@ namespace iosphoto::tool {
 class ManifestDb : public BackupIndex
 {
 public:
-    /// Throws when it cannot be read, or is no index.
+    /// Throws when it cannot be read, or is no index: SourceError where it is damaged, as the other
+    /// functions do.
     /// @param copy       a private copy, as SQLite may change it
     /// @param shownName  the file in the backup, for messages
     ManifestDb(const std::filesystem::path &copy, std::string shownName);
@@ -21,6 +23,10 @@ public:
     std::vector<std::string> storedFiles() const override;
 
 private:
+    void requireIndex() const;
+    /// Reads, and throws a SourceError when that meets damage.
+    void sayingDamage(const std::function<void()> &read) const;
+
     CopyDatabase database_;
 };
 

@@ -3,13 +3,15 @@
 #include "files/new_file.h"
 #include "files/source_file.h"
 #include "input/tree/file_tree.h"
+#include "text/system_error.h"
 
 #include <archive.h>
 #include <archive_entry.h>
 
 #include <algorithm>
 #include <array>
-#include <fstream>
+#include <cerrno>
+#include <string_view>
 
 namespace iosphoto::tool {
 
@@ -54,40 +56,21 @@ Reader newReader()
     return reader;
 }
 
-int open(archive *reader, const fs::path &file)
+int open(archive *reader, const fs::path &file, const SourceReader &source)
 {
     constexpr std::size_t blockSize = 1 << 16;
-    requireReadable(file);
-    return archive_read_open_filename(reader, file.c_str(), blockSize);
-}
-
-/// The path made of its names; empty when it leads upwards.
-std::string normalized(const std::string &path)
-{
-    std::string result;
-    for (std::size_t begin = 0; begin < path.size();) {
-        const std::size_t end = std::min(path.find('/', begin), path.size());
-        const std::string name = path.substr(begin, end - begin);
-        if (name == "..")
-            return {};
-        if (!name.empty() && name != ".")
-            result += (result.empty() ? "" : "/") + name;
-        begin = end + 1;
-    }
-    return result;
-}
-
-bool startsWith(const fs::path &file, const std::string &bytes)
-{
-    std::string begin(bytes.size(), '\0');
-    std::ifstream(file, std::ios::binary)
-        .read(begin.data(), static_cast<std::streamsize>(begin.size()));
-    return begin == bytes;
+    if (!source.isOpen())
+        throw mayNotRead(file, systemError(errno));
+    return archive_read_open_fd(reader, source.descriptor(), blockSize);
 }
 
 bool isDatabase(const fs::path &file)
 {
-    return startsWith(file, "SQLite format 3");
+    constexpr std::string_view magic = "SQLite format 3";
+    std::array<char, magic.size()> begin = {};
+    const SourceReader source(file);
+    return source.isOpen() && source.read(begin.data(), begin.size()) == ssize_t{begin.size()} &&
+           std::string_view(begin.data(), begin.size()) == magic;
 }
 
 } // namespace
@@ -104,9 +87,10 @@ Utf8Locale::~Utf8Locale()
         freelocale(utf8_);
 }
 
-ArchiveReader::ArchiveReader(const fs::path &file) : file_(file), archive_(newReader())
+ArchiveReader::ArchiveReader(const fs::path &file)
+    : file_(file), source_(file), archive_(newReader())
 {
-    if (open(archive_.get(), file) != ARCHIVE_OK)
+    if (open(archive_.get(), file, source_) != ARCHIVE_OK)
         throw damaged();
 }
 
@@ -125,7 +109,7 @@ std::string ArchiveReader::path() const
     const char *name = archive_entry_pathname_utf8(entry_);
     if (name == nullptr)
         name = archive_entry_pathname(entry_);
-    return name != nullptr ? normalized(name) : "";
+    return name != nullptr ? pathInArchive(name) : "";
 }
 
 bool ArchiveReader::isFile() const
@@ -155,6 +139,11 @@ std::int64_t ArchiveReader::modified() const
     return archive_entry_mtime(entry_);
 }
 
+bool ArchiveReader::isZip() const
+{
+    return (archive_format(archive_.get()) & ARCHIVE_FORMAT_BASE_MASK) == ARCHIVE_FORMAT_ZIP;
+}
+
 void ArchiveReader::copyTo(const fs::path &target, std::uint64_t most)
 {
     constexpr std::size_t bufferSize = 1 << 16;
@@ -181,12 +170,28 @@ SourceError ArchiveReader::damaged() const
     return {SourceProblem::DamagedArchive, {file_.string()}};
 }
 
+std::string pathInArchive(const std::string &name)
+{
+    std::string result;
+    for (std::size_t begin = 0; begin < name.size();) {
+        const std::size_t end = std::min(name.find('/', begin), name.size());
+        const std::string part = name.substr(begin, end - begin);
+        if (part == "..")
+            return {};
+        if (!part.empty() && part != ".")
+            result += (result.empty() ? "" : "/") + part;
+        begin = end + 1;
+    }
+    return result;
+}
+
 bool isArchive(const fs::path &file)
 {
     if (isDatabase(file))
         return false;
+    const SourceReader source(file);
     const Reader reader = newReader();
-    if (open(reader.get(), file) == ARCHIVE_OK)
+    if (open(reader.get(), file, source) == ARCHIVE_OK)
         return true;
     // Without a filter it met a compressed file that is damaged from the start.
     return archive_filter_count(reader.get()) == 0;

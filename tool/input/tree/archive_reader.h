@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_ARCHIVE_READER_H
 #define IOSPHOTO_TOOL_ARCHIVE_READER_H
 
+#include "files/source_reader.h"
 #include "input/source_problem.h"
 
 #include <clocale>
@@ -49,8 +50,7 @@ public:
     /// damaged.
     bool next();
 
-    /// The path of the entry without "." and slashes in front; empty when it leads out of the
-    /// archive.
+    /// The path of the entry, as pathInArchive() makes it.
     std::string path() const;
     bool isFile() const;
     /// Whether the content is that of another entry.
@@ -58,6 +58,8 @@ public:
     bool isEncrypted() const;
     std::optional<std::uint64_t> size() const;
     std::int64_t modified() const;
+    /// Of the whole archive, known with its first entry.
+    bool isZip() const;
 
     /// Writes the content of the entry, which must be a file, to a new file for the owner only.
     /// Throws SourceError when it is damaged, larger than the archive says or than `most` bytes, or
@@ -68,10 +70,15 @@ private:
     SourceError damaged() const;
 
     std::filesystem::path file_;
+    SourceReader source_;
     Utf8Locale locale_;
     std::unique_ptr<archive, int (*)(archive *)> archive_;
     archive_entry *entry_ = nullptr;
 };
+
+/// The path of an entry made of its names, without "." and slashes in front; empty when it leads
+/// upwards.
+std::string pathInArchive(const std::string &name);
 
 /// Whether a file is an archive, whole or damaged: its content tells, not its name. A database is
 /// none. Throws Failure when the file cannot be read.

@@ -3,6 +3,7 @@
 #include "files/new_file.h"
 #include "files/source_file.h"
 #include "input/tree/archive_reader.h"
+#include "input/tree/zip_times.h"
 
 #include <algorithm>
 #include <set>
@@ -22,12 +23,20 @@ bool isOfAPhone(const std::string &path)
            std::count(path.begin(), path.end(), '/') < deepest;
 }
 
+std::string parentOf(const std::string &path)
+{
+    const std::size_t slash = path.rfind('/');
+    return slash != std::string::npos ? path.substr(0, slash) : "";
+}
+
 } // namespace
 
-ArchiveTree::ArchiveTree(fs::path archive) : archive_(std::move(archive)), state_(archive_)
+ArchiveTree::ArchiveTree(fs::path archive, std::string shownName)
+    : archive_(std::move(archive)), shownName_(std::move(shownName)), state_(archive_)
 {
     ArchiveReader reader(archive_);
     while (reader.next()) {
+        isZip_ = reader.isZip();
         const std::string path = reader.path();
         if (!isOfAPhone(path) || !reader.isFile())
             continue;
@@ -46,32 +55,53 @@ std::optional<FileFacts> ArchiveTree::find(const std::string &path) const
     return found != entries_.end() ? std::make_optional(found->second.facts) : std::nullopt;
 }
 
-std::vector<std::string> ArchiveTree::searchedFolders() const
+UnsearchedFolders
+ArchiveTree::searchFolders(const std::string &top,
+                           const std::function<bool(const std::string &)> &look) const
 {
-    std::set<std::string> folders = {""};
+    std::set<std::string> folders = {top};
     for (const auto &[path, entry] : entries_)
         for (std::size_t slash = path.rfind('/');
              slash != std::string::npos && folders.insert(path.substr(0, slash)).second;
              slash = path.rfind('/', slash - 1)) {
         }
-    return {folders.begin(), folders.end()};
+    std::set<std::string> passedOver;
+    for (const std::string &folder : folders) {
+        const std::string parent = parentOf(folder);
+        const bool isToBePassed = folder != top && passedOver.count(parent) != 0;
+        if (isInside(folder, top) && (isToBePassed || !look(folder)))
+            passedOver.insert(folder);
+    }
+    return {};
 }
 
-std::vector<std::string> ArchiveTree::loneFiles() const
+std::vector<std::string> ArchiveTree::loneFiles(const std::string &top) const
 {
     std::vector<std::string> files;
     for (const auto &[path, entry] : entries_) {
         const fs::path name = fs::path(path).filename();
         // A Mac packs notes of its own on a file as "._" and its name.
-        if (name.extension() == ".sqlite" && name.string().compare(0, 2, "._") != 0)
+        if (name.extension() == ".sqlite" && name.string().compare(0, 2, "._") != 0 &&
+            isInside(path, top))
             files.push_back(path);
     }
     return files;
 }
 
+bool ArchiveTree::hasFolder(const std::string &path) const
+{
+    const auto first = entries_.lower_bound(path + "/");
+    return path.empty() || (first != entries_.end() && isInside(first->first, path));
+}
+
+bool ArchiveTree::hasTimeWithoutZone(const std::string &path) const
+{
+    return isZip_ && !hasZonedTime(archive_, path);
+}
+
 std::string ArchiveTree::shown(const std::string &path) const
 {
-    return joinedPath(archive_.string(), path);
+    return joinedPath(shownName_, path);
 }
 
 void ArchiveTree::requirePlain(const std::string &path, const Entry &entry) const
@@ -102,7 +132,7 @@ void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
         extract(std::move(targets));
     }
     if (!(FileStamp(archive_) == state_))
-        throw SourceError(SourceProblem::ChangingArchive, {archive_.string()});
+        throw SourceError(SourceProblem::ChangingArchive, {shownName_});
 }
 
 void ArchiveTree::extract(std::map<std::string, Target> targets) const

@@ -13,15 +13,22 @@ class ArchiveTree : public FileTree
 {
 public:
     /// Reads the index. Throws SourceError when the archive is damaged.
-    explicit ArchiveTree(std::filesystem::path archive);
+    /// @param shownName  the archive as messages show it
+    ArchiveTree(std::filesystem::path archive, std::string shownName);
 
     std::optional<FileFacts> find(const std::string &path) const override;
-    std::vector<std::string> searchedFolders() const override;
-    std::vector<std::string> loneFiles() const override;
+    UnsearchedFolders
+    searchFolders(const std::string &top,
+                  const std::function<bool(const std::string &)> &look) const override;
+    std::vector<std::string> loneFiles(const std::string &top) const override;
     void copyOut(const std::vector<FileToCopy> &files) const override;
     std::filesystem::path onDisk(const std::string & /*path*/) const override { return archive_; }
     std::string shown(const std::string &path) const override;
     bool isArchive() const override { return true; }
+    bool hasTimeWithoutZone(const std::string &path) const override;
+
+    /// Whether something is below that path.
+    bool hasFolder(const std::string &path) const;
 
 private:
     struct Entry
@@ -43,6 +50,8 @@ private:
     void extract(std::map<std::string, Target> targets) const;
 
     std::filesystem::path archive_;
+    std::string shownName_;
+    bool isZip_ = false;
     FileStamp state_;
     std::map<std::string, Entry> entries_;
 };

@@ -3,14 +3,61 @@
 #include "files/consistent_copy.h"
 #include "files/source_file.h"
 #include "text/system_error.h"
+#include "unnoticed_open.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 
 namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+using OpenFolder = std::unique_ptr<DIR, int (*)(DIR *)>;
+
+OpenFolder openFolder(const fs::path &folder)
+{
+    const int descriptor = openUnnoticed(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR *const opened = descriptor >= 0 ? fdopendir(descriptor) : nullptr;
+    if (opened == nullptr)
+        throw mayNotRead(folder, systemError(errno));
+    return {opened, closedir};
+}
+
+/// A link leads to a folder that has its own place.
+bool isFolder(DIR *parent, const dirent &entry)
+{
+    if (entry.d_type != DT_UNKNOWN)
+        return entry.d_type == DT_DIR;
+    struct stat facts = {};
+    return fstatat(dirfd(parent), entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(facts.st_mode);
+}
+
+std::vector<std::string> foldersIn(const fs::path &folder)
+{
+    std::vector<std::string> names;
+    const OpenFolder opened = openFolder(folder);
+    errno = 0;
+    while (const dirent *const entry = readdir(opened.get())) {
+        const std::string name = entry->d_name;
+        if (name != "." && name != ".." && isFolder(opened.get(), *entry))
+            names.push_back(name);
+        errno = 0;
+    }
+    if (errno != 0)
+        throw mayNotRead(folder, systemError(errno));
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+} // namespace
 
 fs::path FolderTree::onDisk(const std::string &path) const
 {
@@ -31,20 +78,29 @@ std::optional<FileFacts> FolderTree::find(const std::string &path) const
     throw mayNotRead(file, systemError(errno));
 }
 
-std::vector<std::string> FolderTree::searchedFolders() const
+UnsearchedFolders
+FolderTree::searchFolders(const std::string &top,
+                          const std::function<bool(const std::string &)> &look) const
 {
-    std::vector<std::string> folders = {""};
-    std::error_code error;
-    for (fs::directory_iterator at(top_, error), end; !error && at != end; at.increment(error)) {
-        // A link leads to a folder that has its own place.
-        std::error_code ignored;
-        if (fs::is_directory(at->symlink_status(ignored)))
-            folders.push_back(at->path().filename().string());
+    UnsearchedFolders unsearched;
+    std::deque<std::string> waiting = {top};
+    for (std::size_t count = 0; !waiting.empty(); ++count) {
+        if (count == mostFolders_) {
+            unsearched.endedAfter = count;
+            break;
+        }
+        const std::string folder = std::move(waiting.front());
+        waiting.pop_front();
+        try {
+            if (!look(folder))
+                continue;
+            for (const std::string &name : foldersIn(onDisk(folder)))
+                waiting.push_back(joinedPath(folder, name));
+        } catch (const Failure &failure) {
+            unsearched.unreadable.push_back(failure);
+        }
     }
-    if (error)
-        throw mayNotRead(top_, systemError(error.value()));
-    std::sort(folders.begin(), folders.end());
-    return folders;
+    return unsearched;
 }
 
 void FolderTree::copyOut(const std::vector<FileToCopy> &files) const

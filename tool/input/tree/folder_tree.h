@@ -9,18 +9,29 @@ namespace iosphoto::tool {
 class FolderTree : public FileTree
 {
 public:
-    explicit FolderTree(std::filesystem::path top) : top_(std::move(top)) {}
+    /// @param mostFolders  that are looked at in a search
+    explicit FolderTree(std::filesystem::path top, std::size_t mostFolders = usualMostFolders)
+        : top_(std::move(top)), mostFolders_(mostFolders)
+    {
+    }
 
     std::optional<FileFacts> find(const std::string &path) const override;
-    std::vector<std::string> searchedFolders() const override;
-    std::vector<std::string> loneFiles() const override { return {}; }
+    UnsearchedFolders
+    searchFolders(const std::string &top,
+                  const std::function<bool(const std::string &)> &look) const override;
+    std::vector<std::string> loneFiles(const std::string & /*top*/) const override { return {}; }
     void copyOut(const std::vector<FileToCopy> &files) const override;
     std::filesystem::path onDisk(const std::string &path) const override;
     std::string shown(const std::string &path) const override { return onDisk(path).string(); }
     bool isArchive() const override { return false; }
+    bool hasTimeWithoutZone(const std::string & /*path*/) const override { return false; }
 
 private:
+    /// More than a phone has, in seconds.
+    static constexpr std::size_t usualMostFolders = 300'000;
+
     std::filesystem::path top_;
+    std::size_t mostFolders_;
 };
 
 } // namespace iosphoto::tool
