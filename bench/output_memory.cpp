@@ -21,8 +21,8 @@ void writePhotos(const tool::Library &library, const tool::AssetList &assets,
     const auto writer = tool::makeRowWriter(rowFormat, nowhere, {});
     tool::RowStream<tool::PhotoRow> stream(*writer, tool::rowsHead("photos", library),
                                            tool::factsOf(tool::photoFields()));
-    for (std::size_t i = 0; i < assets.size(); ++i)
-        stream.write(rows.of(assets[i]));
+    for (const tool::Asset asset : assets)
+        stream.write(rows.of(asset));
     stream.end();
 }
 

@@ -5,12 +5,18 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <sstream>
+
 using namespace iosphoto::test;
 using nlohmann::json;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
+using testing::UnorderedElementsAre;
 
 namespace {
 
@@ -19,6 +25,24 @@ json statementsOf(const std::vector<std::string> &arguments)
     std::vector<std::string> command = {"statements", "--json"};
     command.insert(command.end(), arguments.begin(), arguments.end());
     return json::parse(runTool(command).out);
+}
+
+std::vector<std::string> linesWith(const std::string &text, const ToolRun &run)
+{
+    std::vector<std::string> found;
+    std::istringstream lines(run.out);
+    for (std::string line; std::getline(lines, line);)
+        if (line.find(text) != std::string::npos)
+            found.push_back(line);
+    return found;
+}
+
+std::vector<std::string> fileNamesIn(const std::filesystem::path &folder)
+{
+    std::vector<std::string> names;
+    for (const auto &entry : std::filesystem::directory_iterator(folder))
+        names.push_back(entry.path().filename());
+    return names;
 }
 
 std::vector<std::string> names(const json &document)
@@ -75,6 +99,35 @@ TEST_P(ToolStatementsOfSchema, HaveTheEntityNumbersOfTheDatabase)
 
 INSTANTIATE_TEST_SUITE_P(Schemas, ToolStatementsOfSchema, testing::ValuesIn(allSchemas),
                          SchemaName());
+
+TEST(ToolStatements, AreRunAsTheHelpSaysWithoutWritingBesideTheDatabase)
+{
+    LibraryBuilder library(ios15);
+    library.execute("pragma journal_mode = wal");
+    library.asset("IN THE LOG.JPG");
+    const TemporaryFolder folder;
+    std::map<std::string, std::string> source;
+    for (const char *name : {"Photos.sqlite", "Photos.sqlite-wal"}) {
+        source[name] = readFile(library.folder() / name);
+        writeFile(folder / name, source[name]);
+    }
+    const std::vector<std::string> examples =
+        linesWith("passes.sql", runTool({"statements", "--help"}));
+    ASSERT_EQ(examples.size(), 2);
+
+    const std::string script = "cd '" + folder.path().string() + "' && PATH='" +
+                               std::filesystem::path(IOSPHOTO_TOOL).parent_path().string() +
+                               "':\"$PATH\" && " + examples[0] + " 2> said && (" + examples[1] +
+                               ") > rows";
+    EXPECT_EQ(std::system(script.c_str()), 0);
+
+    EXPECT_THAT(readFile(folder / "rows"), HasSubstr("IN THE LOG.JPG"));
+    for (const auto &[name, content] : source)
+        EXPECT_TRUE(readFile(folder / name) == content) << name;
+    EXPECT_THAT(fileNamesIn(folder.path()),
+                UnorderedElementsAre("Photos.sqlite", "Photos.sqlite-wal", "passes.sql", "said",
+                                     "copy", "rows"));
+}
 
 TEST(ToolStatements, StandInTheOrderOfABuildWithWhatEachIsFor)
 {

@@ -9,12 +9,14 @@
 
 #include <cstdlib>
 #include <map>
+#include <sstream>
 #include <sys/wait.h>
 
 using namespace iosphoto::test;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Pair;
 using testing::UnorderedElementsAre;
 
 namespace fs = std::filesystem;
@@ -74,8 +76,25 @@ protected:
         return {linesOf(readFile(folder_ / "printed")), WEXITSTATUS(status)};
     }
 
-    /// The first block, on which most others build.
-    int readAll() const { return shell(blocksOf("sh").at(0)).status; }
+    /// The first two blocks, on which most others build.
+    int readAll() const { return shell(blocksOf("sh").at(0) + blocksOf("sh").at(1)).status; }
+    /// The second one again.
+    int resume() const { return shell(blocksOf("sh").at(1)).status; }
+
+    /// What was noted of each try, by the name of the backup.
+    std::multimap<std::string, std::string> tries() const
+    {
+        std::multimap<std::string, std::string> statuses;
+        Lines lines = linesOfFile("log.tsv");
+        for (std::size_t i = 1; i < lines.size(); ++i) {
+            std::istringstream columns(lines[i]);
+            std::vector<std::string> cells;
+            for (std::string cell; std::getline(columns, cell, '\t');)
+                cells.push_back(cell);
+            statuses.emplace(fs::path(cells.at(8)).filename(), cells.at(6));
+        }
+        return statuses;
+    }
 
     Lines linesOfFile(const std::string &name) const { return linesOf(readFile(folder_ / name)); }
 
@@ -95,16 +114,62 @@ TEST_F(Lab, ReadsAllBackupsInParallel)
     EXPECT_EQ(linesOfFile("out/anna.jsonl").size(), 2);
     EXPECT_EQ(linesOfFile("out/ben.jsonl").size(), 1);
     EXPECT_TRUE(fs::exists(folder_ / "out/ben.evidence.json"));
-    EXPECT_THAT(linesOfFile("out/anna.jsonl.err"), IsEmpty());
-    EXPECT_THAT(linesOfFile("out/locked.jsonl.err"), ElementsAre(HasSubstr("encrypted backup")));
+    EXPECT_THAT(linesOfFile("out/anna.err"), IsEmpty());
+    EXPECT_THAT(linesOfFile("out/locked.err"), ElementsAre(HasSubstr("encrypted backup")));
+    EXPECT_FALSE(fs::exists(folder_ / "out/locked.jsonl"));
+}
+
+TEST_F(Lab, KeepsItsResultsWhenItIsRunAgain)
+{
+    NEEDS("parallel");
+    readAll();
+    const std::string before = readFile(folder_ / "out/anna.jsonl");
+    EXPECT_EQ(readAll(), 1);
+    EXPECT_EQ(readFile(folder_ / "out/anna.jsonl"), before);
+    EXPECT_THAT(tries(), UnorderedElementsAre(Pair("anna", "0"), Pair("ben", "0"),
+                                              Pair("locked", "6"), Pair("locked", "6")));
+}
+
+TEST_F(Lab, ReadsAllAnewWithoutItsLogAndLosesNothingMeanwhile)
+{
+    NEEDS("parallel");
+    readAll();
+    const std::string before = readFile(folder_ / "out/anna.jsonl");
+    fs::remove(folder_ / "log.tsv");
+    fs::rename(folder_ / "backups/ben", folder_ / "ben");
+    EXPECT_EQ(resume(), 2);
+    EXPECT_EQ(readFile(folder_ / "out/anna.jsonl"), before);
+    EXPECT_EQ(linesOfFile("out/ben.jsonl").size(), 1); // as it was read before
+    EXPECT_THAT(tries(),
+                UnorderedElementsAre(Pair("anna", "0"), Pair("ben", "3"), Pair("locked", "6")));
+}
+
+TEST_F(Lab, ReadsWhatFailedOnceItIsMendedAndWhatIsNew)
+{
+    NEEDS("parallel");
+    readAll();
+    fs::remove_all(folder_ / "backups/locked");
+    LibraryBuilder open(ios15);
+    open.asset("IMG_0001.HEIC");
+    writeBackup(folder_ / "backups/locked", open);
+    writeBackup(folder_ / "backups/another", open);
+    writeFile(folder_ / "list", readFile(folder_ / "list") + "backups/another" + '\0');
+    EXPECT_EQ(resume(), 0);
+    EXPECT_EQ(linesOfFile("out/locked.jsonl").size(), 1);
+    EXPECT_EQ(linesOfFile("out/another.jsonl").size(), 1);
+    EXPECT_TRUE(fs::exists(folder_ / "out/locked.evidence.json"));
+    EXPECT_THAT(tries(),
+                UnorderedElementsAre(Pair("anna", "0"), Pair("ben", "0"), Pair("locked", "6"),
+                                     Pair("locked", "0"), Pair("another", "0")));
+    EXPECT_THAT(shell(blocksOf("sh").at(2)).out, IsEmpty());
 }
 
 TEST_F(Lab, ListsWhatDidNotGoWell)
 {
     NEEDS("parallel");
     readAll();
-    const ShellRun run = shell(blocksOf("sh").at(1));
-    EXPECT_THAT(run.out, ElementsAre(HasSubstr("6 iosphoto photos backups/locked ")));
+    const ShellRun run = shell(blocksOf("sh").at(2));
+    EXPECT_THAT(run.out, ElementsAre("6 sh read-one.sh backups/locked"));
     EXPECT_EQ(run.status, 0);
 }
 
@@ -113,7 +178,7 @@ TEST_F(Lab, SumsUpWithJq)
     NEEDS("parallel");
     NEEDS("jq");
     readAll();
-    const ShellRun run = shell(blocksOf("sh").at(2));
+    const ShellRun run = shell(blocksOf("sh").at(3));
     EXPECT_THAT(run.out, ElementsAre("backups/anna\t2\t1200", "backups/ben\t1\t30"));
     EXPECT_EQ(run.status, 0);
 }
@@ -148,7 +213,7 @@ TEST_F(Lab, ComparesTwoDatesOfOnePhone)
     LibraryBuilder later(ios15);
     later.asset("IMG_0001.HEIC").set("ZORIGINALFILESIZE", 1000);
     writeBackup(folder_ / "2024-06/backup", later);
-    EXPECT_EQ(shell(blocksOf("sh").at(3)).status, 1); // which is: different
+    EXPECT_EQ(shell(blocksOf("sh").at(4)).status, 1); // which is: different
     EXPECT_THAT(linesOfFile("changes.jsonl"), ElementsAre(HasSubstr("IMG_0002.HEIC")));
 }
 
@@ -158,6 +223,5 @@ TEST(LabBlocks, AreAllRunHere)
     for (const CodeBlock &block : codeBlocksIn("docs/lab.md"))
         ++counts[block.language];
     // Spark alone would take longer to start than all tests.
-    EXPECT_THAT(counts, UnorderedElementsAre(testing::Pair("sh", 4), testing::Pair("sql", 2),
-                                             testing::Pair("python", 1)));
+    EXPECT_THAT(counts, UnorderedElementsAre(Pair("sh", 5), Pair("sql", 2), Pair("python", 1)));
 }

@@ -3,9 +3,6 @@
 #include "catalogue/photo_kinds.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
-#include <utility>
 
 namespace iosphoto::tool {
 
@@ -26,70 +23,20 @@ void merge(CPhotoData &facts, const CPhotoData &record)
         facts.burstUuid = record.burstUuid;
 }
 
-std::vector<Appearance> allAppearances(const std::vector<CAlbumGroup> &catalogue)
+/// An album of the photos, which does not own them.
+std::vector<CAlbumGroup> holderOf(const std::vector<std::unique_ptr<CPhotoData>> &photos)
 {
-    std::vector<Appearance> all;
-    for (const CAlbumGroup &album : catalogue)
-        for (std::size_t i = 0; i < album.photos.size(); ++i)
-            all.push_back({album.photos[i], &album, i});
-    return all;
-}
-
-/// The uuid of an appearance, for sorting. Most comparisons end with the beginnings, which spares
-/// fetching the uuids themselves from all over the memory.
-class UuidKey
-{
-public:
-    UuidKey(const Appearance &appearance, std::size_t index)
-        : uuid_(&appearance.record->uuid), index_(index)
-    {
-        std::memcpy(&beginning_, uuid_->data(), std::min(uuid_->size(), sizeof beginning_));
-    }
-
-    std::size_t index() const { return index_; }
-    bool isSame(const UuidKey &other) const
-    {
-        return beginning_ == other.beginning_ && !uuid_->empty() && *uuid_ == *other.uuid_;
-    }
-    /// Any order will do that puts the same ones side by side, the first appearance first.
-    bool operator<(const UuidKey &other) const
-    {
-        if (beginning_ != other.beginning_)
-            return beginning_ < other.beginning_;
-        const int compared = uuid_->compare(*other.uuid_);
-        return compared < 0 || (compared == 0 && index_ < other.index_);
-    }
-
-private:
-    std::uint64_t beginning_ = 0;
-    const std::string *uuid_;
-    std::size_t index_;
-};
-
-/// For each appearance the index of the first one of the same asset. Sorted, not hashed: no choice
-/// of uuids makes it slow.
-std::vector<std::size_t> firstOfSame(const std::vector<Appearance> &appearances)
-{
-    std::vector<UuidKey> keys;
-    keys.reserve(appearances.size());
-    for (const Appearance &appearance : appearances)
-        keys.emplace_back(appearance, keys.size());
-    std::sort(keys.begin(), keys.end());
-    std::vector<std::size_t> first(appearances.size());
-    const UuidKey *head = nullptr;
-    for (const UuidKey &key : keys) {
-        if (head == nullptr || !key.isSame(*head))
-            head = &key;
-        first[key.index()] = head->index();
-    }
-    return first;
+    std::vector<CAlbumGroup> holder(1);
+    for (const std::unique_ptr<CPhotoData> &photo : photos)
+        holder.front().photos.push_back(photo.get());
+    return holder;
 }
 
 } // namespace
 
 std::string Asset::path() const
 {
-    const CPhotoData &photo = *first_->record;
+    const CPhotoData &photo = firstRecord();
     const QString separator = photo.directory.isEmpty() ? "" : "/";
     return (photo.directory + separator + photo.fileName).toStdString();
 }
@@ -102,8 +49,9 @@ bool Asset::has(bool CPhotoData::*flag) const
 
 CPhotoData Asset::facts() const
 {
-    CPhotoData facts = *first_->record;
-    for (const Appearance *other = first_ + 1; other != last_; ++other)
+    Iterator other = begin();
+    CPhotoData facts = *other->record;
+    while (++other != end())
         merge(facts, *other->record);
     return facts;
 }
@@ -117,36 +65,41 @@ std::vector<const CAlbumGroup *> Asset::albums() const
     return albums;
 }
 
-AssetList::AssetList(const std::vector<CAlbumGroup> &catalogue)
+AssetList::Iterator::Iterator(const Records &records, RecordNumber number)
+    : records_(&records), number_(number)
 {
-    const std::vector<Appearance> all = allAppearances(catalogue);
-    const std::vector<std::size_t> first = firstOfSame(all);
+    if (number_ < records_->count())
+        here_ = records[number_];
+}
 
-    // Counts each asset's appearances at its first one, then gives it room from there on.
-    std::vector<std::size_t> places(all.size(), 0);
-    for (const std::size_t index : first)
-        ++places[index];
-    std::size_t end = 0;
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        if (first[i] != i)
-            continue;
-        starts_.push_back(end);
-        end += std::exchange(places[i], end);
-    }
-    starts_.push_back(end);
+AssetList::Iterator &AssetList::Iterator::operator++()
+{
+    do
+        step();
+    while (here_.record != nullptr && !linkOf(*here_.record).isFirst);
+    return *this;
+}
 
-    appearances_.resize(all.size());
-    for (std::size_t i = 0; i < all.size(); ++i)
-        appearances_[places[first[i]]++] = all[i];
+/// To the next record; within an album without looking it up.
+void AssetList::Iterator::step()
+{
+    ++number_;
+    ++here_.position;
+    if (here_.album != nullptr && here_.position < here_.album->photos.size())
+        here_.record = here_.album->photos[here_.position];
+    else
+        here_ = number_ < records_->count() ? (*records_)[number_] : Appearance{};
+}
+
+AssetList::AssetList(const std::vector<CAlbumGroup> &catalogue)
+    : records_(catalogue), size_(linkAssets(catalogue))
+{
 }
 
 AssetList::AssetList(const std::vector<std::unique_ptr<CPhotoData>> &photos)
+    : unshown_(holderOf(photos)), records_(unshown_, false), size_(photos.size())
 {
-    for (const std::unique_ptr<CPhotoData> &photo : photos) {
-        starts_.push_back(appearances_.size());
-        appearances_.push_back({photo.get(), nullptr, appearances_.size()});
-    }
-    starts_.push_back(appearances_.size());
+    linkNone(unshown_);
 }
 
 } // namespace iosphoto::tool

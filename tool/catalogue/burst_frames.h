@@ -3,7 +3,7 @@
 
 #include "catalogue/assets.h"
 
-#include <map>
+#include <vector>
 
 namespace iosphoto::tool {
 
@@ -16,12 +16,18 @@ public:
     /// The frames of the burst that an asset belongs to; 0 for one that belongs to none.
     int count(const Asset &asset) const;
 
-    /// The assets in their order, with one of each burst: the frame that stands for it, or else
-    /// the first one taken. What is in the trash and what is not are apart.
-    static std::vector<Asset> oneOfEach(const std::vector<Asset> &assets);
+    /// Leaves one of each burst: the frame that stands for it, or else the first one taken, in the
+    /// place of the first. What is in the trash and what is not are apart.
+    static void keepOneOfEach(ChosenAssets &assets);
 
 private:
-    std::map<QString, int> counts_; // by the burst's uuid; ordered: no choice of them makes it slow
+    struct Burst
+    {
+        QString uuid;
+        int frames;
+    };
+
+    std::vector<Burst> bursts_; // sorted, not hashed: no choice of uuids makes it slow
 };
 
 } // namespace iosphoto::tool

@@ -5,86 +5,13 @@
 #include "text/translate.h"
 
 #include <algorithm>
-#include <cctype>
 #include <map>
 #include <set>
-#include <tuple>
 #include <utility>
 
 namespace iosphoto::tool {
 
 namespace {
-
-/// What a photo is matched by.
-struct Key
-{
-    bool isUuid;
-    std::string text;
-    std::size_t index; ///< of the photo in its list
-};
-
-bool isLess(const Key &left, const Key &right)
-{
-    return std::tie(left.isUuid, left.text) < std::tie(right.isUuid, right.text);
-}
-
-Key keyOf(const AssetList &assets, std::size_t index)
-{
-    const Asset asset = assets[index];
-    if (!asset.uuid().empty())
-        return {true, comparable(asset.uuid()), index};
-    return {false, asset.path(), index};
-}
-
-/// Each key once, with the first photo that has it: records without a uuid stand for themselves, so
-/// there may be one for each album that shows the photo. Sorted, not hashed: no choice of uuids
-/// makes it slow.
-std::vector<Key> sortedKeys(const AssetList &assets)
-{
-    std::vector<Key> keys;
-    for (std::size_t i = 0; i < assets.size(); ++i)
-        keys.push_back(keyOf(assets, i));
-    std::stable_sort(keys.begin(), keys.end(), isLess);
-    const auto isSame = [](const Key &left, const Key &right) { return !isLess(left, right); };
-    keys.erase(std::unique(keys.begin(), keys.end(), isSame), keys.end());
-    return keys;
-}
-
-/// A photo of the one list and the same one of the other, or nothing where it is not there.
-struct Match
-{
-    std::optional<std::size_t> before;
-    std::optional<std::size_t> after;
-};
-
-bool isShownBefore(const Match &left, const Match &right)
-{
-    const auto place = [](const Match &match) {
-        return std::make_pair(!match.after, match.after ? *match.after : *match.before);
-    };
-    return place(left) < place(right);
-}
-
-std::vector<Match> matches(const AssetList &before, const AssetList &after)
-{
-    const std::vector<Key> first = sortedKeys(before);
-    const std::vector<Key> second = sortedKeys(after);
-    std::vector<Match> found;
-    auto old = first.begin();
-    auto now = second.begin();
-    while (old != first.end() || now != second.end()) {
-        const bool isOld = now == second.end() || (old != first.end() && !isLess(*now, *old));
-        const bool isNow = old == first.end() || (now != second.end() && !isLess(*old, *now));
-        Match match;
-        if (isOld)
-            match.before = old++->index;
-        if (isNow)
-            match.after = now++->index;
-        found.push_back(match);
-    }
-    std::sort(found.begin(), found.end(), isShownBefore);
-    return found;
-}
 
 bool isEditedBetween(const CPhotoData &before, const CPhotoData &after)
 {
@@ -191,32 +118,42 @@ const char *fieldName(ChangedField field)
     return "created";
 }
 
-PhotoComparison comparePhotos(const AssetList &before, const AssetList &after)
+PhotoDifferences::PhotoDifferences(const AssetList &before, const AssetList &after,
+                                   std::vector<AssetMatch> matches)
+    : before_(&before), after_(&after), matches_(std::move(matches))
 {
-    PhotoComparison comparison;
-    for (const Match &match : matches(before, after)) {
-        PhotoDifference difference;
-        if (!match.before) {
-            difference = {{}, after[*match.after], {Change::New}, {}, {}, {}};
-        } else if (!match.after) {
-            difference = {before[*match.before], {}, {Change::Gone}, {}, {}, {}};
-        } else {
-            ++comparison.inBoth;
-            difference = compareAssets(before[*match.before], after[*match.after]);
-        }
-        if (!difference.changes.empty())
-            comparison.differences.push_back(std::move(difference));
-    }
-    return comparison;
+    const auto isTheSame = [this](const AssetMatch &match) {
+        const std::vector<Change> changes = differenceOf(match).changes;
+        for (const Change change : changes)
+            ++counts_[change];
+        return changes.empty();
+    };
+    matches_.erase(std::remove_if(matches_.begin(), matches_.end(), isTheSame), matches_.end());
+    matches_.shrink_to_fit();
 }
 
-std::string comparable(const std::string &uuid)
+int PhotoDifferences::count(Change change) const
 {
-    std::string digits;
-    for (const char character : uuid)
-        if (character != '-')
-            digits += static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
-    return digits;
+    const auto found = counts_.find(change);
+    return found != counts_.end() ? found->second : 0;
+}
+
+PhotoDifference PhotoDifferences::differenceOf(const AssetMatch &match) const
+{
+    if (match.before == noRecord)
+        return {{}, after_->at(match.after), {Change::New}, {}, {}, {}};
+    if (match.after == noRecord)
+        return {before_->at(match.before), {}, {Change::Gone}, {}, {}, {}};
+    return compareAssets(before_->at(match.before), after_->at(match.after));
+}
+
+PhotoComparison comparePhotos(const AssetList &before, const AssetList &after)
+{
+    std::vector<AssetMatch> matches = matchAssets(before, after);
+    const auto inBoth = std::count_if(matches.begin(), matches.end(), [](const AssetMatch &match) {
+        return match.before != noRecord && match.after != noRecord;
+    });
+    return {{before, after, std::move(matches)}, static_cast<std::size_t>(inBoth)};
 }
 
 const char *changeName(AlbumChange change)
@@ -268,11 +205,7 @@ std::vector<const CAlbumGroup *> albumsMissingFrom(const std::vector<const CAlbu
 
 int LibraryDifference::count(Change change) const
 {
-    const auto has = [change](const PhotoDifference &photo) {
-        return std::find(photo.changes.begin(), photo.changes.end(), change) != photo.changes.end();
-    };
-    return static_cast<int>(
-        std::count_if(photos.differences.begin(), photos.differences.end(), has));
+    return photos.differences.count(change);
 }
 
 int LibraryDifference::count(AlbumChange change) const

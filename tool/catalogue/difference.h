@@ -2,9 +2,11 @@
 #ifndef IOSPHOTO_TOOL_DIFFERENCE_H
 #define IOSPHOTO_TOOL_DIFFERENCE_H
 
+#include "catalogue/asset_matching.h"
 #include "catalogue/assets.h"
 #include "ios_photo.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -43,22 +45,65 @@ struct PhotoDifference
     const Asset &latest() const { return after ? *after : *before; }
 };
 
+/// The photos that differ: those of the second snapshot in its order, then those that are gone in
+/// the order of the first. Each is made when it is asked for: two libraries may differ in millions.
+class PhotoDifferences
+{
+public:
+    class Iterator
+    {
+    public:
+        Iterator(const PhotoDifferences &differences, std::size_t index)
+            : differences_(&differences), index_(index)
+        {
+        }
+
+        PhotoDifference operator*() const { return (*differences_)[index_]; }
+        Iterator &operator++()
+        {
+            ++index_;
+            return *this;
+        }
+        bool operator!=(const Iterator &other) const { return index_ != other.index_; }
+
+    private:
+        const PhotoDifferences *differences_;
+        std::size_t index_;
+    };
+
+    PhotoDifferences() = default;
+    /// @param before, after  have to outlive this
+    /// @param matches  of their photos, whether they differ or not
+    PhotoDifferences(const AssetList &before, const AssetList &after,
+                     std::vector<AssetMatch> matches);
+
+    std::size_t size() const { return matches_.size(); }
+    bool empty() const { return matches_.empty(); }
+    PhotoDifference operator[](std::size_t index) const { return differenceOf(matches_[index]); }
+    Iterator begin() const { return {*this, 0}; }
+    Iterator end() const { return {*this, size()}; }
+
+    int count(Change change) const;
+
+private:
+    PhotoDifference differenceOf(const AssetMatch &match) const;
+
+    const AssetList *before_ = nullptr;
+    const AssetList *after_ = nullptr;
+    std::vector<AssetMatch> matches_; ///< that differ
+    std::map<Change, int> counts_;
+};
+
 struct PhotoComparison
 {
-    /// Those of the second snapshot in its order, then those that are gone in the order of the
-    /// first.
-    std::vector<PhotoDifference> differences;
+    PhotoDifferences differences;
     std::size_t inBoth = 0; ///< photos that both snapshots have, the same or not
 };
 
-/// Matches photos by their uuids, those without one by folder and file name. The trash takes a
-/// photo out of its albums and gives it back to them; that is not reported as a move.
+/// Matches photos as matchAssets() does. The trash takes a photo out of its albums and gives it
+/// back to them; that is not reported as a move.
 /// @param before, after  have to outlive the result
 PhotoComparison comparePhotos(const AssetList &before, const AssetList &after);
-
-/// The form of a uuid that snapshots share: a phone that was updated from iOS 7 writes it with
-/// dashes and in capitals from then on.
-std::string comparable(const std::string &uuid);
 
 enum class AlbumChange { New, Gone, Renamed };
 

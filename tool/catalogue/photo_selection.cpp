@@ -7,9 +7,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
-#include <limits>
 #include <set>
 
 namespace iosphoto::tool {
@@ -69,7 +67,7 @@ bool matchesTime(const PhotoFilter &filter, const Library &library, const Asset 
 {
     if (!filter.since && !filter.until)
         return true;
-    const auto date = library.dates().created(*asset.begin()->record);
+    const auto date = library.dates().created(asset.firstRecord());
     const auto created = date ? unixTimeOf(*date) : std::nullopt;
     return created && (!filter.since || !(*created < *filter.since)) &&
            (!filter.until || !(*filter.until < *created));
@@ -97,70 +95,6 @@ bool matchesTrash(const PhotoFilter &filter, const Library &library, const Asset
     const UnixTime since = {library.asOf().time.seconds -
                             *filter.trashedWithinDays * secondsPerDay};
     return stay && !(stay->trashed < since);
-}
-
-struct OrderName
-{
-    const char *name;
-    PhotoOrder order;
-};
-
-constexpr OrderName namedOrders[] = {
-    {"date", PhotoOrder::Date},       {"name", PhotoOrder::Name},
-    {"size", PhotoOrder::Size},       {"duration", PhotoOrder::Duration},
-    {"added", PhotoOrder::Added},     {"modified", PhotoOrder::Modified},
-    {"deleted", PhotoOrder::Deleted},
-};
-
-constexpr double none = -std::numeric_limits<double>::infinity();
-
-double longest(const Asset &asset)
-{
-    double duration = 0;
-    for (const Appearance &appearance : asset)
-        duration = std::max<double>(duration, appearance.record->duration);
-    return duration;
-}
-
-double rank(const std::optional<CoreDataTime> &time)
-{
-    return time ? time->seconds : none;
-}
-
-double rank(const Asset &asset, PhotoOrder order, const Library &library)
-{
-    const CPhotoData &record = *asset.begin()->record;
-    switch (order) {
-    case PhotoOrder::Size:
-        return static_cast<double>(record.fileSize);
-    case PhotoOrder::Duration:
-        return longest(asset);
-    case PhotoOrder::Added:
-        return rank(library.dates().added(record));
-    case PhotoOrder::Modified:
-        return rank(library.dates().modified(record));
-    case PhotoOrder::Deleted: {
-        const auto stay = library.trash().stayOf(asset);
-        return stay ? static_cast<double>(stay->trashed.seconds) : none;
-    }
-    default:
-        return rank(library.dates().created(record));
-    }
-}
-
-/// Sorts by a key that is made once for each photo.
-template <typename KeyOf, typename Before>
-void sortBy(std::vector<Asset> &photos, KeyOf keyOf, Before before)
-{
-    std::vector<std::pair<decltype(keyOf(photos.front())), Asset>> keyed;
-    keyed.reserve(photos.size());
-    for (const Asset &photo : photos)
-        keyed.emplace_back(keyOf(photo), photo);
-    std::stable_sort(keyed.begin(), keyed.end(), [&](const auto &left, const auto &right) {
-        return before(left.first, right.first);
-    });
-    std::transform(keyed.begin(), keyed.end(), photos.begin(),
-                   [](const auto &entry) { return entry.second; });
 }
 
 bool matches(const CAlbumGroup &album, const QString &wanted)
@@ -193,23 +127,23 @@ std::string missingUuid(const PhotoFilter &filter, const std::vector<const Asset
 {
     std::set<std::string> missing = comparableUuids(filter);
     for (const AssetList *const list : lists)
-        for (std::size_t i = 0; i < list->size() && !missing.empty(); ++i)
-            missing.erase(comparable((*list)[i].uuid()));
+        for (const Asset asset : *list) {
+            if (missing.empty())
+                return "";
+            missing.erase(comparable(asset.uuid()));
+        }
     const auto found =
         std::find_if(filter.uuids.begin(), filter.uuids.end(),
                      [&](const std::string &uuid) { return missing.count(comparable(uuid)) > 0; });
     return found != filter.uuids.end() ? *found : "";
 }
 
-std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
-                                  const std::vector<const CAlbumGroup *> &albums,
-                                  const Library &library, const AssetList &assets)
+void takeMatching(const PhotoFilter &filter, const std::vector<const CAlbumGroup *> &albums,
+                  const Library &library, const AssetList &assets, ChosenAssets &matching)
 {
     const std::set<std::string> uuids = comparableUuids(filter);
     const NamePatterns names(filter.names);
-    std::vector<Asset> matching;
-    for (std::size_t i = 0; i < assets.size(); ++i) {
-        const Asset asset = assets[i];
+    for (const Asset asset : assets) {
         if ((uuids.empty() || uuids.count(comparable(asset.uuid())) > 0) &&
             (filter.albums.empty() || isShownBy(asset, albums)) &&
             matchesTime(filter, library, asset) && matchesKinds(filter, asset) &&
@@ -217,60 +151,20 @@ std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
             names.fit(asset) && (!filter.isWanted || filter.isWanted(asset)))
             matching.push_back(asset);
     }
-    return matching;
 }
 
-std::optional<PhotoOrder> orderNamed(const std::string &name)
+ChosenAssets choosePhotos(const PhotoChoice &choice, const std::vector<const CAlbumGroup *> &albums,
+                          const Library &library, const AssetList &assets,
+                          const AssetList &leftOut)
 {
-    const auto *const found =
-        std::find_if(std::begin(namedOrders), std::end(namedOrders),
-                     [&](const OrderName &order) { return name == order.name; });
-    return found != std::end(namedOrders) ? std::optional(found->order) : std::nullopt;
-}
-
-std::vector<std::string> orderNames()
-{
-    std::vector<std::string> names;
-    for (const OrderName &order : namedOrders)
-        names.emplace_back(order.name);
-    return names;
-}
-
-void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &library)
-{
-    if (order == PhotoOrder::Name) {
-        sortBy(
-            photos,
-            [](const Asset &asset) { return asset.begin()->record->fileName.toCaseFolded(); },
-            std::less<>());
-        return;
-    }
-    const auto key = [&](const Asset &asset) {
-        const double number = rank(asset, order, library);
-        return std::isnan(number) ? none : number;
-    };
-    sortBy(photos, key, std::greater<>());
-}
-
-std::vector<Asset> choosePhotos(const PhotoChoice &choice,
-                                const std::vector<const CAlbumGroup *> &albums,
-                                const Library &library, const AssetList &assets,
-                                const AssetList &leftOut)
-{
-    std::vector<Asset> chosen;
+    ChosenAssets chosen(assets, leftOut);
     if (choice.shown != Shown::LeftOut)
-        chosen = matchingPhotos(choice.filter, albums, library, assets);
+        takeMatching(choice.filter, albums, library, assets, chosen);
     if (!choice.hasFrames)
-        chosen = BurstFrames::oneOfEach(chosen);
-    if (choice.shown != Shown::Listed) {
-        const auto others = matchingPhotos(choice.filter, albums, library, leftOut);
-        chosen.insert(chosen.end(), others.begin(), others.end());
-    }
-    sortPhotos(chosen, choice.order, library);
-    if (choice.isReversed)
-        std::reverse(chosen.begin(), chosen.end());
-    if (choice.limit && *choice.limit < chosen.size())
-        chosen.erase(chosen.begin() + static_cast<std::ptrdiff_t>(*choice.limit), chosen.end());
+        BurstFrames::keepOneOfEach(chosen);
+    if (choice.shown != Shown::Listed)
+        takeMatching(choice.filter, albums, library, leftOut, chosen);
+    sortPhotos(chosen, choice.sorting, library.trash(), library.dates());
     return chosen;
 }
 

@@ -4,6 +4,7 @@
 #include "catalogue/assets.h"
 #include "catalogue/library.h"
 #include "catalogue/photo_kinds.h"
+#include "catalogue/photo_order.h"
 
 namespace iosphoto::tool {
 
@@ -32,23 +33,10 @@ std::vector<const CAlbumGroup *> matchingAlbums(const Library &library, const st
 /// The first of the filter's uuids that no photo of any list has; empty where all are there.
 std::string missingUuid(const PhotoFilter &filter, const std::vector<const AssetList *> &lists);
 
-/// The photos that match, in the order of the list.
+/// Chooses the photos that match as well, in the order of their list.
 /// @param albums  those that match any of the filter's
-std::vector<Asset> matchingPhotos(const PhotoFilter &filter,
-                                  const std::vector<const CAlbumGroup *> &albums,
-                                  const Library &library, const AssetList &assets);
-
-/// What photos are sorted by. Names from A to Z; times from the newest, numbers from the largest,
-/// those that have none last.
-enum class PhotoOrder { Date, Name, Size, Duration, Added, Modified, Deleted };
-
-/// The order that somebody names, such as "date"; nothing for an unknown one.
-std::optional<PhotoOrder> orderNamed(const std::string &name);
-
-std::vector<std::string> orderNames();
-
-/// Sorts photos; those that are alike stay in their order.
-void sortPhotos(std::vector<Asset> &photos, PhotoOrder order, const Library &library);
+void takeMatching(const PhotoFilter &filter, const std::vector<const CAlbumGroup *> &albums,
+                  const Library &library, const AssetList &assets, ChosenAssets &matching);
 
 /// Photos of the catalogue, those that it leaves out, or both.
 enum class Shown { Listed, LeftOut, Both };
@@ -58,19 +46,16 @@ struct PhotoChoice
 {
     Shown shown = Shown::Listed;
     PhotoFilter filter;
-    PhotoOrder order = PhotoOrder::Date;
-    bool isReversed = false;
     bool hasFrames = false; ///< every frame of a burst, not one for all
-    std::optional<std::size_t> limit;
+    PhotoSorting sorting;
 };
 
 /// Of the photos of a library those that are chosen.
 /// @param albums  those that match the filter's
 /// @param leftOut  the library's, which are looked at only where the choice says so
-std::vector<Asset> choosePhotos(const PhotoChoice &choice,
-                                const std::vector<const CAlbumGroup *> &albums,
-                                const Library &library, const AssetList &assets,
-                                const AssetList &leftOut);
+ChosenAssets choosePhotos(const PhotoChoice &choice, const std::vector<const CAlbumGroup *> &albums,
+                          const Library &library, const AssetList &assets,
+                          const AssetList &leftOut);
 
 } // namespace iosphoto::tool
 

@@ -40,9 +40,8 @@ Summary summaryOf(const AssetList &assets, const KnownDates &dates)
     const std::vector<PhotoKind> &kinds = photoKinds();
     Summary summary;
     summary.byKind.resize(kinds.size());
-    for (std::size_t i = 0; i < assets.size(); ++i) {
-        const Asset asset = assets[i];
-        const CPhotoData &photo = *asset.begin()->record;
+    for (const Asset asset : assets) {
+        const CPhotoData &photo = asset.firstRecord();
         add(summary.all, photo);
         for (std::size_t kind = 0; kind < kinds.size(); ++kind)
             if (kinds[kind].test(asset))

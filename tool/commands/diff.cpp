@@ -40,9 +40,8 @@ void printDifference(Format format, const Library &before, const Library &after,
         withUnknown(factsOf(differenceFields()), before.schema().unknownFields, "before.");
     RowStream<DifferenceRow> stream(*writer, differenceHead(before, after, difference),
                                     withUnknown(fields, after.schema().unknownFields, "after."));
-    for (const PhotoDifference &photo : difference.photos.differences)
-        stream.write(rows.of(photo));
-    stream.end();
+    stream.writeAll(difference.photos.differences,
+                    [&](const PhotoDifference &photo) { return rows.of(photo); });
 }
 
 /// Says when the libraries do not look like those of one phone.

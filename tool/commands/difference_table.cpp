@@ -63,9 +63,9 @@ Words details(const PhotoDifference &photo)
     return words;
 }
 
-void addRow(TextTable &table, const DifferenceLine &line)
+std::vector<std::string> cellsOf(const DifferenceLine &line)
 {
-    table.add({line.change, line.name, line.what});
+    return {line.change, line.name, line.what};
 }
 
 /// How many there are of each change, where there are any.
@@ -114,11 +114,14 @@ void printDifferenceTable(const LibraryDifference &difference, const Screen &scr
         TextTable table({{translate("CHANGE")},
                          {translate("FILE"), TextTable::Align::Left, Elide::Left},
                          {translate("WHAT")}});
-        for (const AlbumDifference &album : difference.albums)
-            addRow(table, lineOf(album));
-        for (const PhotoDifference &photo : difference.photos.differences)
-            addRow(table, lineOf(photo));
-        table.print(out, screen);
+        const auto rows = [&](const TextTable::TakeCells &take) {
+            for (const AlbumDifference &album : difference.albums)
+                take(cellsOf(lineOf(album)));
+            for (const PhotoDifference &photo : difference.photos.differences)
+                take(cellsOf(lineOf(photo)));
+        };
+        rows([&](const std::vector<std::string> &cells) { table.measure(cells); });
+        table.print(out, screen, rows);
         out << '\n';
     }
     printParagraph(out, screen, summary(difference));

@@ -123,17 +123,17 @@ void addOrder(CLI::App &command, PhotoChoice &choice)
 {
     command
         .add_option_function<std::string>(
-            "--sort", [&choice](const std::string &name) { choice.order = orderOf(name); },
+            "--sort", [&choice](const std::string &name) { choice.sorting.order = orderOf(name); },
             translate(
                 "sort by date (default: newest first), name, size, duration, added, modified or "
                 "deleted"))
         ->type_name(translate("ORDER"));
-    command.add_flag("--reverse", choice.isReversed, translate("reverse the order"));
+    command.add_flag("--reverse", choice.sorting.isReversed, translate("reverse the order"));
     command
         .add_option_function<std::string>(
             "-n,--limit",
             [&choice](const std::string &count) {
-                choice.limit = parseNumber<std::size_t>(count, "--limit");
+                choice.sorting.most = parseNumber<std::size_t>(count, "--limit");
             },
             translate("show only so many, the first in the order"))
         ->type_name(translate("NUMBER"))

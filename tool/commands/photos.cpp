@@ -28,12 +28,9 @@ struct PhotosRequest
     RowFormat format;
 };
 
-void printPhotos(RowStream<PhotoRow> stream, const std::vector<Asset> &photos,
-                 const PhotoRows &rows)
+void printPhotos(RowStream<PhotoRow> stream, const ChosenAssets &photos, const PhotoRows &rows)
 {
-    for (const Asset &photo : photos)
-        stream.write(rows.of(photo));
-    stream.end();
+    stream.writeAll(photos, [&](const Asset &photo) { return rows.of(photo); });
 }
 
 std::vector<std::string> namesOf(const Library &library)
@@ -134,7 +131,7 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     request.choice.filter.isWanted = conditionOf(request, library, rows);
-    const std::vector<Asset> photos =
+    const ChosenAssets photos =
         choosePhotos(request.choice, albums, library, assets, leftOut);
     printHowItWasRead(session.terminal, library);
     if (photos.empty())

@@ -134,7 +134,10 @@ void printScript(const Target &target, const std::vector<BuildStatement> &statem
                translate("iOS {0}, {1}: the statements of a build, in the order in which it runs "
                          "them",
                          target.device.iosVersion, target.device.productType))
-        << comment(origin(target, statements));
+        << comment(origin(target, statements))
+        << comment(
+               translate("run them on a copy of the database and its log: sqlite3 writes beside "
+                         "what it opens"));
     if (!target.views.empty())
         out << '\n' << comment(translate("columns that the database lacks, for this session only"));
     for (const std::string &view : target.views)
@@ -219,7 +222,8 @@ Command addStatements(CLI::App &app)
                   translate("print a JSON document"));
     command->footer(
         helpFooter({examples({"iosphoto statements Photos.sqlite > passes.sql",
-                              "sqlite3 -readonly Photos.sqlite < passes.sql",
+                              "mkdir copy && cp Photos.sqlite* copy && "
+                              "sqlite3 copy/Photos.sqlite < passes.sql",
                               "iosphoto statements --ios 17.4 --product iPhone14,2 --json"}),
                     exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {

@@ -125,15 +125,33 @@ public:
 
     void write(const Row &row)
     {
-        values_.clear();
-        for (const Field<Row> &field : fields_)
-            values_.push_back(field.value(row));
+        setValues(row);
         writer_.row(values_);
     }
 
     void end() { writer_.end(); }
 
+    /// Writes the rows that `rowOf` makes of `things`, and ends. Each is made when it is written,
+    /// and more than once where the format needs it.
+    template <typename Things, typename RowOf>
+    void writeAll(const Things &things, RowOf rowOf)
+    {
+        writer_.all([&](const TakeRow &take) {
+            for (const auto &thing : things) {
+                setValues(rowOf(thing));
+                take(values_);
+            }
+        });
+    }
+
 private:
+    void setValues(const Row &row)
+    {
+        values_.clear();
+        for (const Field<Row> &field : fields_)
+            values_.push_back(field.value(row));
+    }
+
     RowWriter &writer_;
     std::vector<Field<Row>> fields_;
     std::vector<Value> values_;

@@ -18,20 +18,18 @@ void writeAlbums(SqliteOutput &output, const Library &library)
     stream.end();
 }
 
-void writePhotos(SqliteOutput &output, const Library &library, const std::vector<Asset> &photos,
+void writePhotos(SqliteOutput &output, const Library &library, const ChosenAssets &photos,
                  const PhotoRows &rows)
 {
     SqliteRows writer(output);
     RowStream<PhotoRow> stream(writer, {"photos", {}, {}},
                                withUnknown(photoColumns(), library.schema().unknownFields));
-    for (const Asset &photo : photos)
-        stream.write(rows.of(photo));
-    stream.end();
+    stream.writeAll(photos, [&](const Asset &photo) { return rows.of(photo); });
     output.execute("create index photos_uuid on photos (uuid);"
                    "create index photos_created on photos (created)");
 }
 
-void writeAppearances(SqliteOutput &output, const std::vector<Asset> &photos)
+void writeAppearances(SqliteOutput &output, const ChosenAssets &photos)
 {
     output.execute("create table album_photos ("
                    "album integer references albums (\"index\"), position integer, "
@@ -40,7 +38,7 @@ void writeAppearances(SqliteOutput &output, const std::vector<Asset> &photos)
     constexpr std::size_t columns = 3;
     SqliteInsert insert(output, "album_photos", columns);
     std::int64_t id = 0;
-    for (const Asset &photo : photos) {
+    for (const Asset photo : photos) {
         ++id;
         for (const Appearance &appearance : photo)
             if (appearance.album != nullptr)
@@ -60,7 +58,7 @@ void writeAlbumDatabase(FileUse &files, const std::string &file, const Library &
 }
 
 void writePhotoDatabase(FileUse &files, const std::string &file, const Library &library,
-                        const std::vector<Asset> &photos, const PhotoRows &rows)
+                        const ChosenAssets &photos, const PhotoRows &rows)
 {
     SqliteOutput output(files, file, library.name(), libraryHead(library));
     writeAlbums(output, library);

@@ -14,7 +14,7 @@ void writeAlbumDatabase(FileUse &files, const std::string &file, const Library &
 
 /// The same with photos too, and with which album shows which of them where.
 void writePhotoDatabase(FileUse &files, const std::string &file, const Library &library,
-                        const std::vector<Asset> &photos, const PhotoRows &rows);
+                        const ChosenAssets &photos, const PhotoRows &rows);
 
 } // namespace iosphoto::tool
 

@@ -5,6 +5,7 @@
 #include "terminal/text_table.h"
 #include "text/json.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -60,8 +61,14 @@ struct RowsHead
     Json ofEachLine;  ///< likewise: what makes a row stand for itself where several runs are mixed
 };
 
-/// Writes rows in one format as they come, without keeping them; only tables, which are aligned,
-/// have to. Text may hold any bytes.
+/// Takes the values of a row, one for each column.
+using TakeRow = std::function<void(const std::vector<Value> &)>;
+
+/// Makes all rows, one after the other, as often as it is called.
+using RowSource = std::function<void(const TakeRow &)>;
+
+/// Writes rows in one format as they come, without keeping them. Tables, which are aligned, have
+/// to, but where they can have the rows made twice. Text may hold any bytes.
 class RowWriter
 {
 public:
@@ -74,6 +81,13 @@ public:
     /// @param values  one for each column
     virtual void row(const std::vector<Value> &values) = 0;
     virtual void end() = 0;
+
+    /// All rows and the end, for rows that are made again where a format needs them twice.
+    virtual void all(const RowSource &rows)
+    {
+        rows([this](const std::vector<Value> &values) { row(values); });
+        end();
+    }
 };
 
 } // namespace iosphoto::tool

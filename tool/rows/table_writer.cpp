@@ -50,15 +50,30 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
 
 void TableWriter::row(const std::vector<Value> &values)
 {
-    std::vector<std::string> cells;
-    for (std::size_t i = 0; i < columns_.size(); ++i)
-        cells.push_back(std::visit(ShownValue{columns_[i].type}, values[i]));
-    table_->add(cells);
+    table_->add(cellsOf(values));
 }
 
 void TableWriter::end()
 {
     table_->print(out_, screen_);
+}
+
+/// First only the widths of the cells, then the rows with them: cells of millions of photos would
+/// take more memory than the photos.
+void TableWriter::all(const RowSource &rows)
+{
+    rows([this](const std::vector<Value> &values) { table_->measure(cellsOf(values)); });
+    table_->print(out_, screen_, [&](const TextTable::TakeCells &take) {
+        rows([&](const std::vector<Value> &values) { take(cellsOf(values)); });
+    });
+}
+
+std::vector<std::string> TableWriter::cellsOf(const std::vector<Value> &values) const
+{
+    std::vector<std::string> cells;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        cells.push_back(std::visit(ShownValue{columns_[i].type}, values[i]));
+    return cells;
 }
 
 } // namespace iosphoto::tool

@@ -18,8 +18,11 @@ public:
     void begin(const RowsHead &head, const std::vector<Column> &columns) override;
     void row(const std::vector<Value> &values) override;
     void end() override;
+    void all(const RowSource &rows) override;
 
 private:
+    std::vector<std::string> cellsOf(const std::vector<Value> &values) const;
+
     std::ostream &out_;
     Screen screen_;
     std::vector<Column> columns_;

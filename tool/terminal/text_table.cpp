@@ -54,23 +54,34 @@ TextTable::TextTable(std::vector<Column> columns) : columns_(std::move(columns))
 
 void TextTable::add(const std::vector<std::string> &cells)
 {
-    Row row;
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-        row.push_back(columns_[i].isList ? cells.at(i) : printable(cells.at(i)));
-        widths_[i] = std::max(widths_[i], displayWidth(whole(i, row.back())));
-    }
-    rows_.push_back(std::move(row));
+    measure(cells);
+    rows_.push_back(cells);
+}
+
+void TextTable::measure(const std::vector<std::string> &cells)
+{
+    const Row row = printableRow(cells);
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        widths_[i] = std::max(widths_[i], displayWidth(whole(i, row[i])));
 }
 
 void TextTable::print(std::ostream &out, const Screen &screen) const
 {
+    print(out, screen, [this](const TakeCells &take) {
+        for (const Row &row : rows_)
+            take(row);
+    });
+}
+
+void TextTable::print(std::ostream &out, const Screen &screen, const CellSource &rows) const
+{
     if (!screen.columns) {
-        printRows(out, screen, wholeWidths(needs()));
+        printRows(out, screen, rows, wholeWidths(needs()));
     } else if (const auto fitting = widthsThatFit(needs(), *screen.columns)) {
-        printRows(out, screen, *fitting);
+        printRows(out, screen, rows, *fitting);
         printWhatIsLeftOut(out, screen, *fitting);
     } else {
-        printBlocks(out, headings(), wholeRows(), screen);
+        printBlocks(out, screen, rows);
     }
 }
 
@@ -87,11 +98,30 @@ std::vector<ColumnNeeds> TextTable::needs() const
     return needs;
 }
 
-void TextTable::printRows(std::ostream &out, const Screen &screen, const ColumnWidths &widths) const
+void TextTable::printRows(std::ostream &out, const Screen &screen, const CellSource &rows,
+                          const ColumnWidths &widths) const
 {
     out << inked(line(headings(), widths), Ink::Bold, screen) << '\n';
-    for (const Row &row : rows_)
-        out << line(row, widths) << '\n';
+    rows([&](const std::vector<std::string> &cells) {
+        out << line(printableRow(cells), widths) << '\n';
+    });
+}
+
+void TextTable::printBlocks(std::ostream &out, const Screen &screen, const CellSource &rows) const
+{
+    const char *between = "";
+    rows([&](const std::vector<std::string> &cells) {
+        out << std::exchange(between, "\n");
+        tool::printBlocks(out, headings(), {wholeRow(cells)}, screen);
+    });
+}
+
+TextTable::Row TextTable::printableRow(const std::vector<std::string> &cells) const
+{
+    Row row;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        row.push_back(columns_[i].isList ? cells.at(i) : printable(cells.at(i)));
+    return row;
 }
 
 void TextTable::printWhatIsLeftOut(std::ostream &out, const Screen &screen,
@@ -128,13 +158,12 @@ std::string TextTable::whole(std::size_t column, const std::string &cell) const
     return columns_[column].isList ? shownItems(cell) : cell;
 }
 
-std::vector<TextTable::Row> TextTable::wholeRows() const
+TextTable::Row TextTable::wholeRow(const std::vector<std::string> &cells) const
 {
-    std::vector<Row> rows = rows_;
-    for (Row &row : rows)
-        for (std::size_t i = 0; i < row.size(); ++i)
-            row[i] = whole(i, row[i]);
-    return rows;
+    Row row = printableRow(cells);
+    for (std::size_t i = 0; i < row.size(); ++i)
+        row[i] = whole(i, row[i]);
+    return row;
 }
 
 TextTable::Row TextTable::headings() const

@@ -5,6 +5,7 @@
 #include "terminal/display_width.h"
 #include "terminal/terminal.h"
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -31,20 +32,33 @@ public:
     /// Adds a row, a cell for each column. Cells may hold any text; they are made printable.
     void add(const std::vector<std::string> &cells);
 
+    /// Makes the columns as wide as a row needs that is not kept, but made again to be printed.
+    void measure(const std::vector<std::string> &cells);
+
+    /// Takes the cells of a row.
+    using TakeCells = std::function<void(const std::vector<std::string> &)>;
+    /// Makes all rows, one after the other.
+    using CellSource = std::function<void(const TakeCells &)>;
+
     /// On a terminal that is too narrow, long cells are cut, and spare columns left out, as a last
     /// line says; where that does not help, each row is a block of lines, a cell after the other.
     void print(std::ostream &out, const Screen &screen) const;
+    /// The same of rows that were measured.
+    void print(std::ostream &out, const Screen &screen, const CellSource &rows) const;
 
 private:
     using Row = std::vector<std::string>;
 
     std::vector<ColumnNeeds> needs() const;
-    void printRows(std::ostream &out, const Screen &screen, const ColumnWidths &widths) const;
+    void printRows(std::ostream &out, const Screen &screen, const CellSource &rows,
+                   const ColumnWidths &widths) const;
+    void printBlocks(std::ostream &out, const Screen &screen, const CellSource &rows) const;
     void printWhatIsLeftOut(std::ostream &out, const Screen &screen,
                             const ColumnWidths &widths) const;
     std::string line(const Row &row, const ColumnWidths &widths) const;
     std::string whole(std::size_t column, const std::string &cell) const;
-    std::vector<Row> wholeRows() const;
+    Row wholeRow(const std::vector<std::string> &cells) const;
+    Row printableRow(const std::vector<std::string> &cells) const;
     Row headings() const;
 
     std::vector<Column> columns_;

@@ -13,13 +13,28 @@ namespace {
 
 constexpr char timeFormat[] = "yyyy-MM-dd HH:mm ";
 
+/// Before them Qt has no summer time, and behind them that of 2037.
+constexpr UnixTime endOfUsualYears = {2114380800}; // 2037-01-01
+
+std::string zoneText(int offset)
+{
+    return offset == 0 ? "UTC" : utcOffset(offset);
+}
+
 } // namespace
 
 std::string localTimeText(UnixTime time)
 {
+    if (!(time < UnixTime{0}) && time < endOfUsualYears) {
+        const std::time_t seconds = time.seconds;
+        std::tm local = {};
+        localtime_r(&seconds, &local); // a QDateTime asks the system each time for its zone
+        return fmt::format(FMT_COMPILE("{:04}-{:02}-{:02} {:02}:{:02} "), local.tm_year + 1900,
+                           local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min) +
+               zoneText(static_cast<int>(local.tm_gmtoff));
+    }
     const QDateTime local = QDateTime::fromSecsSinceEpoch(time.seconds);
-    const int offset = local.offsetFromUtc();
-    return local.toString(timeFormat).toStdString() + (offset == 0 ? "UTC" : utcOffset(offset));
+    return local.toString(timeFormat).toStdString() + zoneText(local.offsetFromUtc());
 }
 
 std::string localDayText(UnixTime time)

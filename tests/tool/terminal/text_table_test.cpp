@@ -47,6 +47,25 @@ TEST(TextTable, IsWholeWhereItIsNotShownOnATerminal)
     EXPECT_EQ(printed(sample(), terminal(64)), whole);
 }
 
+TEST(TextTable, PrintsRowsThatWereMeasuredLikeThoseThatItKeeps)
+{
+    const std::vector<std::vector<std::string>> rows = {{"a", "long cell"}, {"longer cell", "b"}};
+    const auto rowsAnew = [&](const TextTable::TakeCells &take) {
+        for (const auto &row : rows)
+            take(row);
+    };
+    TextTable kept({{"ONE"}, {"TWO"}});
+    TextTable measured({{"ONE"}, {"TWO"}});
+    for (const auto &row : rows)
+        kept.add(row);
+    rowsAnew([&](const std::vector<std::string> &cells) { measured.measure(cells); });
+    for (const Screen &screen : {Screen{}, terminal(80), terminal(20), terminal(8)}) {
+        std::ostringstream out;
+        measured.print(out, screen, rowsAnew);
+        EXPECT_EQ(out.str(), printed(kept, screen));
+    }
+}
+
 TEST(TextTable, CutsTheWidestCellsToFitATerminal)
 {
     EXPECT_EQ(printed(sample(), terminal(46)), "DAY         FILE NAME           SIZE  UUID\n"
