@@ -144,6 +144,8 @@ TEST(ToolStatements, StandInTheOrderOfABuildWithWhatEachIsFor)
               "-- iOS 15.0, iPhone13,2: the statements of a build, in the order in which it runs "
               "them\n"
               "-- the entity numbers are those of the database\n"
+              "-- run them on a copy of the database and its log: sqlite3 writes beside what it "
+              "opens\n"
               "-- pass asset-entity, statement entity_asset.sql: every iOS\n"
               "-- pass album-entity, statement entity_album.sql: every iOS\n"
               "-- pass photo-stream-album-entity, statement entity_photo_stream_album.sql: every "

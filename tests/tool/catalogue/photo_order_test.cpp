@@ -91,8 +91,4 @@ TEST_P(PhotoOrderOfMany, BeginsAlikeWhereFewAreWanted)
 }
 
 INSTANTIATE_TEST_SUITE_P(Orders, PhotoOrderOfMany,
-                         testing::Values(PhotoOrder::Date, PhotoOrder::Name, PhotoOrder::Size),
-                         [](const auto &order) {
-                             const char *const names[] = {"Date", "Name", "Size"};
-                             return names[order.index];
-                         });
+                         testing::Values(PhotoOrder::Date, PhotoOrder::Name, PhotoOrder::Size));
