@@ -152,7 +152,8 @@ TEST_F(BytesAPhoto, ChosenPhotosTakeWhatThePageSaysOfRowsAndTables)
     const ReadLibrary read(database());
     const tool::AssetList assets((*read).albums());
     const tool::BurstFrames bursts(assets);
-    EXPECT_EQ(tool::choosePhotos({}, {}, *read, assets).size(), photos);
+    const tool::AssetList leftOut((*read).leftOutPhotos().records());
+    EXPECT_EQ(tool::choosePhotos({}, {}, *read, assets, leftOut).size(), photos);
     constexpr long tolerance = 16L * 1024;
     expectDocumented(read.peakBeside(), "rows", tolerance);
     expectDocumented(read.peakBeside(), "tables", tolerance);

@@ -154,8 +154,7 @@ void takeMatching(const PhotoFilter &filter, const std::vector<const CAlbumGroup
 }
 
 ChosenAssets choosePhotos(const PhotoChoice &choice, const std::vector<const CAlbumGroup *> &albums,
-                          const Library &library, const AssetList &assets,
-                          const AssetList &leftOut)
+                          const Library &library, const AssetList &assets, const AssetList &leftOut)
 {
     ChosenAssets chosen(assets, leftOut);
     if (choice.shown != Shown::LeftOut)

@@ -27,10 +27,11 @@ void addTime(Summary &summary, const std::optional<CoreDataTime> &created)
 
 std::size_t foldedFramesOf(const AssetList &assets)
 {
-    std::vector<Asset> all;
-    for (std::size_t i = 0; i < assets.size(); ++i)
-        all.push_back(assets[i]);
-    return all.size() - BurstFrames::oneOfEach(all).size();
+    ChosenAssets chosen(assets, assets);
+    for (const Asset asset : assets)
+        chosen.push_back(asset);
+    BurstFrames::keepOneOfEach(chosen);
+    return assets.size() - chosen.size();
 }
 
 } // namespace
