@@ -39,7 +39,10 @@ std::vector<std::string> linesOf(const std::string &text)
 /// An example of a command line, which is shown whole.
 bool isExample(const std::string &line)
 {
-    return line.rfind("  iosphoto ", 0) == 0 || line.rfind("  sqlite3 ", 0) == 0;
+    const char *const programs[] = {"iosphoto", "sqlite3", "mkdir"};
+    return std::any_of(std::begin(programs), std::end(programs), [&](const std::string &program) {
+        return line.rfind("  " + program + " ", 0) == 0;
+    });
 }
 
 /// What stands in a text between two others, as one line.

@@ -29,6 +29,10 @@ void sortOnce(std::vector<Value> &values)
 
 ListedKeys::ListedKeys(const std::vector<CAlbumGroup> &catalogue)
 {
+    std::size_t records = 0;
+    for (const CAlbumGroup &album : catalogue)
+        records += album.photos.size();
+    keys_.reserve(records); // growing would take three times as much for a moment
     forEachRecord(catalogue, [this](const CPhotoData &photo) {
         if (photo.assetId != noKey)
             keys_.push_back(photo.assetId);

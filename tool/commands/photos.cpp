@@ -131,8 +131,7 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     request.choice.filter.isWanted = conditionOf(request, library, rows);
-    const ChosenAssets photos =
-        choosePhotos(request.choice, albums, library, assets, leftOut);
+    const ChosenAssets photos = choosePhotos(request.choice, albums, library, assets, leftOut);
     printHowItWasRead(session.terminal, library);
     if (photos.empty())
         sayThatThereAreNone(shown, (shown == Shown::LeftOut ? 0 : assets.size()) + leftOut.size(),

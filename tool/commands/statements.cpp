@@ -222,7 +222,7 @@ Command addStatements(CLI::App &app)
                   translate("print a JSON document"));
     command->footer(
         helpFooter({examples({"iosphoto statements Photos.sqlite > passes.sql",
-                              "mkdir copy && cp Photos.sqlite* copy && "
+                              "mkdir copy && cp Photos.sqlite* copy",
                               "sqlite3 copy/Photos.sqlite < passes.sql",
                               "iosphoto statements --ios 17.4 --product iPhone14,2 --json"}),
                     exitCodesOfALibrary()}));
