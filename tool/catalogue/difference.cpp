@@ -122,16 +122,23 @@ PhotoDifferences::PhotoDifferences(const AssetList &before, const AssetList &aft
                                    std::vector<AssetMatch> matches)
     : before_(&before), after_(&after), matches_(std::move(matches))
 {
-    const auto isTheSame = [this](const AssetMatch &match) {
-        const std::vector<Change> changes = differenceOf(match).changes;
-        for (const Change change : changes)
-            ++counts_[change];
-        return changes.empty();
-    };
-    matches_.erase(std::remove_if(matches_.begin(), matches_.end(), isTheSame), matches_.end());
-    matches_.shrink_to_fit();
+    leaveOut([](const PhotoDifference &photo) { return photo.changes.empty(); });
 }
 
+void PhotoDifferences::leaveOut(const std::function<bool(const PhotoDifference &)> &isLeftOut)
+{
+    counts_.clear();
+    const auto isToGo = [&](const AssetMatch &match) {
+        const PhotoDifference photo = differenceOf(match);
+        if (isLeftOut(photo))
+            return true;
+        for (const Change change : photo.changes)
+            ++counts_[change];
+        return false;
+    };
+    matches_.erase(std::remove_if(matches_.begin(), matches_.end(), isToGo), matches_.end());
+    matches_.shrink_to_fit();
+}
 int PhotoDifferences::count(Change change) const
 {
     const auto found = counts_.find(change);

@@ -6,6 +6,7 @@
 #include "catalogue/assets.h"
 #include "ios_photo.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -84,6 +85,8 @@ public:
     Iterator end() const { return {*this, size()}; }
 
     int count(Change change) const;
+
+    void leaveOut(const std::function<bool(const PhotoDifference &)> &isLeftOut);
 
 private:
     PhotoDifference differenceOf(const AssetMatch &match) const;

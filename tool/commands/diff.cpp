@@ -73,13 +73,11 @@ std::size_t leaveOutOfTheTrash(const Library &before, const Library &after, Phot
     const auto isEmptied = [](const Library &library, const std::optional<Asset> &asset) {
         return !asset || library.trash().isEmptiedOf(asset->facts());
     };
-    std::vector<PhotoDifference> &all = photos.differences;
-    const auto end = std::remove_if(all.begin(), all.end(), [&](const PhotoDifference &photo) {
+    const std::size_t all = photos.differences.size();
+    photos.differences.leaveOut([&](const PhotoDifference &photo) {
         return isEmptied(before, photo.before) && isEmptied(after, photo.after);
     });
-    const auto count = static_cast<std::size_t>(all.end() - end);
-    all.erase(end, all.end());
-    return count;
+    return all - photos.differences.size();
 }
 
 constexpr UnixTime noTime = {0};

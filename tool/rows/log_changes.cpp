@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 #include <set>
 #include <tuple>
 #include <utility>
@@ -33,37 +32,39 @@ bool isLess(const Asset &left, const Asset &right)
                                                        : left.uuid() < right.uuid();
 }
 
-/// The places of the photos in the order of isLess. Sorted, not hashed: no choice of uuids makes it
-/// slow.
-std::vector<std::size_t> sortedPlaces(const AssetList &assets)
+/// The numbers of the photos in the order of isLess. Sorted, not hashed: no choice of uuids makes
+/// it slow.
+std::vector<RecordNumber> sortedNumbers(const AssetList &assets)
 {
-    std::vector<std::size_t> places(assets.size());
-    std::iota(places.begin(), places.end(), 0);
-    std::stable_sort(places.begin(), places.end(), [&](std::size_t left, std::size_t right) {
-        return isLess(assets[left], assets[right]);
+    std::vector<RecordNumber> numbers;
+    for (const Asset asset : assets)
+        numbers.push_back(asset.number());
+    std::stable_sort(numbers.begin(), numbers.end(), [&](RecordNumber left, RecordNumber right) {
+        return isLess(assets.at(left), assets.at(right));
     });
-    return places;
+    return numbers;
 }
 
-using Place = std::optional<std::size_t>;
-
-/// For each photo of `after` the same one of `before`. Where several are alike, the first is the
-/// same as the first, and so on.
-std::vector<Place> partners(const AssetList &before, const AssetList &after)
+/// Each photo of `after` with the same one of `before`, in the order of `after`. Where several are
+/// alike, the first is the same as the first, and so on.
+std::vector<AssetMatch> partners(const AssetList &before, const AssetList &after)
 {
-    const std::vector<std::size_t> first = sortedPlaces(before);
-    const std::vector<std::size_t> second = sortedPlaces(after);
-    std::vector<Place> partners(after.size());
+    const std::vector<RecordNumber> first = sortedNumbers(before);
+    const std::vector<RecordNumber> second = sortedNumbers(after);
+    std::vector<AssetMatch> partners;
     auto old = first.begin();
     auto now = second.begin();
     while (old != first.end() && now != second.end()) {
-        if (isLess(before[*old], after[*now]))
+        if (isLess(before.at(*old), after.at(*now)))
             ++old;
-        else if (isLess(after[*now], before[*old]))
+        else if (isLess(after.at(*now), before.at(*old)))
             ++now;
         else
-            partners[*now++] = *old++;
+            partners.push_back({*old++, *now++});
     }
+    std::sort(
+        partners.begin(), partners.end(),
+        [](const AssetMatch &left, const AssetMatch &right) { return left.after < right.after; });
     return partners;
 }
 
@@ -151,7 +152,8 @@ std::vector<LogChange> snapshotChanges(const AssetList &before, const AssetList 
                                        const FactComparison &facts)
 {
     std::vector<LogChange> changes;
-    for (PhotoDifference &photo : comparePhotos(before, after).differences) {
+    const PhotoComparison photos = comparePhotos(before, after);
+    for (const PhotoDifference &photo : photos.differences) {
         const bool isInBoth = photo.before && photo.after;
         changes.push_back({photo, isInBoth ? facts.differing(*photo.before, *photo.after)
                                            : std::vector<std::string>()});
@@ -163,19 +165,18 @@ std::vector<LogChange> snapshotChanges(const AssetList &before, const AssetList 
 void addOtherChanges(const AssetList &before, const AssetList &after, const FactComparison &facts,
                      std::vector<LogChange> &changes)
 {
-    std::set<const Appearance *> known;
+    std::set<RecordNumber> known;
     for (const LogChange &change : changes)
         if (change.photo.after)
-            known.insert(change.photo.after->begin());
-    const std::vector<Place> places = partners(before, after);
-    for (std::size_t i = 0; i < after.size(); ++i) {
-        if (!places[i] || known.count(after[i].begin()) != 0)
+            known.insert(change.photo.after->number());
+    for (const AssetMatch &match : partners(before, after)) {
+        if (known.count(match.after) != 0)
             continue;
-        const Asset old = before[*places[i]];
-        std::vector<std::string> differing = facts.differing(old, after[i]);
+        const Asset old = before.at(match.before);
+        const Asset now = after.at(match.after);
+        std::vector<std::string> differing = facts.differing(old, now);
         if (!differing.empty())
-            changes.push_back(
-                {{old, after[i], {Change::Changed}, {}, {}, {}}, std::move(differing)});
+            changes.push_back({{old, now, {Change::Changed}, {}, {}, {}}, std::move(differing)});
     }
 }
 
