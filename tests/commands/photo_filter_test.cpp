@@ -106,12 +106,12 @@ TEST(ToolPhotoFilters, TrashedEarlierThanWithinTheDaysDoesNotFit)
 TEST(ToolPhotoFilters, MayFitNothing)
 {
     const ManyKinds many;
-    const std::vector<std::vector<std::string>> filters = {
+    const std::vector<std::vector<std::string>> combined = {
         {"--since", "yesterday"},
         {"--name", "*.JP"},
         {"--where", "null"},
         {"--uuid", many.uuidOfTheFirst(), "--kind", "live"}};
-    for (std::vector<std::string> filter : filters) {
+    for (std::vector<std::string> filter : combined) {
         filter.insert(filter.end(), {"--fields", "fileName"});
         const ToolRun run = runOn(many.library(), "photos", filter);
         EXPECT_EQ(run.out, "fileName\n");

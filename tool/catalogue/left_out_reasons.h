@@ -5,6 +5,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <numeric>
 
 namespace iosphoto::tool {
 
@@ -58,6 +60,11 @@ struct RowAccount
     std::int64_t leftOutFor(Reason reason) const
     {
         return leftOut[static_cast<std::size_t>(reason)];
+    }
+    /// The rows that are neither listed nor left out for a reason.
+    std::int64_t unexplained() const
+    {
+        return std::accumulate(leftOut.begin(), leftOut.end(), rows - listed, std::minus<>());
     }
     void leaveOut(Reason reason) { ++leftOut[static_cast<std::size_t>(reason)]; }
 };

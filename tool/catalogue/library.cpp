@@ -65,6 +65,13 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
         withoutLog_ = readWithoutLog(session, copy, asOf_.time, !account_ || leftOutOfTrash() > 0);
 }
 
+std::int64_t Library::unreadRows() const
+{
+    return account_ ? account_->photos.leftOutFor(PhotoReason::NotRead) +
+                          account_->albums.leftOutFor(AlbumReason::NotRead)
+                    : 0;
+}
+
 std::int64_t Library::leftOutOfTrash() const
 {
     if (request_.isCompared)

@@ -95,6 +95,8 @@ public:
     /// Nothing where the rows could not be counted, which uncounted() says then.
     const std::optional<Account> &account() const { return account_; }
     const std::string &uncounted() const { return uncounted_; }
+    /// How many rows of photos and albums damage or the end of the reading kept away.
+    std::int64_t unreadRows() const;
     /// How many assets were in the trash for too long; unless it is compared they are left out.
     std::int64_t leftOutOfTrash() const;
     /// If the request said so.
@@ -115,7 +117,7 @@ public:
     bool isComplete() const
     {
         return missing_.empty() && report_.firstStopped() == nullptr && uncounted_.empty() &&
-               !schema_.gap;
+               unreadRows() == 0 && !schema_.gap;
     }
 
 private:

@@ -1,7 +1,7 @@
 #include "catalogue/library_list.h"
 
-#include "input/private_copy.h"
 #include "schema/asset_tables.h"
+#include "schema/opened_copy.h"
 #include "sqlite/copy_database.h"
 
 #include <algorithm>
@@ -45,11 +45,16 @@ void look(Session &session, ListedLibrary &library, bool isInArchive)
         description.findings = source.missing();
         if (!isSmall(source))
             return;
-        const PrivateCopy copy(session, source);
-        library.assetCount = rowsIn({copy.database(), source.databaseName()});
+        const OpenedCopy copy(session, source, {});
+        description.findings = copy.missing();
+        library.assetCount = rowsIn(copy.connect());
     } catch (const SourceError &error) {
         description.findings.push_back(error.finding());
-    } catch (const Failure &) { // who reads the library is told
+    } catch (const SchemaError &) {
+        description.findings.push_back({SourceProblem::NoPhotoDatabase, {description.name}});
+    } catch (const Failure &failure) {
+        description.findings.push_back(
+            {SourceProblem::UncountedPhotos, {description.name, failure.what()}});
     }
 }
 

@@ -138,7 +138,10 @@ std::string whyNoLogChanges(const Library &library, const LogChanges *changes)
 {
     switch (library.log().state) {
     case LogState::Missing:
-        return translate("There is no write-ahead log (-wal).");
+        return library.isBareStream()
+                   ? translate("Whether there is a write-ahead log (-wal) is not known: none comes "
+                               "through standard input.")
+                   : translate("There is no write-ahead log (-wal).");
     case LogState::Empty:
         return translate("The write-ahead log (-wal) is empty: it has 0 bytes.");
     case LogState::NoLog:

@@ -3,6 +3,7 @@
 #include "catalogue/catalogue_build.h"
 #include "commands/problem_words.h"
 #include "commands/reading_stop.h"
+#include "sqlite/sqlite_error.h"
 #include "text/lists.h"
 #include "text/translate.h"
 #include "time/time_text.h"
@@ -34,14 +35,9 @@ std::string assumptions(const Library &library)
 /// What was assumed; empty if nothing.
 std::string infoOf(const Library &library)
 {
-    std::string line;
     if (library.schema().isAssumed() || !library.asOf().why.empty())
-        line = assumptions(library);
-    if (library.isBareStream())
-        line += (line.empty() ? "" : translate("; ")) +
-                translate("a write-ahead log (-wal) does not come through standard input, so what "
-                          "only that holds is not shown");
-    return line;
+        return assumptions(library);
+    return "";
 }
 
 /// What is left out and why; empty if nothing.
@@ -73,6 +69,10 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
         terminal.printWarning(label + inWords(*library.schema().warning).what());
     if (library.schema().gap)
         terminal.printWarning(label + inWords(*library.schema().gap).what());
+    if (library.isBareStream())
+        terminal.printWarning(
+            label + translate("a write-ahead log (-wal) does not come through standard input, so "
+                              "what only that holds is not shown"));
     for (const SourceFinding &finding : library.missing())
         terminal.printWarning(label + inWords(finding).what());
     if (library.log().state == LogState::Good && library.log().hasOpenChange)
@@ -82,6 +82,11 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
     for (const std::string &sentence :
          sentencesOf(library.report(), library.database(), library.rowLimit()))
         terminal.printWarning(label + sentence);
+    if (library.unreadRows() > 0 && library.report().firstStopped() == nullptr)
+        terminal.printWarning(label + translate("'{0}' is damaged: {1} of its rows could not be "
+                                                "read; {2}",
+                                                library.database(), library.unreadRows(),
+                                                adviceFor(IfDamaged::CopyLibraryAgain)));
     if (!library.uncounted().empty() && library.report().firstStopped() == nullptr)
         terminal.printWarning(label + library.uncounted());
 }

@@ -31,6 +31,13 @@ struct Wording
 constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::VanishedDatabase, CannotAccess,
      translatable("cannot read '{0}': it is not there any more; check the path")},
+    {SourceProblem::DatabaseIsCutShort, Incomplete,
+     translatable("'{0}' is cut short: {1} of its {2} bytes are there, so photos and albums may be "
+                  "missing; copy it from the device or the backup again, its -wal with it")},
+    {SourceProblem::UncountedPhotos, Incomplete,
+     translatable("the photos of '{0}' could not be counted: {1}")},
+    {SourceProblem::NoPhotoDatabase, Incomplete,
+     translatable("'{0}' is no photo database that can be read; 'iosphoto info' of it says why")},
     {SourceProblem::LogIsNoLog, Incomplete,
      translatable("the -wal of '{0}' is no write-ahead log, so changes that it was to hold are "
                   "missing; copy it from the device or the backup again, its -wal with it")},

@@ -9,6 +9,9 @@ namespace iosphoto::tool {
 /// file is named as a person finds it: one of an archive with the archive in front.
 enum class SourceProblem {
     VanishedDatabase,       ///< file
+    DatabaseIsCutShort,     ///< database, how many bytes, of how many
+    UncountedPhotos,        ///< source, why its photos could not be counted
+    NoPhotoDatabase,        ///< source, of which the name alone says that it is one
     LogIsNoLog,             ///< database; its -wal is something else
     LogIsDamaged,           ///< database, the commits that are good, those that there are at least
     LogIsCutShort,          ///< database, the commits that are good

@@ -1,5 +1,7 @@
 #include "schema/opened_copy.h"
 
+#include "sqlite/database_size.h"
+
 namespace iosphoto::tool {
 
 namespace {
@@ -26,6 +28,10 @@ OpenedCopy::OpenedCopy(Session &session, const Source &source, const Device &wan
 {
     if (const auto missing = missingOf(copy_.log(), shownName_))
         missing_.push_back(*missing);
+    const auto cut = cutOf(copy_.database());
+    if (cut && !copy_.log().isApplied()) // a log may hold the rest
+        missing_.push_back({SourceProblem::DatabaseIsCutShort,
+                            {shownName_, std::to_string(cut->size), std::to_string(cut->whole)}});
 }
 
 CopyDatabase OpenedCopy::connect() const

@@ -1,40 +1,18 @@
 #include "input/backup/backup.h"
 
-#include "formats/big_endian.h"
 #include "input/backup/manifest_db.h"
 #include "input/backup/manifest_mbdb.h"
 #include "input/backup/stored_names.h"
+#include "sqlite/database_size.h"
 
 #include <algorithm>
-#include <array>
-#include <fstream>
-#include <string_view>
 
 namespace iosphoto::tool {
-
-namespace fs = std::filesystem;
 
 namespace {
 
 constexpr const char *database = backupIndexNames[0];
 constexpr const char *mbdb = backupIndexNames[1];
-
-/// The bytes that a database has by its header; nothing where that is cut off itself.
-std::optional<std::uint64_t> wholeSize(const fs::path &databaseFile)
-{
-    constexpr std::string_view magic = "SQLite format 3";
-    constexpr std::size_t headerSize = 100;
-    std::array<char, headerSize> header = {};
-    std::ifstream(databaseFile, std::ios::binary).read(header.data(), header.size());
-    const std::string_view bytes(header.data(), header.size());
-    const std::uint64_t pageSize = bigEndian(bytes.substr(16, 2));
-    constexpr std::uint64_t largestPage = 65536; // written as 1
-    const std::uint64_t pages = bigEndian(bytes.substr(28, 4));
-    const bool isHeader = bytes.substr(0, magic.size()) == magic;
-    return isHeader && pages > 0
-               ? std::make_optional(pages * (pageSize == 1 ? largestPage : pageSize))
-               : std::nullopt;
-}
 
 } // namespace
 
@@ -108,12 +86,10 @@ bool Backup::isOfDamage(SourceProblem problem) const
 void Backup::noteDamagedIndex()
 {
     const std::string index = records_.shown(indexName_);
-    std::error_code ignored;
-    const std::uint64_t size = fs::file_size(records_.copyOf(indexName_), ignored);
-    const auto whole = indexName_ == database ? wholeSize(records_.copyOf(database)) : std::nullopt;
-    if (whole && size < *whole)
+    const auto cut = indexName_ == database ? cutOf(records_.copyOf(database)) : std::nullopt;
+    if (cut)
         missing_.push_back({SourceProblem::BackupWithShortIndex,
-                            {index, std::to_string(size), std::to_string(*whole)}});
+                            {index, std::to_string(cut->size), std::to_string(cut->whole)}});
     else
         missing_.push_back({SourceProblem::BackupWithDamagedIndex, {index}});
 }

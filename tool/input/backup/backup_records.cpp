@@ -99,6 +99,8 @@ void BackupRecords::read()
 void BackupRecords::readStatus()
 {
     const PropertyList status(copyOf(backupStatus));
+    if (status.isDamaged())
+        findings_.push_back({SourceProblem::DamagedPropertyList, {shown(backupStatus)}});
     if (!date_)
         date_ = status.time({"Date"});
     // "new" is what BackupState says of most that are finished.
@@ -106,7 +108,7 @@ void BackupRecords::readStatus()
     const std::string state = status.text({"BackupState"});
     if (!snapshot.empty())
         isFinished_ = snapshot == "finished";
-    else if (state == "empty")
+    else if (state == "empty" || state == "uploading")
         isFinished_ = false;
     if (isFinished_ == false)
         findings_.push_back({SourceProblem::UnfinishedBackup,

@@ -2,6 +2,7 @@
 
 #include "input/backup/stored_names.h"
 #include "input/source_problem.h"
+#include "sqlite/database_size.h"
 
 namespace iosphoto::tool {
 
@@ -32,6 +33,8 @@ ManifestDb::ManifestDb(const std::filesystem::path &copy, std::string shownName)
     if (std::filesystem::file_size(copy, ignored) == 0) // which SQLite takes for a database
         throw SourceError(SourceProblem::IndexIsCutShort, {database_.shownName()});
     sayingDamage([&] { requireIndex(); });
+    if (cutOf(copy)) // once a journal is rolled back
+        throw SourceError(SourceProblem::IndexIsDamaged, {database_.shownName()});
 }
 
 void ManifestDb::requireIndex() const
