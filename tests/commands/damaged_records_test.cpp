@@ -106,6 +106,13 @@ TEST_F(ToolDamagedIndex, ThatIsCutShortIsSaidWithItsSize)
                           "copy the whole backup again\n");
 }
 
+TEST_F(ToolDamagedIndex, ThatLacksALittleIsSaidToBeCutShort)
+{
+    const fs::path index = backupWithLargeIndex();
+    fs::resize_file(index, fs::file_size(index) - 100); // SQLite reads zeros there
+    expectReadWithWarning(" is cut short: ");
+}
+
 TEST_F(ToolDamagedIndex, ThatIsEmptyIsSaid)
 {
     fs::resize_file(backupWithLargeIndex(), 0);

@@ -24,6 +24,26 @@ TEST(ToolIncompleteSource, LogThatIsNoneIsSaid)
     EXPECT_EQ(run.status, 1);
 }
 
+TEST(ToolIncompleteSource, DatabaseThatLacksALittleIsSaid)
+{
+    LibraryBuilder library(ios15);
+    for (int i = 0; i < 100; ++i)
+        library.asset("IMG_" + std::to_string(i) + ".JPG");
+    library.execute("create table LAST as select 'x'");
+    library.close();
+    const auto whole = std::filesystem::file_size(library.path());
+    std::filesystem::resize_file(library.path(), whole - 500);
+
+    const ToolRun run = runOn(library, "info", {"--json"});
+
+    EXPECT_EQ(run.error, "iosphoto: '" + library.path() + "' is cut short: " +
+                             std::to_string(whole - 500) + " of its " + std::to_string(whole) +
+                             " bytes are there, so photos and albums may be missing; copy it from "
+                             "the device or the backup again, its -wal with it\n");
+    EXPECT_EQ(nlohmann::json::parse(run.out)["isComplete"], false);
+    EXPECT_EQ(run.status, 1);
+}
+
 TEST(ToolIncompleteSource, IsSaidOfItsStatementsToo)
 {
     LibraryBuilder library(ios15);

@@ -33,10 +33,18 @@ TEST_F(ToolStandardInput, IsADatabase)
     for (const char *const name : {"-", "/dev/stdin"}) {
         const ToolRun run = runToolOnPipe(database, {"albums", name});
         expectWhole(run);
-        EXPECT_THAT(run.error, HasSubstr(" (now, as standard input has no date); a write-ahead log "
-                                         "(-wal) does not come through standard input, so what "
-                                         "only that holds is not shown\n"));
+        EXPECT_THAT(run.error, HasSubstr(" (now, as standard input has no date)\n"));
+        EXPECT_THAT(runToolOnPipe(database, {"albums", name, "--quiet"}).error,
+                    HasSubstr("iosphoto: a write-ahead log (-wal) does not come through standard "
+                              "input, so what only that holds is not shown\n"));
     }
+}
+
+TEST_F(ToolStandardInput, LeavesOpenWhetherThereIsALog)
+{
+    EXPECT_THAT(runToolOnPipe(wholeDatabase(), {"info", "-"}).out,
+                HasSubstr("Whether there is a write-ahead log (-wal) is not known: none comes "
+                          "through standard input.\n"));
 }
 
 TEST_F(ToolStandardInput, IsASourceOfEachCommand)

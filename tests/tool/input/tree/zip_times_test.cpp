@@ -43,9 +43,9 @@ const std::string utcTimes = extraField(0x5455, "\1abcd");
 class ZipTimes : public testing::Test
 {
 protected:
-    bool isZoned(const std::string &zip, const std::string &path = "a/b") const
+    bool isZoned(const std::string &archive, const std::string &path = "a/b") const
     {
-        writeFile(file_, zip);
+        writeFile(file_, archive);
         return hasZonedTime(file_, path);
     }
 
@@ -81,11 +81,11 @@ TEST_F(ZipTimes, AreNotKnownOfWhatIsNotThere)
 
 TEST_F(ZipTimes, AreNotKnownOfAnArchiveThatIsCutShortAnywhere)
 {
-    const std::string zip = zipOf(utcTimes);
-    for (std::size_t size = 0; size < zip.size() - 2; ++size)
-        EXPECT_FALSE(isZoned(zip.substr(0, size))) << size;
-    for (std::size_t at = 0; at < zip.size(); ++at) // nor is anything beyond it read
-        (void)isZoned(zip.substr(at));
+    const std::string archive = zipOf(utcTimes);
+    for (std::size_t size = 0; size < archive.size() - 2; ++size)
+        EXPECT_FALSE(isZoned(archive.substr(0, size))) << size;
+    for (std::size_t at = 0; at < archive.size(); ++at) // nor is anything beyond it read
+        (void)isZoned(archive.substr(at));
 }
 
 TEST_F(ZipTimes, AreReadOfWhatOthersPack)
