@@ -192,6 +192,17 @@ TEST(Account, BalancesWhereRowsAreOnlyInAlbumsOrSynced)
     EXPECT_THAT(reasons(account["leftOut"]), IsEmpty());
 }
 
+TEST(Account, CountsAnAlbumThatIsShownAsListedWhateverItsKind)
+{
+    LibraryBuilder library(ios15);
+    const AlbumRow album = library.album("A");
+    library.asset("A.JPG").in(album);
+    library.execute("update ZGENERICALBUM set ZKIND = 1505");
+    const json account = accountOf(library);
+    EXPECT_EQ(account["albumsListed"], 1);
+    EXPECT_THAT(reasons(account["albumsLeftOut"]), IsEmpty());
+}
+
 TEST(Account, CountsFramesThatThePhotosCommandFolds)
 {
     LibraryBuilder library(ios15);

@@ -72,17 +72,17 @@ public:
     /// Nothing for a row that is in the catalogue.
     std::optional<AlbumReason> reasonFor(const QueryRow &row)
     {
+        const std::string uuid = uuidOf(row, Uuid);
+        if (unseen_.erase(uuid) > 0) {
+            listed_.insert(uuid);
+            return std::nullopt;
+        }
         if (const auto reason = otherKindOf(row, reading_.schema.numbers))
             return reason;
         if (isTrashed(row))
             return AlbumReason::Trashed;
         if (row.isNull(Title))
             return AlbumReason::WithoutTitle;
-        const std::string uuid = uuidOf(row, Uuid);
-        if (unseen_.erase(uuid) > 0) {
-            listed_.insert(uuid);
-            return std::nullopt;
-        }
         if (uuid.empty() || listed_.count(uuid) > 0)
             return AlbumReason::Repeated;
         return reading_.isWhole ? AlbumReason::Empty : AlbumReason::NotRead;

@@ -144,15 +144,26 @@ private:
     }
 
     /// Behind the last good frame are, in a sound log, frames of an earlier log that began at the
-    /// same place, or of a change that was given up.
+    /// same place, or of a change that was given up. Anything else is damage.
     void takeBehind(std::string_view bytes)
     {
         if (isOfThisLog(bytes))
             count(bytes, lostCommits_);
-        else if (bytes.size() == frameSize_ && !isBlank(bytes))
+        else if (isOfEarlierLog(bytes))
             isBehindEarlierLog_ = true;
-        const bool isTorn = bytes.size() < frameSize_ || isBlank(bytes);
-        isTorn_ = isTorn_ || (isTorn && (!isBehindEarlierLog_ || isOfThisLog(bytes)));
+        else if (!isBehindEarlierLog_)
+            isTorn_ = true;
+        isTorn_ = isTorn_ || (bytes.size() < frameSize_ && isOfThisLog(bytes));
+    }
+
+    /// SQLite counts the first salt up by one whenever it begins a log anew.
+    bool isOfEarlierLog(std::string_view bytes) const
+    {
+        constexpr std::uint32_t mostLogs = 1U << 20U;
+        if (bytes.size() < frame::sum)
+            return false;
+        const std::uint32_t logsBefore = bigEndian(salts_, 0) - bigEndian(bytes, frame::salts);
+        return logsBefore > 0 && logsBefore <= mostLogs;
     }
 
     /// A new log changes both salts, damage hardly does.
@@ -167,11 +178,6 @@ private:
         return salt(salts, 0) == salt(salts_, 0) || salt(salts, 1) == salt(salts_, 1);
     }
 
-    static bool isBlank(std::string_view bytes)
-    {
-        return bytes.substr(0, frame::size).find_first_not_of('\0') == std::string_view::npos;
-    }
-
     void count(std::string_view bytes, std::int64_t &commits)
     {
         isOpen_ = bigEndian(bytes, frame::commit) == 0;
@@ -183,7 +189,7 @@ private:
     Checksum sum_;
     bool isGood_ = true;              ///< all so far
     bool isOpen_ = false;             ///< the last of this log ends no commit
-    bool isTorn_ = false;             ///< the end of this log is cut off or blank
+    bool isTorn_ = false;             ///< this log goes on in what is no frame, or half of one
     bool isBehindEarlierLog_ = false; ///< which this one did not overwrite, so it ends before
     std::int64_t commits_ = 0;
     std::int64_t lostCommits_ = 0;

@@ -120,6 +120,19 @@ TEST_F(ToolWriteAheadLog, EndThatIsBlankIsDamage)
     EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 2, 0}));
 }
 
+TEST_F(ToolWriteAheadLog, EndThatIsNoFramesIsDamage)
+{
+    std::string log = log_;
+    log.replace(at(2), std::string::npos, log.size() - at(2), '\x9d');
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 2, 0}));
+    log = log_;
+    log.replace(at(frames() - 1), frameSize, frameSize, '\x9d');
+    EXPECT_EQ(read(log).state, LogState::Damaged);
+    log = log_.substr(0, at(1));
+    log.replace(at(0), frameSize, frameSize, '\x9d');
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 0, 0}));
+}
+
 TEST_F(ToolWriteAheadLog, ChangeWithoutACommitIsOpenAndNoDamage)
 {
     EXPECT_EQ(read(log_.substr(0, at(4))), (WriteAheadLog{LogState::Good, 3, 0, true}));
@@ -151,6 +164,13 @@ TEST_F(ToolWriteAheadLog, FramesOfAnEarlierLogBehindItAreNoDamage)
     EXPECT_TRUE(isGood());
     log.resize(log.size() - 100); // as with a limit for its size
     EXPECT_TRUE(isGood());
+    std::size_t own = 0; // frames with the salts of the header
+    while (log.substr(at(own) + 8, 8) == log.substr(16, 8))
+        ++own;
+    log.resize(at(own) + 100);
+    EXPECT_TRUE(isGood());
+    log.replace(at(own - 1), frameSize, frameSize, '\x9d');
+    EXPECT_EQ(read(log).state, LogState::Damaged);
 }
 
 TEST_F(ToolWriteAheadLog, AppliesAsManyCommitsAsSqlite)
