@@ -3,6 +3,7 @@
 #include "process/exit_status.h"
 #include "process/interruption_lock.h"
 #include "process/temporary_path.h"
+#include "terminal/hidden_input.h"
 #include "terminal/status_line.h"
 #include "text/translate.h"
 
@@ -33,7 +34,7 @@ sigset_t setOf(const std::vector<int> &signals)
 
 InterruptionWatch::InterruptionWatch(const Terminal &terminal) : terminal_(terminal)
 {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
         if (!isIgnored(signal))
             signals_.push_back(signal);
     if (signals_.empty())
@@ -64,6 +65,7 @@ void InterruptionWatch::waitForSignal() const
     if (isOver_)
         return;
     try {
+        stopHidingInput();
         removeTemporaryPaths();
         clearStatusLine(terminal_);
         terminal_.printError(translate("interrupted; every file that was written is complete"));

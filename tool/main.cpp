@@ -2,6 +2,7 @@
 #include "commands/command_line.h"
 #include "commands/general_options.h"
 #include "commands/help.h"
+#include "commands/passwords.h"
 #include "commands/problem_words.h"
 #include "commands/wrong_usage.h"
 #include "evidence/evidence.h"
@@ -49,8 +50,13 @@ int run(Session &session, int argumentCount, char **arguments)
     const Command commands[] = {addInfo(app),    addAlbums(app),     addPhotos(app), addDiff(app),
                                 addBackups(app), addStatements(app), addThumb(app)};
     std::optional<std::string> evidence;
-    for (const Command &command : commands)
+    Passwords passwords;
+    session.passwords = &passwords;
+    for (const Command &command : commands) {
         addEvidenceOption(*command.options, evidence);
+        if (command.opensBackups)
+            passwords.addOption(*command.options);
+    }
     app.footer(helpFooter({shortForms()}));
     addGeneralOptions(app, session.terminal, "iosphoto " IOSPHOTO_VERSION);
     const std::vector<std::string> commandLine(arguments, arguments + argumentCount);

@@ -60,7 +60,7 @@ Command addAlbums(CLI::App &app)
          exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {
                 return showAlbums(*request, session, out);
-            }};
+            }, true};
 }
 
 } // namespace iosphoto::tool

@@ -17,6 +17,7 @@ struct Command
 {
     CLI::App *options;
     std::function<ExitStatus(Session &, std::ostream &)> run;
+    bool opensBackups = false; ///< so that it takes their passwords
 };
 
 /// Each adds a command to the tool.

@@ -113,8 +113,11 @@ ExitStatus showDifference(const DiffRequest &request, Session &session, std::ost
     if (isStandardInput(request.before) && isStandardInput(request.after))
         throw Failure(WrongUsage, translate("A and B cannot both be standard input; name a file "
                                             "for one of them"));
-    const Source first(session, request.before);
-    const Source second(session, request.after);
+    using Opening = Source::Opening;
+    Source first(session, request.before, Opening::Later); // both may need to make keys
+    Source second(session, request.after, Opening::Later);
+    first.open();
+    second.open();
     const Moment asOf = request.asOf.value_or(Moment{beforeAllTrash, ""});
     const Library before(session, compared(request.before, request.device, asOf), first);
     const Library after(session, compared(request.after, request.device, asOf), second);
@@ -174,7 +177,7 @@ Command addDiff(CLI::App &app)
                    "the README")}));
     return {command, [request](Session &session, std::ostream &out) {
                 return showDifference(*request, session, out);
-            }};
+            }, true};
 }
 
 } // namespace iosphoto::tool

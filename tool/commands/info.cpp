@@ -255,7 +255,7 @@ Command addInfo(CLI::App &app)
                     exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {
                 return showInfo(*request, session, out);
-            }};
+            }, true};
 }
 
 } // namespace iosphoto::tool

@@ -174,7 +174,7 @@ Command addPhotos(CLI::App &app)
          exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {
                 return showPhotos(*request, session, out);
-            }};
+            }, true};
 }
 
 } // namespace iosphoto::tool

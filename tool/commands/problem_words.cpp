@@ -89,11 +89,55 @@ constexpr Wording<SourceProblem> sourceWords[] = {
      translatable("cannot read '{0}': the archive holds it more than once; unpack it and name the "
                   "folder")},
     {SourceProblem::EncryptedBackup, EncryptedBackup,
-     translatable("'{0}' is an encrypted backup; make one without encryption, or decrypt it "
-                  "first")},
+     translatable("'{0}' is an encrypted backup and needs its password; name a file with it by "
+                  "--password-file, or set IOSPHOTO_BACKUP_PASSWORD")},
+    {SourceProblem::WrongPassword, EncryptedBackup,
+     translatable("the password is not that of the encrypted backup '{0}'; it is the one that was "
+                  "set where backups of the device are made, not its passcode")},
     {SourceProblem::UnknownEncryption, CannotAccess,
      translatable("cannot tell whether '{0}' is encrypted, as its {1} and {2} cannot be read; copy "
                   "the whole backup again")},
+    {SourceProblem::BackupWithoutKeyBag, CannotAccess,
+     translatable("cannot decrypt '{0}': its {1} holds no keys; copy the whole backup again")},
+    {SourceProblem::KeyBagIsCutShort, CannotAccess,
+     translatable("cannot decrypt the backup: the keys in '{0}' are damaged, as their part '{1}' is "
+                  "cut short; copy the whole backup again")},
+    {SourceProblem::KeyBagRepeats, CannotAccess,
+     translatable("cannot decrypt the backup: the keys in '{0}' are damaged, as their part '{1}' "
+                  "is there twice; copy the whole backup again")},
+    {SourceProblem::KeyBagLacks, CannotAccess,
+     translatable("cannot decrypt the backup: the keys in '{0}' are damaged, as their part '{1}' "
+                  "is missing or empty; copy the whole backup again")},
+    {SourceProblem::KeyBagHasOddPart, CannotAccess,
+     translatable("cannot decrypt the backup: the keys in '{0}' are damaged, as their part '{1}' "
+                  "has {2} bytes instead of {3}; copy the whole backup again")},
+    {SourceProblem::KeyBagHasOddRounds, CannotAccess,
+     translatable("cannot decrypt the backup: the part '{1}' of the keys in '{0}' asks for {2} "
+                  "rounds, and only 1 to {3} are carried out; copy the whole backup again")},
+    {SourceProblem::IndexKeyIsDamaged, CannotAccess,
+     translatable("cannot decrypt the index of the backup: its key in '{0}' is damaged; copy the "
+                  "whole backup again")},
+    {SourceProblem::FileWithoutRecord, Incomplete,
+     translatable("cannot decrypt '{0}' ({1} on the phone): the index of the backup does not say "
+                  "how; copy the whole backup again")},
+    {SourceProblem::FileKeyIsDamaged, Incomplete,
+     translatable("cannot decrypt '{0}' ({1} on the phone): its key in the index of the backup is "
+                  "damaged; copy the whole backup again")},
+    {SourceProblem::FileKeyOfDevice, Incomplete,
+     translatable("cannot decrypt '{0}' ({1} on the phone): keys of its protection class {2} never "
+                  "leave the phone; copy the file from there")},
+    {SourceProblem::FileWithoutClassKey, Incomplete,
+     translatable("cannot decrypt '{0}' ({1} on the phone): the backup has no key of its "
+                  "protection class {2}; copy the whole backup again")},
+    {SourceProblem::FileWithOddSize, Incomplete,
+     translatable("'{0}' ({1} on the phone) has {2} bytes, as the index of the backup says; it is "
+                  "taken as long as it is; copy the whole backup again")},
+    {SourceProblem::EncryptedFileIsCut, Incomplete,
+     translatable("'{0}' ({1} on the phone) is cut short: {2} of its {3} bytes are there; copy the "
+                  "whole backup again")},
+    {SourceProblem::EncryptedFileIsDamaged, Incomplete,
+     translatable("'{0}' ({1} on the phone) is damaged: its decrypted end is not what an encrypted "
+                  "file ends in; copy the whole backup again")},
     {SourceProblem::BackupWithoutLibrary, WrongKindOfFile,
      translatable("'{0}' is a backup without a photo library: {1} does not list {2}; make one of "
                   "the whole device")},
@@ -317,12 +361,22 @@ Failure inWords(const Finding<OutputProblem> &finding)
     return wordsFor(outputWords, finding);
 }
 
+namespace {
+
+/// Of what ends a command. What is only missing elsewhere was all that there was.
+Failure fatal(const Failure &failure)
+{
+    return failure.status() == Incomplete ? Failure(CannotAccess, failure.what()) : failure;
+}
+
+} // namespace
+
 ExitStatus runWithWords(const std::function<ExitStatus()> &command)
 {
     try {
         return command();
     } catch (const SourceError &error) {
-        throw inWords(error.finding());
+        throw fatal(inWords(error.finding()));
     } catch (const SchemaError &error) {
         throw inWords(error.finding());
     } catch (const OutputError &error) {

@@ -228,7 +228,7 @@ Command addStatements(CLI::App &app)
                     exitCodesOfALibrary()}));
     return {command, [request](Session &session, std::ostream &out) {
                 return showStatements(*request, session, out);
-            }};
+            }, true};
 }
 
 } // namespace iosphoto::tool

@@ -163,6 +163,8 @@ std::vector<std::string> namesOf(const Options &options)
 {
     std::vector<std::string> names;
     for (const CLI::Option *option : options) {
+        if (option->get_group().empty()) // hidden
+            continue;
         for (const std::string &name : option->get_lnames())
             names.push_back("--" + name);
         for (const std::string &name : option->get_snames())

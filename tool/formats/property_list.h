@@ -1,12 +1,12 @@
 #ifndef IOSPHOTO_TOOL_PROPERTY_LIST_H
 #define IOSPHOTO_TOOL_PROPERTY_LIST_H
 
+#include "formats/property_list_node.h"
 #include "time/epochs.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <initializer_list>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -25,7 +25,7 @@ public:
     explicit PropertyList(const std::string &content);
 
     /// Whether there is something that cannot be read as a property list.
-    bool isDamaged() const { return isThere_ && root_ == nullptr; }
+    bool isDamaged() const { return isThere_ && tree_ == nullptr; }
 
     /// Empty when there is no such text.
     std::string text(Keys keys) const;
@@ -33,12 +33,14 @@ public:
     bool isTrue(Keys keys) const;
     std::optional<std::int64_t> integer(Keys keys) const;
     std::optional<UnixTime> time(Keys keys) const;
+    /// Bytes.
+    std::optional<std::string> data(Keys keys) const;
 
 private:
-    void *find(Keys keys) const;
+    PropertyListNode find(Keys keys) const;
 
     bool isThere_;
-    std::unique_ptr<void, void (*)(void *)> root_;
+    PropertyListTree tree_;
 };
 
 } // namespace iosphoto::tool

@@ -4,6 +4,7 @@
 #include "input/source_problem.h"
 #include "time/epochs.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -56,9 +57,20 @@ public:
 
     virtual SourceKind kind() const = 0;
 
+    /// Reads what takes long. To be called first; only kind() and device() may be asked before.
+    virtual void open() {}
+
     /// The path in the tree of a file that has this path below Media. Nothing where the layout has
     /// no place for it; the file itself may be missing all the same.
     virtual std::optional<std::string> locate(const std::string &mediaPath) const = 0;
+
+    /// Makes a copy of such a file what it was on the phone, where it was kept otherwise. One of
+    /// which that cannot be done is removed. Says what is missing of it.
+    virtual std::optional<SourceFinding> decrypt(const std::string & /*mediaPath*/,
+                                                 const std::filesystem::path & /*copy*/) const
+    {
+        return std::nullopt;
+    }
 
     virtual std::optional<RecordedDevice> device() const { return std::nullopt; }
     virtual DeviceIdentity identity() const { return {}; }

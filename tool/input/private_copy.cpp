@@ -10,7 +10,7 @@ PrivateCopy::PrivateCopy(Session &session, const Source &source)
 {
     source.announceReading(session.files);
     const BusyLine busy(session.terminal, translate("copying the database"));
-    source.copyDatabaseTo(folder_.path());
+    missing_ = source.copyDatabaseTo(folder_.path());
     forgetSuperJournal(database());
     log_ = readWriteAheadLog(database() + "-wal");
 }

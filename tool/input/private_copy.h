@@ -20,6 +20,9 @@ public:
 
     std::string database() const { return (folder_ / Source::databaseFile).string(); }
 
+    /// What the copy lacks, though the source has it.
+    const std::vector<SourceFinding> &missing() const { return missing_; }
+
     /// The write-ahead log that came with it.
     const WriteAheadLog &log() const { return log_; }
 
@@ -28,6 +31,7 @@ public:
 
 private:
     PrivateFolder folder_;
+    std::vector<SourceFinding> missing_;
     WriteAheadLog log_;
 };
 

@@ -11,6 +11,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr const char *databaseSuffixes[] = {"", "-wal", "-journal"};
+
 /// Paths come from databases, which may say anything.
 bool staysBelowMedia(const std::string &mediaPath)
 {
@@ -20,18 +22,26 @@ bool staysBelowMedia(const std::string &mediaPath)
 
 } // namespace
 
-Source::Source(Session &session, const std::string &name) : place_(openPlace(session, name))
+Source::Source(Session &session, const std::string &name, Opening opening)
+    : place_(openPlace(session, name))
 {
     if (place_.database) {
         layout_ = std::make_unique<LoneDatabase>(*place_.database);
-        databaseName_ = isArchive() ? tree().shown(*place_.database) : name;
-        return;
+    } else {
+        const LibrarySearch search =
+            searchLibraries(session, tree(), place_.top, name, SeveralLibraries::mostCounted);
+        unsearched_ = search.unsearched;
+        layout_ = onlyLibrary(session, tree(), search, name);
     }
-    const LibrarySearch search =
-        searchLibraries(session, tree(), place_.top, name, SeveralLibraries::mostCounted);
-    unsearched_ = search.unsearched;
-    layout_ = onlyLibrary(session, tree(), search, name);
-    databaseName_ = tree().shown(databaseFiles().front().path);
+    if (opening == Opening::AtOnce)
+        open();
+}
+
+void Source::open()
+{
+    layout_->open();
+    const bool isNamed = place_.database && !isArchive();
+    databaseName_ = isNamed ? name() : tree().shown(databaseFiles().front().path);
 }
 
 std::vector<SourceFinding> Source::missing() const
@@ -90,13 +100,13 @@ void Source::announceReading(FileUse &fileUse) const
 std::vector<FileToCopy> Source::databaseFiles() const
 {
     std::vector<FileToCopy> files;
-    for (const char *const suffix : {"", "-wal", "-journal"})
+    for (const char *const suffix : databaseSuffixes)
         if (const auto path = layout_->locate(std::string(databaseBelowMedia) + suffix))
             files.push_back({*path, std::string(databaseFile) + suffix});
     return files;
 }
 
-void Source::copyDatabaseTo(const fs::path &folder) const
+std::vector<SourceFinding> Source::copyDatabaseTo(const fs::path &folder) const
 {
     std::vector<FileToCopy> files = databaseFiles();
     for (FileToCopy &file : files)
@@ -104,6 +114,23 @@ void Source::copyDatabaseTo(const fs::path &folder) const
     tree().copyOut(files);
     if (!fs::exists(folder / databaseFile))
         throw SourceError(SourceProblem::VanishedDatabase, {databaseName_});
+    return decryptDatabase(folder);
+}
+
+std::vector<SourceFinding> Source::decryptDatabase(const fs::path &folder) const
+{
+    std::vector<SourceFinding> missing;
+    for (const char *const suffix : databaseSuffixes) {
+        const fs::path copy = folder / (std::string(databaseFile) + suffix);
+        const auto finding = fs::exists(copy)
+                                 ? layout_->decrypt(std::string(databaseBelowMedia) + suffix, copy)
+                                 : std::nullopt;
+        if (finding && copy.filename() == databaseFile && !fs::exists(copy))
+            throw SourceError(finding->kind, finding->facts);
+        if (finding)
+            missing.push_back(*finding);
+    }
+    return missing;
 }
 
 std::optional<std::string> Source::locate(const std::string &mediaPath) const
@@ -117,13 +144,19 @@ std::optional<FileFacts> Source::find(const std::string &mediaPath) const
     return path ? tree().find(*path) : std::nullopt;
 }
 
-void Source::copyOut(const std::vector<FileToCopy> &files) const
+std::vector<SourceFinding> Source::copyOut(const std::vector<FileToCopy> &files) const
 {
     std::vector<FileToCopy> located;
     for (const FileToCopy &file : files)
         if (const auto path = locate(file.path))
             located.push_back({*path, file.target});
     tree().copyOut(located);
+    std::vector<SourceFinding> missing;
+    for (const FileToCopy &file : files)
+        if (fs::exists(file.target))
+            if (const auto finding = layout_->decrypt(file.path, file.target))
+                missing.push_back(*finding);
+    return missing;
 }
 
 } // namespace iosphoto::tool

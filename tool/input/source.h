@@ -22,8 +22,14 @@ public:
     /// The name of the database in copyDatabaseTo().
     static constexpr const char *databaseFile = "Photos.sqlite";
 
+    enum class Opening { AtOnce, Later };
+
     /// Finds out what it is. Throws when that is nothing to read a library from.
-    Source(Session &session, const std::string &name);
+    /// @param opening  later, to have what takes long in the background for a while
+    Source(Session &session, const std::string &name, Opening opening = Opening::AtOnce);
+
+    /// To be called once, and before all below, when that was to be done later. Throws likewise.
+    void open();
 
     /// As the user named it.
     const std::string &name() const { return place_.name; }
@@ -53,22 +59,23 @@ public:
     void announceReading(FileUse &fileUse) const;
 
     /// Puts the database there, with the write-ahead log and journal that belong to it. Throws
-    /// when one cannot be read, or changes all the time.
-    void copyDatabaseTo(const std::filesystem::path &folder) const;
+    /// when one cannot be read, or changes all the time. Says what is missing of them.
+    std::vector<SourceFinding> copyDatabaseTo(const std::filesystem::path &folder) const;
 
     /// A file by its path below Media, such as "DCIM/100APPLE/IMG_0001.JPG"; nothing when the
     /// source does not have it.
     std::optional<FileFacts> find(const std::string &mediaPath) const;
 
     /// Copies such files, all at once as an archive is read from its beginning each time. Those
-    /// that are not there are passed over.
-    void copyOut(const std::vector<FileToCopy> &files) const;
+    /// that are not there are passed over. Says what is missing of the others.
+    std::vector<SourceFinding> copyOut(const std::vector<FileToCopy> &files) const;
 
 private:
     const FileTree &tree() const { return *place_.tree; }
     std::optional<std::string> locate(const std::string &mediaPath) const;
     /// Database, log and journal, as far as the source has a place for them.
     std::vector<FileToCopy> databaseFiles() const;
+    std::vector<SourceFinding> decryptDatabase(const std::filesystem::path &folder) const;
 
     Place place_;
     std::vector<SourceFinding> unsearched_;

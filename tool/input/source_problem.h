@@ -30,7 +30,22 @@ enum class SourceProblem {
     LinkedEntry,            ///< file
     RepeatedEntry,          ///< file
     EncryptedBackup,        ///< backup
+    WrongPassword,          ///< backup
     UnknownEncryption,      ///< backup, its property list, its index
+    BackupWithoutKeyBag,    ///< backup, its property list
+    KeyBagIsCutShort,       ///< file, part
+    KeyBagRepeats,          ///< file, part
+    KeyBagLacks,            ///< file, part
+    KeyBagHasOddPart,       ///< file, part, how many bytes it has, how many it is to have
+    KeyBagHasOddRounds,     ///< file, part, how many, how many there can be
+    IndexKeyIsDamaged,      ///< file that holds it
+    FileWithoutRecord,      ///< file, its path on the phone
+    FileKeyIsDamaged,       ///< file, its path on the phone
+    FileKeyOfDevice,        ///< file, its path on the phone, protection class
+    FileWithoutClassKey,    ///< file, its path on the phone, protection class
+    FileWithOddSize,        ///< file, its path on the phone, how many bytes
+    EncryptedFileIsCut,     ///< file, its path on the phone, how many bytes, of how many
+    EncryptedFileIsDamaged, ///< file, its path on the phone
     BackupWithoutLibrary,   ///< backup, its index, path of the database below Media
     BackupWithoutDatabase,  ///< backup, file, path of the database below Media
     BackupWithoutIndex,     ///< backup

@@ -26,6 +26,7 @@ OpenedCopy::OpenedCopy(Session &session, const Source &source, const Device &wan
       schema_(probe(connect(), wanted, source.device().value_or(RecordedDevice()))),
       missing_(source.missing())
 {
+    missing_.insert(missing_.end(), copy_.missing().begin(), copy_.missing().end());
     if (const auto missing = missingOf(copy_.log(), shownName_))
         missing_.push_back(*missing);
     const auto cut = cutOf(copy_.database());

@@ -1,5 +1,7 @@
 #include "input/backup/backup.h"
 
+#include "formats/property_list.h"
+#include "input/backup/encrypted_file.h"
 #include "input/backup/manifest_db.h"
 #include "input/backup/manifest_mbdb.h"
 #include "input/backup/stored_names.h"
@@ -33,7 +35,24 @@ Backup::Backup(Session &session, const FileTree &tree, std::string folder)
       missing_(records_.findings())
 {
     if (records_.isEncrypted() == true)
-        throw SourceError(SourceProblem::EncryptedBackup, {tree_.shown(folder_)});
+        beginUnlocking(session);
+}
+
+void Backup::beginUnlocking(Session &session)
+{
+    const PropertyList manifest(records_.copyOf(backupManifest));
+    const auto keyBag = manifest.data({"BackupKeyBag"});
+    if (!keyBag)
+        throw SourceError(SourceProblem::BackupWithoutKeyBag,
+                          {tree_.shown(folder_), backupManifest});
+    unlocking_ = std::make_unique<Unlocking>(
+        session, KeyBag(*keyBag, records_.shown(backupManifest)), tree_.shown(folder_));
+}
+
+void Backup::open()
+{
+    if (unlocking_)
+        keys_ = unlocking_->finish();
     index_ = openIndex();
     requireDatabase();
     noteWhatIsMissing();
@@ -46,6 +65,8 @@ std::unique_ptr<BackupIndex> Backup::openIndex()
             indexName_ = name;
     if (indexName_.empty())
         return std::make_unique<StoredNames>(tree_, folder_);
+    if (keys_) // which are of no use without an index
+        return readIndex();
     try {
         return readIndex();
     } catch (const SourceError &error) {
@@ -63,13 +84,24 @@ std::unique_ptr<BackupIndex> Backup::readIndex()
 {
     std::unique_ptr<BackupIndex> index;
     if (indexName_ == database)
-        index = std::make_unique<ManifestDb>(records_.copyOf(database), records_.shown(database));
+        index = std::make_unique<ManifestDb>(records_.copyOf(database), records_.shown(database),
+                                             decryptIndex());
     else
         index = std::make_unique<ManifestMbdb>(records_.copyOf(mbdb), records_.shown(mbdb));
     for (const char *const suffix : {"", "-wal", "-journal"}) // which may meet damage too
         (void)index->locate(std::string(databaseBelowMedia) + suffix);
     listed_ = index->storedFiles();
     return index;
+}
+
+std::optional<EncryptedIndex> Backup::decryptIndex() const
+{
+    if (!keys_)
+        return std::nullopt;
+    const PropertyList manifest(records_.copyOf(backupManifest));
+    EncryptedIndex encryption(*keys_, manifest, records_.shown(backupManifest));
+    encryption.decrypt(records_.copyOf(database), records_.shown(database));
+    return encryption;
 }
 
 bool Backup::isOfDamage(SourceProblem problem) const
@@ -139,6 +171,16 @@ std::optional<std::string> Backup::locate(const std::string &mediaPath) const
 {
     const auto path = index_->locate(mediaPath);
     return path ? std::make_optional(joinedPath(folder_, *path)) : std::nullopt;
+}
+
+std::optional<SourceFinding> Backup::decrypt(const std::string &mediaPath,
+                                             const std::filesystem::path &copy) const
+{
+    if (!keys_)
+        return std::nullopt;
+    const std::string stored = tree_.shown(locate(mediaPath).value_or(folder_));
+    const auto record = index_->record(mediaPath);
+    return decryptStoredFile({stored, pathInDomain(mediaPath)}, record, *keys_, copy);
 }
 
 } // namespace iosphoto::tool

@@ -1,6 +1,8 @@
 #ifndef IOSPHOTO_TOOL_BACKUP_INDEX_H
 #define IOSPHOTO_TOOL_BACKUP_INDEX_H
 
+#include "input/backup/file_record.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,6 +21,9 @@ public:
     /// The path in the backup of a file that has this path below Media on the phone; nothing when
     /// the backup does not hold it.
     virtual std::optional<std::string> locate(const std::string &mediaPath) const = 0;
+
+    /// What it says besides of such a file; nothing when it says nothing that can be read.
+    virtual std::optional<FileRecord> record(const std::string &mediaPath) const = 0;
 
     /// The paths in the backup of all files below Media that it is to hold; none where there is no
     /// list of them.

@@ -12,6 +12,10 @@ constexpr const char *lookupStatement =
     "select fileID from Files where domain = ? and relativePath = ? "
     "and flags is not 2 and flags is not 4 limit 1"; // neither folders nor links
 
+constexpr const char *recordStatement =
+    "select file from Files where domain = ? and relativePath = ? "
+    "and flags is not 2 and flags is not 4 limit 1";
+
 /// The log's index is made anew by whoever opens the database.
 constexpr const char *listStatement =
     "select fileID from Files where domain = ? and relativePath like 'Media/%' "
@@ -26,8 +30,10 @@ bool isStoredName(const std::string &name)
 
 } // namespace
 
-ManifestDb::ManifestDb(const std::filesystem::path &copy, std::string shownName)
-    : database_(copy.string(), std::move(shownName), IfDamaged::CopyBackupAgain)
+ManifestDb::ManifestDb(const std::filesystem::path &copy, std::string shownName,
+                       std::optional<EncryptedIndex> encryption)
+    : database_(copy.string(), std::move(shownName), IfDamaged::CopyBackupAgain),
+      encryption_(std::move(encryption))
 {
     std::error_code ignored;
     if (std::filesystem::file_size(copy, ignored) == 0) // which SQLite takes for a database
@@ -58,18 +64,33 @@ void ManifestDb::sayingDamage(const std::function<void()> &read) const
     }
 }
 
-std::optional<std::string> ManifestDb::locate(const std::string &mediaPath) const
+std::optional<std::string> ManifestDb::lookUp(const char *statement,
+                                              const std::string &mediaPath) const
 {
-    std::optional<std::string> name;
+    std::optional<std::string> value;
     sayingDamage([&] {
-        database_.forEachRow(lookupStatement, [&](const QueryRow &row) { name = row.text(0); },
+        database_.forEachRow(statement, [&](const QueryRow &row) { value = row.text(0); },
                              {mediaDomain, pathInDomain(mediaPath)});
     });
+    return value;
+}
+
+std::optional<std::string> ManifestDb::locate(const std::string &mediaPath) const
+{
+    const auto name = lookUp(lookupStatement, mediaPath);
     if (!name)
         return std::nullopt;
     if (!isStoredName(*name))
         throw SourceError(SourceProblem::IndexNamesNoStoredFile, {database_.shownName(), *name});
     return inItsFolder(*name);
+}
+
+std::optional<FileRecord> ManifestDb::record(const std::string &mediaPath) const
+{
+    const auto stored = lookUp(recordStatement, mediaPath);
+    if (!stored)
+        return std::nullopt;
+    return readFileRecord(encryption_ ? encryption_->record(*stored) : *stored);
 }
 
 std::vector<std::string> ManifestDb::storedFiles() const

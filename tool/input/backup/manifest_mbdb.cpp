@@ -28,19 +28,17 @@ public:
     bool isAtEnd() { return in_.peek() == std::ifstream::traits_type::eof(); }
     bool isCutOff() const { return in_.fail(); }
 
-    unsigned number(int bytes)
+    std::uint64_t number(int bytes)
     {
-        std::array<char, sizeof(unsigned)> digits = {};
+        std::array<char, sizeof(std::uint64_t)> digits = {};
         in_.read(digits.data(), bytes);
-        return in_ ? static_cast<unsigned>(
-                         bigEndian({digits.data(), static_cast<std::size_t>(bytes)}))
-                   : 0;
+        return in_ ? bigEndian({digits.data(), static_cast<std::size_t>(bytes)}) : 0;
     }
 
     std::string text()
     {
-        constexpr unsigned none = 0xffff;
-        const unsigned size = number(2);
+        constexpr std::uint64_t none = 0xffff;
+        const std::uint64_t size = number(2);
         std::string value(size == none ? 0 : size, '\0');
         in_.read(value.data(), static_cast<std::streamsize>(value.size()));
         return value;
@@ -62,6 +60,7 @@ struct Record
     std::string domain;
     std::string path;
     unsigned mode;
+    FileRecord file;
 };
 
 Record readRecord(MbdbStream &stream)
@@ -71,15 +70,17 @@ Record readRecord(MbdbStream &stream)
     record.path = stream.text();
     stream.text(); // target of a link
     stream.text(); // hash of the content
-    stream.text(); // encryption key
-    record.mode = stream.number(2);
+    const std::string key = stream.text();
+    record.mode = static_cast<unsigned>(stream.number(2));
     constexpr int inode = 8;
     constexpr int owner = 4 + 4;
     constexpr int times = 3 * 4;
-    constexpr int size = 8;
-    constexpr int protectionClass = 1;
-    stream.skip(inode + owner + times + size + protectionClass);
-    for (unsigned properties = stream.number(1); properties > 0; --properties) {
+    stream.skip(inode + owner + times);
+    record.file.size = static_cast<std::int64_t>(stream.number(8));
+    const auto protectionClass = static_cast<std::uint32_t>(stream.number(1));
+    if (!key.empty())
+        record.file.key = {protectionClass, readWrappedKey(key).bytes};
+    for (std::uint64_t properties = stream.number(1); properties > 0; --properties) {
         stream.text();
         stream.text();
     }
@@ -105,22 +106,28 @@ ManifestMbdb::ManifestMbdb(const std::filesystem::path &file, const std::string 
         if (stream.isCutOff())
             throw SourceError(SourceProblem::IndexIsCutShort, {shownName});
         if (record.domain == mediaDomain && isFile(record))
-            paths_.insert(std::move(record.path));
+            files_.emplace(std::move(record.path), std::move(record.file));
     }
 }
 
 std::optional<std::string> ManifestMbdb::locate(const std::string &mediaPath) const
 {
-    if (paths_.count(pathInDomain(mediaPath)) == 0)
+    if (files_.count(pathInDomain(mediaPath)) == 0)
         return std::nullopt;
     return storedName(mediaPath);
+}
+
+std::optional<FileRecord> ManifestMbdb::record(const std::string &mediaPath) const
+{
+    const auto found = files_.find(pathInDomain(mediaPath));
+    return found != files_.end() ? std::make_optional(found->second) : std::nullopt;
 }
 
 std::vector<std::string> ManifestMbdb::storedFiles() const
 {
     std::vector<std::string> files;
     const std::string media = pathInDomain("");
-    for (const std::string &path : paths_)
+    for (const auto &[path, file] : files_)
         if (path.rfind(media, 0) == 0)
             files.push_back(storedName(path.substr(media.size())));
     return files;

@@ -5,7 +5,7 @@
 #include "input/source_problem.h"
 
 #include <filesystem>
-#include <set>
+#include <map>
 
 namespace iosphoto::tool {
 
@@ -18,10 +18,11 @@ public:
     ManifestMbdb(const std::filesystem::path &file, const std::string &shownName);
 
     std::optional<std::string> locate(const std::string &mediaPath) const override;
+    std::optional<FileRecord> record(const std::string &mediaPath) const override;
     std::vector<std::string> storedFiles() const override;
 
 private:
-    std::set<std::string> paths_; ///< in the domain
+    std::map<std::string, FileRecord> files_; ///< by their paths in the domain
 };
 
 } // namespace iosphoto::tool

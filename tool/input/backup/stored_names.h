@@ -17,6 +17,10 @@ public:
     }
 
     std::optional<std::string> locate(const std::string &mediaPath) const override;
+    std::optional<FileRecord> record(const std::string & /*mediaPath*/) const override
+    {
+        return std::nullopt;
+    }
     std::vector<std::string> storedFiles() const override { return {}; }
 
 private:

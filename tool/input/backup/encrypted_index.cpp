@@ -1,0 +1,65 @@
+#include "input/backup/encrypted_index.h"
+
+#include "cipher/cbc_decryption.h"
+#include "input/backup/encrypted_file.h"
+#include "input/backup/file_record.h"
+#include "input/source_problem.h"
+
+#include <fstream>
+
+namespace iosphoto::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool isDatabase(const fs::path &file)
+{
+    constexpr std::string_view magic = "SQLite format 3";
+    std::string begin(magic.size(), '\0');
+    std::ifstream(file, std::ios::binary)
+        .read(begin.data(), static_cast<std::streamsize>(begin.size()));
+    return begin == magic;
+}
+
+bool isPropertyList(const std::string &bytes)
+{
+    return bytes.rfind("bplist", 0) == 0 || bytes.rfind("<?xml", 0) == 0;
+}
+
+} // namespace
+
+EncryptedIndex::EncryptedIndex(const ClassKeys &keys, const PropertyList &manifest,
+                               const std::string &shownName)
+{
+    const auto bytes = manifest.data({"ManifestKey"});
+    if (!bytes)
+        return;
+    key_ = keys.open(readWrappedKey(*bytes));
+    if (!key_)
+        throw SourceError(SourceProblem::IndexKeyIsDamaged, {shownName});
+}
+
+void EncryptedIndex::decrypt(const fs::path &copy, const std::string &shownName) const
+{
+    if (!key_ || isDatabase(copy))
+        return;
+    (void)decryptInPlace(copy, *key_, std::nullopt);
+    if (!isDatabase(copy))
+        throw SourceError(SourceProblem::IndexIsDamaged, {shownName});
+}
+
+std::string EncryptedIndex::record(const std::string &stored) const
+{
+    const bool isWhole = !stored.empty() && stored.size() % CbcDecryption::blockSize == 0;
+    if (isPropertyList(stored) || !key_ || !isWhole)
+        return stored;
+    std::string bytes = stored;
+    auto *const content = reinterpret_cast<unsigned char *>(bytes.data());
+    CbcDecryption(*key_).decrypt(content, bytes.size());
+    const auto padding = paddingOf(content, bytes.size());
+    bytes.resize(bytes.size() - padding.value_or(0));
+    return bytes;
+}
+
+} // namespace iosphoto::tool
