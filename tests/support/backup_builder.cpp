@@ -39,29 +39,41 @@ std::string dateKey(const std::string &name, std::int64_t time)
     return key(name, "<date>" + text.toStdString() + "</date>");
 }
 
-/// A number of the mbdb format, the most significant byte first.
-std::string bigEndian(std::uint64_t value, int bytes)
-{
-    std::string text;
-    for (int shift = 8 * (bytes - 1); shift >= 0; shift -= 8)
-        text += static_cast<char>(value >> shift & 0xffU);
-    return text;
-}
-
 std::string mbdbText(const std::string &text)
 {
     return bigEndian(text.size(), 2) + text;
 }
 
-std::string mbdbRecord(const std::string &mediaPath, unsigned mode)
+struct MbdbFile
+{
+    std::string mediaPath;
+    unsigned mode;
+    std::size_t size = 1234;
+    std::string key = {}; ///< empty where it is not encrypted
+    unsigned protectionClass = 3;
+};
+
+std::string mbdbRecord(const MbdbFile &file)
 {
     const std::string none = "\xff\xff";
     const std::string hash(20, 'h');
-    return mbdbText(domain) + mbdbText("Media/" + mediaPath) + none + mbdbText(hash) + none +
-           bigEndian(mode, 2) + bigEndian(7, 8) + bigEndian(501, 4) + bigEndian(501, 4) +
-           bigEndian(1'400'000'000, 4) + bigEndian(1'400'000'001, 4) + bigEndian(1'400'000'002, 4) +
-           bigEndian(1234, 8) + bigEndian(3, 1) + bigEndian(1, 1) + mbdbText("name") +
+    return mbdbText(domain) + mbdbText("Media/" + file.mediaPath) + none + mbdbText(hash) +
+           (file.key.empty() ? none : mbdbText(file.key)) + bigEndian(file.mode, 2) +
+           bigEndian(7, 8) + bigEndian(501, 4) + bigEndian(501, 4) + bigEndian(1'400'000'000, 4) +
+           bigEndian(1'400'000'001, 4) + bigEndian(1'400'000'002, 4) + bigEndian(file.size, 8) +
+           bigEndian(file.protectionClass, 1) + bigEndian(1, 1) + mbdbText("name") +
            mbdbText("value");
+}
+
+std::string hexadecimal(const std::string &bytes)
+{
+    return QByteArray::fromStdString(bytes).toHex().toStdString();
+}
+
+std::string dataKey(const std::string &name, const std::string &bytes)
+{
+    return key(name, "<data>" + QByteArray::fromStdString(bytes).toBase64().toStdString() +
+                         "</data>");
 }
 
 } // namespace
@@ -85,7 +97,7 @@ std::string propertyList(const std::string &xmlLines, bool isBinary)
 }
 
 BackupBuilder::BackupBuilder(fs::path folder, BackupOptions options)
-    : folder_(std::move(folder)), options_(std::move(options))
+    : folder_(std::move(folder)), options_(std::move(options)), encryption_(options_.encryption)
 {
     fs::create_directories(folder_);
 }
@@ -98,12 +110,17 @@ fs::path BackupBuilder::stored(const std::string &mediaPath) const
 
 BackupBuilder &BackupBuilder::add(const std::string &mediaPath, const std::string &content)
 {
-    paths_.insert(mediaPath);
+    sizes_[mediaPath] = content.size();
     if (options_.notStored.count(mediaPath) == 0) {
         fs::create_directories(stored(mediaPath).parent_path());
-        writeFile(stored(mediaPath), content);
+        writeFile(stored(mediaPath), asStored(mediaPath, content));
     }
     return *this;
+}
+
+std::string BackupBuilder::asStored(const std::string &mediaPath, const std::string &content) const
+{
+    return options_.isEncrypted ? encryption_.encrypted(mediaPath, content) : content;
 }
 
 BackupBuilder &BackupBuilder::add(const LibraryBuilder &library)
@@ -124,40 +141,51 @@ void BackupBuilder::finish() const
         writeLists();
 }
 
-std::set<std::string> BackupBuilder::listedPaths() const
+std::map<std::string, std::size_t> BackupBuilder::listed() const
 {
-    std::set<std::string> listed;
-    for (const std::string &path : paths_)
-        if (options_.notListed.count(path) == 0)
-            listed.insert(path);
+    std::map<std::string, std::size_t> listed = sizes_;
+    for (const std::string &path : options_.notListed)
+        listed.erase(path);
     return listed;
 }
 
 void BackupBuilder::writeDb() const
 {
-    if (options_.isEncrypted) {
-        writeFile(folder_ / "Manifest.db", std::string(4096, 'e'));
-        return;
+    const fs::path index = folder_ / "Manifest.db";
+    {
+        const SqliteConnection connection = openDatabase(index);
+        execute(connection, "pragma synchronous = off");
+        execute(connection, "create table Files (fileID text primary key, domain text, "
+                            "relativePath text, flags integer, file blob)");
+        execute(connection, "insert into Files values ('0000000000000000000000000000000000000000', '" +
+                                std::string(domain) + "', 'Media/PhotoData', 2, null)");
+        execute(connection, "insert into Files values ('1111111111111111111111111111111111111111', "
+                            "'HomeDomain', 'Media/PhotoData/Photos.sqlite', 1, null)");
+        for (const auto &[path, size] : listed()) {
+            const std::string record =
+                options_.isEncrypted
+                    ? "x'" + hexadecimal(encryption_.record(path, std::int64_t(size))) + "'"
+                    : "null";
+            execute(connection, "insert into Files values ('" + fileId(path) + "', '" + domain +
+                                    "', 'Media/" + path + "', 1, " + record + ")");
+        }
     }
-    const SqliteConnection connection = openDatabase(folder_ / "Manifest.db");
-    execute(connection, "pragma synchronous = off");
-    execute(connection, "create table Files (fileID text primary key, domain text, "
-                        "relativePath text, flags integer, file blob)");
-    execute(connection, "insert into Files values ('0000000000000000000000000000000000000000', '" +
-                            std::string(domain) + "', 'Media/PhotoData', 2, null)");
-    execute(connection, "insert into Files values ('1111111111111111111111111111111111111111', "
-                        "'HomeDomain', 'Media/PhotoData/Photos.sqlite', 1, null)");
-    for (const std::string &path : listedPaths())
-        execute(connection, "insert into Files values ('" + fileId(path) + "', '" + domain +
-                                "', 'Media/" + path + "', 1, null)");
+    if (options_.isEncrypted)
+        writeFile(index, encryption_.encryptedIndex(readFile(index)));
 }
 
 void BackupBuilder::writeMbdb() const
 {
     std::string content("mbdb\x05\x00", 6);
-    content += mbdbRecord("PhotoData", 0040755);
-    for (const std::string &path : listedPaths())
-        content += mbdbRecord(path, 0100644);
+    content += mbdbRecord({"PhotoData", 0040755});
+    for (const auto &[path, size] : listed()) {
+        MbdbFile file = {path, 0100644, size};
+        if (options_.isEncrypted) {
+            file.key = encryption_.wrappedKey(path);
+            file.protectionClass = options_.encryption.protectionClass;
+        }
+        content += mbdbRecord(file);
+    }
     writeFile(folder_ / "Manifest.mbdb", content);
 }
 
@@ -178,13 +206,22 @@ void BackupBuilder::writeLists() const
     writeFile(folder_ / "Manifest.plist",
               propertyList(key("IsEncrypted", options_.isEncrypted ? "<true/>" : "<false/>") +
                                dateKey("Date", options_.lastBackup) +
-                               key("Lockdown", "<dict>" + lockdown + "</dict>"),
+                               key("Lockdown", "<dict>" + lockdown + "</dict>") + keys(),
                            true));
     const std::string snapshot =
         options_.snapshotState.empty() ? "" : textKey("SnapshotState", options_.snapshotState);
     writeFile(folder_ / "Status.plist", propertyList(textKey("BackupState", options_.backupState) +
                                                          key("IsFullBackup", "<false/>") + snapshot,
                                                      true));
+}
+
+std::string BackupBuilder::keys() const
+{
+    if (!options_.isEncrypted)
+        return "";
+    const bool hasIndexKey = options_.encryption.index != EncryptionOptions::Index::Plain;
+    return dataKey("BackupKeyBag", encryption_.keyBag()) +
+           (hasIndexKey ? dataKey("ManifestKey", encryption_.indexKey()) : "");
 }
 
 fs::path writeBackup(const fs::path &folder, const LibraryBuilder &library,

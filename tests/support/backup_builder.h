@@ -1,10 +1,12 @@
 #ifndef IOSPHOTO_TESTS_BACKUP_BUILDER_H
 #define IOSPHOTO_TESTS_BACKUP_BUILDER_H
 
+#include "support/backup_encryption.h"
 #include "support/library_builder.h"
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
 #include <set>
 #include <string>
 
@@ -20,6 +22,7 @@ struct BackupOptions
 {
     BackupIndexKind index = BackupIndexKind::Db;
     bool isEncrypted = false;
+    EncryptionOptions encryption; ///< where it is
     bool hasBinaryInfo = false;
     std::string iosVersion = "17.4.1";
     std::string productType = "iPhone14,2";
@@ -53,14 +56,17 @@ public:
     const std::filesystem::path &folder() const { return folder_; }
 
 private:
-    std::set<std::string> listedPaths() const;
+    std::map<std::string, std::size_t> listed() const; ///< with their sizes
+    std::string asStored(const std::string &mediaPath, const std::string &content) const;
     void writeDb() const;
     void writeMbdb() const;
     void writeLists() const;
+    std::string keys() const; ///< lines of Manifest.plist
 
     std::filesystem::path folder_;
     BackupOptions options_;
-    std::set<std::string> paths_;
+    BackupEncryption encryption_;
+    std::map<std::string, std::size_t> sizes_; ///< by the paths below Media
 };
 
 /// The same in one go. Returns the folder.

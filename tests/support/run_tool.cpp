@@ -31,7 +31,7 @@ void setVariables(const Environment &environment)
 
 void useSignalsAsUsual()
 {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE})
         std::signal(signal, SIG_DFL);
     sigset_t none;
     sigemptyset(&none);
@@ -56,6 +56,7 @@ RunningTool::RunningTool(const std::vector<std::string> &arguments, const Enviro
 {
     if (process_ != 0)
         return;
+    setsid(); // away from the terminal of whoever runs the tests, which would be asked
     redirect("/dev/null", O_RDONLY, STDIN_FILENO);
     redirect((folder_ / "out").string(), O_WRONLY | O_CREAT, STDOUT_FILENO);
     redirect((folder_ / "error").string(), O_WRONLY | O_CREAT, STDERR_FILENO);
