@@ -8,7 +8,7 @@ if(IOSPHOTO_BUILD_TOOL)
     find_package(nlohmann_json 3.9 REQUIRED) # ordered_json
     find_package(fmt 8 REQUIRED) # runtime()
     find_package(LibArchive 3.3.3 REQUIRED) # zstd
-    find_package(OpenSSL 1.1 REQUIRED COMPONENTS Crypto) # EVP_MD_CTX_new()
+    find_package(OpenSSL 3.0 REQUIRED COMPONENTS Crypto) # EVP_KDF_fetch() in the sample
     find_package(PkgConfig REQUIRED)
     pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0>=2.2)
     pkg_check_modules(UTF8PROC REQUIRED IMPORTED_TARGET libutf8proc>=2.0) # grapheme breaks with a state
