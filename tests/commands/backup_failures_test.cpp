@@ -23,8 +23,8 @@ TEST_F(ToolBrokenBackup, Encrypted)
 {
     BackupOptions options;
     options.isEncrypted = true;
-    const std::string text = " is an encrypted backup; make one without encryption, or decrypt it "
-                             "first\n";
+    const std::string text = " is an encrypted backup and needs its password; name a file with it "
+                             "by --password-file, or set IOSPHOTO_BACKUP_PASSWORD\n";
     expectFailure(albumsOf(options), quoted(backup_) + text, 6);
     const fs::path archive = packed(backup_, folder_ / "backup", zip);
     expectFailure(albums(archive), quoted(archive) + text, 6);

@@ -52,7 +52,10 @@ TEST_F(ToolDamagedRecords, EncryptionThatIsANumber)
     writeBackup(backup_, library_);
     writeFile(backup_ / "Manifest.plist",
               propertyList("<key>IsEncrypted</key><integer>1</integer>"));
-    expectFailure(albums(backup_), quoted(backup_) + " is an encrypted backup", 6);
+    expectFailure(albums(backup_),
+                  "cannot decrypt " + quoted(backup_) +
+                      ": its Manifest.plist holds no keys; copy the whole backup again\n",
+                  3);
     writeFile(backup_ / "Manifest.plist",
               propertyList("<key>IsEncrypted</key><integer>0</integer>"));
     expectWhole(albums(backup_));

@@ -46,8 +46,8 @@ TEST_P(ToolEncryptedBackup, IsReadAsTheSameBackupUnencrypted)
     options.encryption.hasTwoDerivations = GetParam().hasTwoDerivations;
     const fs::path place = folder_ / "backup";
     const std::vector<std::vector<std::string>> commands = {
-        {"albums"}, {"albums", "--json"}, {"photos"}, {"photos", "--jsonl"}, {"photos", "--csv"},
-        {"info", "--json"}, {"statements"}};
+        {"albums"},          {"albums", "--json"}, {"photos"},    {"photos", "--jsonl"},
+        {"photos", "--csv"}, {"info", "--json"},   {"statements"}};
     std::vector<ToolRun> expected;
     writeBackup(place, library_, options);
     const auto run = [&](std::vector<std::string> arguments) {

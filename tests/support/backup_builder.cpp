@@ -72,8 +72,8 @@ std::string hexadecimal(const std::string &bytes)
 
 std::string dataKey(const std::string &name, const std::string &bytes)
 {
-    return key(name, "<data>" + QByteArray::fromStdString(bytes).toBase64().toStdString() +
-                         "</data>");
+    return key(name,
+               "<data>" + QByteArray::fromStdString(bytes).toBase64().toStdString() + "</data>");
 }
 
 } // namespace
@@ -157,8 +157,9 @@ void BackupBuilder::writeDb() const
         execute(connection, "pragma synchronous = off");
         execute(connection, "create table Files (fileID text primary key, domain text, "
                             "relativePath text, flags integer, file blob)");
-        execute(connection, "insert into Files values ('0000000000000000000000000000000000000000', '" +
-                                std::string(domain) + "', 'Media/PhotoData', 2, null)");
+        execute(connection,
+                "insert into Files values ('0000000000000000000000000000000000000000', '" +
+                    std::string(domain) + "', 'Media/PhotoData', 2, null)");
         execute(connection, "insert into Files values ('1111111111111111111111111111111111111111', "
                             "'HomeDomain', 'Media/PhotoData/Photos.sqlite', 1, null)");
         for (const auto &[path, size] : listed()) {

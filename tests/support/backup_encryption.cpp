@@ -53,8 +53,8 @@ std::string classKey(std::uint32_t protectionClass)
 std::string run(const EVP_CIPHER *cipher, const std::string &key, const unsigned char *vector,
                 const std::string &content)
 {
-    const std::unique_ptr<EVP_CIPHER_CTX, void (*)(EVP_CIPHER_CTX *)> context(
-        EVP_CIPHER_CTX_new(), EVP_CIPHER_CTX_free);
+    const std::unique_ptr<EVP_CIPHER_CTX, void (*)(EVP_CIPHER_CTX *)> context(EVP_CIPHER_CTX_new(),
+                                                                              EVP_CIPHER_CTX_free);
     EVP_CIPHER_CTX_set_flags(context.get(), EVP_CIPHER_CTX_FLAG_WRAP_ALLOW);
     require(EVP_EncryptInit_ex(context.get(), cipher, nullptr, bytesOf(key), vector) == 1);
     std::string result(content.size() + keySize, '\0');
@@ -96,7 +96,7 @@ std::string pbkdf2(const std::string &hash, const std::string &password, const s
     const std::unique_ptr<EVP_KDF, void (*)(EVP_KDF *)> kind(
         EVP_KDF_fetch(nullptr, "PBKDF2", nullptr), EVP_KDF_free);
     const std::unique_ptr<EVP_KDF_CTX, void (*)(EVP_KDF_CTX *)> context(EVP_KDF_CTX_new(kind.get()),
-                                                                       EVP_KDF_CTX_free);
+                                                                        EVP_KDF_CTX_free);
     std::string name = hash;
     std::string secret = password;
     std::string grain = salt;
@@ -170,11 +170,13 @@ std::string BackupEncryption::keyBag() const
     if (options_.hasTwoDerivations)
         key = pbkdf2("SHA256", key, firstSalt, options_.firstRounds, keySize);
     key = pbkdf2("SHA1", key, salt, options_.secondRounds, keySize);
-    KeyBagEntries entries = {
-        {"VERS", bigEndian(4, 4)},     {"TYPE", bigEndian(1, 4)},
-        {"UUID", uuid},                {"HMCK", std::string(40, 'h')},
-        {"WRAP", bigEndian(1, 4)},     {"SALT", salt},
-        {"ITER", bigEndian(options_.secondRounds, 4)}};
+    KeyBagEntries entries = {{"VERS", bigEndian(4, 4)},
+                             {"TYPE", bigEndian(1, 4)},
+                             {"UUID", uuid},
+                             {"HMCK", std::string(40, 'h')},
+                             {"WRAP", bigEndian(1, 4)},
+                             {"SALT", salt},
+                             {"ITER", bigEndian(options_.secondRounds, 4)}};
     if (options_.hasTwoDerivations) {
         entries.emplace_back("DPWT", bigEndian(1, 4));
         entries.emplace_back("DPIC", bigEndian(options_.firstRounds, 4));

@@ -19,8 +19,8 @@ void require(int success)
 CbcDecryption::CbcDecryption(const Secret &key) : context_(newCipherContext())
 {
     const std::array<unsigned char, blockSize> zeros = {};
-    require(EVP_DecryptInit_ex(context_.get(), EVP_aes_256_cbc(), nullptr, key.data(),
-                               zeros.data()));
+    require(
+        EVP_DecryptInit_ex(context_.get(), EVP_aes_256_cbc(), nullptr, key.data(), zeros.data()));
     require(EVP_CIPHER_CTX_set_padding(context_.get(), 0));
 }
 

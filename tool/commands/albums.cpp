@@ -58,9 +58,11 @@ Command addAlbums(CLI::App &app)
          examples({"iosphoto albums Photos.sqlite", "iosphoto albums Photos.sqlite --csv",
                    "iosphoto albums Photos.sqlite --fields name,count,bytes"}),
          exitCodesOfALibrary()}));
-    return {command, [request](Session &session, std::ostream &out) {
+    return {command,
+            [request](Session &session, std::ostream &out) {
                 return showAlbums(*request, session, out);
-            }, true};
+            },
+            true};
 }
 
 } // namespace iosphoto::tool

@@ -175,9 +175,11 @@ Command addDiff(CLI::App &app)
                    "iosphoto diff May/Photos.sqlite June/Photos.sqlite --json"}),
          translate("Exit: 0 same, 1 different, 2 wrong usage, 3 to 6 unusable files; see "
                    "the README")}));
-    return {command, [request](Session &session, std::ostream &out) {
+    return {command,
+            [request](Session &session, std::ostream &out) {
                 return showDifference(*request, session, out);
-            }, true};
+            },
+            true};
 }
 
 } // namespace iosphoto::tool

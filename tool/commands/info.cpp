@@ -253,9 +253,10 @@ Command addInfo(CLI::App &app)
         helpFooter({kindsOfTimes(),
                     examples({"iosphoto info Photos.sqlite", "iosphoto info backup.zip --json"}),
                     exitCodesOfALibrary()}));
-    return {command, [request](Session &session, std::ostream &out) {
-                return showInfo(*request, session, out);
-            }, true};
+    return {
+        command,
+        [request](Session &session, std::ostream &out) { return showInfo(*request, session, out); },
+        true};
 }
 
 } // namespace iosphoto::tool

@@ -34,9 +34,9 @@ std::string question(const std::string &backup, int attempt, bool mayRepeat)
         return translate("that is not its password; password of the encrypted backup '{0}', try "
                          "{1} of {2}: ",
                          backup, attempt + 1, mostTries);
-    return mayRepeat ? translate("password of the encrypted backup '{0}' (Enter: the same): ",
-                                 backup)
-                     : translate("password of the encrypted backup '{0}': ", backup);
+    return mayRepeat
+               ? translate("password of the encrypted backup '{0}' (Enter: the same): ", backup)
+               : translate("password of the encrypted backup '{0}': ", backup);
 }
 
 } // namespace

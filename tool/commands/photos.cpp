@@ -172,9 +172,11 @@ Command addPhotos(CLI::App &app)
                    "iosphoto photos Photos.sqlite --left-out",
                    "iosphoto photos Photos.sqlite --frames --sqlite photos.db"}),
          exitCodesOfALibrary()}));
-    return {command, [request](Session &session, std::ostream &out) {
+    return {command,
+            [request](Session &session, std::ostream &out) {
                 return showPhotos(*request, session, out);
-            }, true};
+            },
+            true};
 }
 
 } // namespace iosphoto::tool

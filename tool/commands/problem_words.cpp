@@ -92,7 +92,7 @@ constexpr Wording<SourceProblem> sourceWords[] = {
      translatable("'{0}' is an encrypted backup and needs its password; name a file with it by "
                   "--password-file, or set IOSPHOTO_BACKUP_PASSWORD")},
     {SourceProblem::WrongPassword, EncryptedBackup,
-     translatable("the password is not that of the encrypted backup '{0}'; it is the one that was "
+     translatable("no password given is that of the encrypted backup '{0}'; it is the one that was "
                   "set where backups of the device are made, not its passcode")},
     {SourceProblem::UnknownEncryption, CannotAccess,
      translatable("cannot tell whether '{0}' is encrypted, as its {1} and {2} cannot be read; copy "
@@ -100,8 +100,9 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::BackupWithoutKeyBag, CannotAccess,
      translatable("cannot decrypt '{0}': its {1} holds no keys; copy the whole backup again")},
     {SourceProblem::KeyBagIsCutShort, CannotAccess,
-     translatable("cannot decrypt the backup: the keys in '{0}' are damaged, as their part '{1}' is "
-                  "cut short; copy the whole backup again")},
+     translatable(
+         "cannot decrypt the backup: the keys in '{0}' are damaged, as their part '{1}' is "
+         "cut short; copy the whole backup again")},
     {SourceProblem::KeyBagRepeats, CannotAccess,
      translatable("cannot decrypt the backup: the keys in '{0}' are damaged, as their part '{1}' "
                   "is there twice; copy the whole backup again")},

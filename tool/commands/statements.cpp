@@ -226,9 +226,11 @@ Command addStatements(CLI::App &app)
                               "sqlite3 copy/Photos.sqlite < passes.sql",
                               "iosphoto statements --ios 17.4 --product iPhone14,2 --json"}),
                     exitCodesOfALibrary()}));
-    return {command, [request](Session &session, std::ostream &out) {
+    return {command,
+            [request](Session &session, std::ostream &out) {
                 return showStatements(*request, session, out);
-            }, true};
+            },
+            true};
 }
 
 } // namespace iosphoto::tool

@@ -28,24 +28,24 @@ Json orNull(const std::optional<Value> &value)
     return value ? Json(*value) : Json();
 }
 
-Json asJson(const FileState &state)
+Json stateAsJson(const FileState &state)
 {
     return {{"size", orNull(state.size)},
             {"modified", orNull(state.modified)},
             {"sha256", orNull(state.sha256)}};
 }
 
-Json asJson(const InputFile &input)
+Json inputAsJson(const InputFile &input)
 {
     Json entry = {{"path", input.path.string()}, {"pathBytes", bytesOrNull(input.path.string())}};
-    entry.update(asJson(input.before));
-    entry["after"] = input.after ? asJson(*input.after) : Json();
+    entry.update(stateAsJson(input.before));
+    entry["after"] = input.after ? stateAsJson(*input.after) : Json();
     entry["isUnchanged"] = input.isUnchanged();
     return entry;
 }
 
 /// It comes but once, so that there is nothing after it that could differ.
-Json asInput(const HashedStream &received)
+Json streamAsInput(const HashedStream &received)
 {
     return {{"path", nameOfStream},
             {"pathBytes", nullptr},
@@ -192,7 +192,7 @@ void Evidence::wrote(const fs::path &file, const QByteArray &content)
     outputs_[file.string()] = {static_cast<std::uint64_t>(content.size()), hash.digits()};
 }
 
-void Evidence::wroteWhole(const fs::path &file)
+Evidence::Content Evidence::contentOf(const fs::path &file) const
 {
     HashingProgress progress(session_.terminal, {file});
     const FileState state = stateOf(file, progress);
@@ -200,7 +200,17 @@ void Evidence::wroteWhole(const fs::path &file)
         throw Failure(CannotAccess,
                       translate("cannot read '{0}': {1}", file.string(),
                                 translate("it is not there any more; check the path")));
-    outputs_[file.string()] = {*state.size, *state.sha256};
+    return {*state.size, *state.sha256};
+}
+
+void Evidence::wroteWhole(const fs::path &file)
+{
+    outputs_[file.string()] = contentOf(file);
+}
+
+void Evidence::decrypted(const std::string &input, const fs::path &copy)
+{
+    decrypted_[input] = contentOf(copy);
 }
 
 void Evidence::received(const char *bytes, std::size_t size)
@@ -211,6 +221,17 @@ void Evidence::received(const char *bytes, std::size_t size)
 void Evidence::printed(const char *bytes, std::size_t size)
 {
     add(printed_, bytes, size);
+}
+
+Json Evidence::asJson(const std::map<std::string, Content> &contents)
+{
+    Json all = Json::array();
+    for (const auto &[path, content] : contents)
+        all.push_back({{"path", path},
+                       {"pathBytes", bytesOrNull(path)},
+                       {"size", content.size},
+                       {"sha256", content.sha256}});
+    return all;
 }
 
 Json Evidence::document(int exitStatus) const
@@ -227,18 +248,14 @@ Json Evidence::document(int exitStatus) const
                      {"finished", utcNow()}};
     Json &inputs = document["inputs"] = Json::array();
     if (received_)
-        inputs.push_back(asInput(*received_));
+        inputs.push_back(streamAsInput(*received_));
     for (const InputFile &input : inputs_)
-        inputs.push_back(asJson(input));
-    std::map<std::string, Output> outputs = outputs_;
+        inputs.push_back(inputAsJson(input));
+    document["decrypted"] = asJson(decrypted_);
+    std::map<std::string, Content> outputs = outputs_;
     if (printed_)
         outputs[nameOfStream] = {printed_->size, printed_->hash.digits()};
-    document["outputs"] = Json::array();
-    for (const auto &[path, output] : outputs)
-        document["outputs"].push_back({{"path", path},
-                                       {"pathBytes", bytesOrNull(path)},
-                                       {"size", output.size},
-                                       {"sha256", output.sha256}});
+    document["outputs"] = asJson(outputs);
     document["exitStatus"] = exitStatus;
     return document;
 }

@@ -52,7 +52,8 @@ public:
     void finish(int exitStatus);
 
 private:
-    struct Output
+    /// A whole file.
+    struct Content
     {
         std::uint64_t size = 0;
         std::string sha256;
@@ -63,8 +64,11 @@ private:
     void willWrite(const std::filesystem::path &file) override;
     void wrote(const std::filesystem::path &file, const QByteArray &content) override;
     void wroteWhole(const std::filesystem::path &file) override;
+    void decrypted(const std::string &input, const std::filesystem::path &copy) override;
     void printed(const char *bytes, std::size_t size) override;
 
+    Content contentOf(const std::filesystem::path &file) const;
+    static Json asJson(const std::map<std::string, Content> &contents);
     void readInputsAgain();
     Json document(int exitStatus) const;
 
@@ -74,7 +78,8 @@ private:
     std::string started_;
     FileSet sources_; ///< the inputs, and those that could not be read
     std::vector<InputFile> inputs_;
-    std::map<std::string, Output> outputs_; ///< by path; the last content of each
+    std::map<std::string, Content> decrypted_; ///< by the names of the inputs
+    std::map<std::string, Content> outputs_;   ///< by path; the last content of each
     std::optional<HashedStream> received_;
     std::optional<HashedStream> printed_;
 };

@@ -66,6 +66,12 @@ void FileUse::wroteWhole(const fs::path &file)
         observer_->wroteWhole(file);
 }
 
+void FileUse::decrypted(const std::string &input, const fs::path &copy)
+{
+    if (observer_ != nullptr)
+        observer_->decrypted(input, copy);
+}
+
 void FileUse::printed(const char *bytes, std::size_t size)
 {
     if (observer_ != nullptr)

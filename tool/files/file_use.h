@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <string>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -29,6 +30,9 @@ public:
     virtual void wrote(const std::filesystem::path &file, const QByteArray &content) = 0;
     /// The same of a file that was written piece by piece.
     virtual void wroteWhole(const std::filesystem::path &file) = 0;
+    /// An input, whose content the command reads in a copy of its own.
+    /// @param input  as messages name it
+    virtual void decrypted(const std::string &input, const std::filesystem::path &copy) = 0;
     /// On standard output.
     virtual void printed(const char *bytes, std::size_t size) = 0;
 };
@@ -61,6 +65,7 @@ public:
     void willWrite(const std::filesystem::path &file);
     void wrote(const std::filesystem::path &file, const QByteArray &content);
     void wroteWhole(const std::filesystem::path &file);
+    void decrypted(const std::string &input, const std::filesystem::path &copy);
     void printed(const char *bytes, std::size_t size);
 
 private:

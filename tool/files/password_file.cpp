@@ -18,8 +18,8 @@ constexpr std::size_t longest = 4096;
 
 Failure unreadable(const std::string &file)
 {
-    return {CannotAccess, translate("cannot read the password file '{0}': {1}; check the path", file,
-                                    systemError(errno))};
+    return {CannotAccess, translate("cannot read the password file '{0}': {1}; check the path",
+                                    file, systemError(errno))};
 }
 
 /// Byte by byte, as what follows may be for somebody else.

@@ -23,10 +23,7 @@ public:
     bool isEmpty() const { return size_ == 0; }
 
     Secret clone() const { return Secret(view()); }
-    std::string_view view() const
-    {
-        return {reinterpret_cast<const char *>(bytes_.get()), size_};
-    }
+    std::string_view view() const { return {reinterpret_cast<const char *>(bytes_.get()), size_}; }
 
 private:
     struct Wipe

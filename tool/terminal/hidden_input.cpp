@@ -35,6 +35,8 @@ public:
     ControllingTerminal &operator=(const ControllingTerminal &) = delete;
 
     bool isOpen() const { return descriptor_ >= 0; }
+    /// Whether a question would not stop the command, as it does one in the background.
+    bool isOurs() const { return isOpen() && tcgetpgrp(descriptor_) == getpgrp(); }
     int descriptor() const { return descriptor_; }
 
     void print(const std::string &text) const
@@ -100,7 +102,7 @@ public:
 std::optional<Secret> askForSecret(const std::string &question)
 {
     const ControllingTerminal terminal;
-    if (!terminal.isOpen())
+    if (!terminal.isOurs())
         return std::nullopt;
     std::optional<Secret> answer;
     {

@@ -30,7 +30,7 @@ bool isBackup(const FileTree &tree, const std::string &folder)
 }
 
 Backup::Backup(Session &session, const FileTree &tree, std::string folder)
-    : tree_(tree), folder_(std::move(folder)),
+    : fileUse_(session.files), tree_(tree), folder_(std::move(folder)),
       records_(session, tree_, folder_, BackupRecords::Extent::ListsAndIndex),
       missing_(records_.findings())
 {
@@ -100,7 +100,9 @@ std::optional<EncryptedIndex> Backup::decryptIndex() const
         return std::nullopt;
     const PropertyList manifest(records_.copyOf(backupManifest));
     EncryptedIndex encryption(*keys_, manifest, records_.shown(backupManifest));
-    encryption.decrypt(records_.copyOf(database), records_.shown(database));
+    const std::filesystem::path copy = records_.copyOf(database);
+    if (encryption.decrypt(copy, records_.shown(database)))
+        fileUse_.decrypted(records_.shown(database), copy);
     return encryption;
 }
 
@@ -180,7 +182,11 @@ std::optional<SourceFinding> Backup::decrypt(const std::string &mediaPath,
         return std::nullopt;
     const std::string stored = tree_.shown(locate(mediaPath).value_or(folder_));
     const auto record = index_->record(mediaPath);
-    return decryptStoredFile({stored, pathInDomain(mediaPath)}, record, *keys_, copy);
+    auto finding = decryptStoredFile({stored, pathInDomain(mediaPath)}, record, *keys_, copy);
+    std::error_code ignored;
+    if (record && record->key && std::filesystem::exists(copy, ignored))
+        fileUse_.decrypted(stored, copy);
+    return finding;
 }
 
 } // namespace iosphoto::tool

@@ -51,11 +51,12 @@ private:
     void noteWhatIsMissing();
     void noteMissingMedia();
 
+    FileUse &fileUse_;
     const FileTree &tree_;
     std::string folder_;
     BackupRecords records_;
-    std::unique_ptr<Unlocking> unlocking_; ///< of an encrypted backup
-    std::optional<ClassKeys> keys_;        ///< likewise, once it is open
+    std::unique_ptr<Unlocking> unlocking_;           ///< of an encrypted backup
+    std::optional<ClassKeys> keys_;                  ///< likewise, once it is open
     std::string indexName_;                          ///< empty when there is none
     std::optional<std::vector<std::string>> listed_; ///< in the index, if it could be read
     std::vector<SourceFinding> missing_;

@@ -17,8 +17,8 @@ struct DecryptedFile
 {
     enum class State {
         Whole,
-        CutShort,    ///< shorter than it is to be, but right so far
-        BadPadding,  ///< its end is damaged, or all of it
+        CutShort,   ///< shorter than it is to be, but right so far
+        BadPadding, ///< its end is damaged, or all of it
     };
 
     State state;

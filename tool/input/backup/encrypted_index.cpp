@@ -40,13 +40,14 @@ EncryptedIndex::EncryptedIndex(const ClassKeys &keys, const PropertyList &manife
         throw SourceError(SourceProblem::IndexKeyIsDamaged, {shownName});
 }
 
-void EncryptedIndex::decrypt(const fs::path &copy, const std::string &shownName) const
+bool EncryptedIndex::decrypt(const fs::path &copy, const std::string &shownName) const
 {
     if (!key_ || isDatabase(copy))
-        return;
+        return false;
     (void)decryptInPlace(copy, *key_, std::nullopt);
     if (!isDatabase(copy))
         throw SourceError(SourceProblem::IndexIsDamaged, {shownName});
+    return true;
 }
 
 std::string EncryptedIndex::record(const std::string &stored) const

@@ -16,9 +16,9 @@ KeyDerivation derivation(const KeyBagParts &bag, const std::string &shownName,
 {
     const std::uint32_t rounds = bag.number(roundsTag);
     if (rounds == 0 || rounds > KeyBag::mostRounds)
-        throw SourceError(SourceProblem::KeyBagHasOddRounds,
-                          {shownName, roundsTag, std::to_string(rounds),
-                           std::to_string(KeyBag::mostRounds)});
+        throw SourceError(
+            SourceProblem::KeyBagHasOddRounds,
+            {shownName, roundsTag, std::to_string(rounds), std::to_string(KeyBag::mostRounds)});
     return {hash, bag.bytes(saltTag), rounds};
 }
 
@@ -65,9 +65,9 @@ KeyBag::KeyBag(std::string_view bytes, const std::string &shownName)
         else if (key.size() == wrappedKeySize)
             classKeys_.push_back({protectionClass, key});
         else
-            throw SourceError(SourceProblem::KeyBagHasOddPart,
-                              {shownName, "WPKY", std::to_string(key.size()),
-                               std::to_string(wrappedKeySize)});
+            throw SourceError(
+                SourceProblem::KeyBagHasOddPart,
+                {shownName, "WPKY", std::to_string(key.size()), std::to_string(wrappedKeySize)});
     }
     if (classKeys_.empty())
         throw SourceError(SourceProblem::KeyBagLacks, {shownName, "WPKY"});
@@ -75,10 +75,9 @@ KeyBag::KeyBag(std::string_view bytes, const std::string &shownName)
 
 std::uint64_t KeyBag::rounds() const
 {
-    return std::accumulate(derivations_.begin(), derivations_.end(), std::uint64_t{0},
-                           [](std::uint64_t sum, const KeyDerivation &each) {
-                               return sum + each.rounds;
-                           });
+    return std::accumulate(
+        derivations_.begin(), derivations_.end(), std::uint64_t{0},
+        [](std::uint64_t sum, const KeyDerivation &each) { return sum + each.rounds; });
 }
 
 std::optional<ClassKeys> KeyBag::unlock(const Secret &password) const

@@ -28,9 +28,8 @@ Unlocking::Unlocking(Session &session, KeyBag keyBag, std::string backup)
 void Unlocking::begin(Secret password)
 {
     ++attempts_;
-    keys_ = std::async(std::launch::async, [this, password = std::move(password)] {
-        return keyBag_.unlock(password);
-    });
+    keys_ = std::async(std::launch::async,
+                       [this, password = std::move(password)] { return keyBag_.unlock(password); });
 }
 
 ClassKeys Unlocking::finish()

@@ -122,8 +122,8 @@ TEST(KeyBag, CutShortAnywhereIsRefusedOrHasFewerClasses)
 TEST(KeyBag, WithALengthBeyondItsEnd)
 {
     const std::string bag = bagOf({});
-    for (const std::uint64_t size : {std::uint64_t{1}, std::uint64_t{0x7fffffff},
-                                     std::uint64_t{0xffffffff}})
+    for (const std::uint64_t size :
+         {std::uint64_t{1}, std::uint64_t{0x7fffffff}, std::uint64_t{0xffffffff}})
         expectProblem(bag + "NEXT" + bigEndian(size, 4), SourceProblem::KeyBagIsCutShort, {"NEXT"});
     expectProblem(bag + "NEX", SourceProblem::KeyBagIsCutShort, {"NEX"});
 }
@@ -165,8 +165,7 @@ TEST(KeyBag, WithAnEmptyPart)
 TEST(KeyBag, WithANumberOfOddLength)
 {
     for (const char *tag : {"ITER", "DPIC", "CLAS"})
-        expectProblem(bagOf(with(tag, "12345")), SourceProblem::KeyBagHasOddPart,
-                      {tag, "5", "4"});
+        expectProblem(bagOf(with(tag, "12345")), SourceProblem::KeyBagHasOddPart, {tag, "5", "4"});
 }
 
 TEST(KeyBag, WithAWrappedKeyOfOddLength)
@@ -180,8 +179,7 @@ TEST(KeyBag, ThatAsksForTooManyRoundsOrNone)
 {
     for (const std::uint32_t rounds : {0U, 100'000'001U, 0x80000000U, 0xffffffffU})
         for (const char *tag : {"ITER", "DPIC"})
-            expectProblem(bagOf(with(tag, bigEndian(rounds, 4))),
-                          SourceProblem::KeyBagHasOddRounds,
+            expectProblem(bagOf(with(tag, bigEndian(rounds, 4))), SourceProblem::KeyBagHasOddRounds,
                           {tag, std::to_string(rounds), "100000000"});
 }
 
