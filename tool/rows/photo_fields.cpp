@@ -176,6 +176,8 @@ std::string kindsOf(const PhotoRow &row)
 std::vector<Field<Row>> viewsForPeople()
 {
     constexpr bool isFact = false;
+    Column reason("reason", Type::Text, translate("LEFT OUT"));
+    reason.isWhole = true;
     return {
         {{"pixels", Type::Text, translate("PIXELS"), Align::Right},
          [](const Row &row) { return Value(pixelsOf(row.facts)); },
@@ -186,7 +188,7 @@ std::vector<Field<Row>> viewsForPeople()
         {{"kinds", Type::Text, translate("WHAT")},
          [](const Row &row) { return Value(kindsOf(row)); },
          isFact},
-        {{"reason", Type::Text, translate("LEFT OUT")},
+        {reason,
          [](const Row &row) {
              return row.leftOutBecause ? Value(translateTerm(words(*row.leftOutBecause))) : Value();
          },
@@ -230,6 +232,7 @@ FieldTable<PhotoRow> photoFieldsOfLeftOut()
 {
     FieldTable<PhotoRow> table = photoFields();
     table.inTables = {"created", "path", "pixels", "fileSize", "what", "reason"};
+    table.spare = {"pixels", "fileSize", "what", "created"};
     return table;
 }
 
@@ -237,7 +240,7 @@ FieldTable<PhotoRow> photoFieldsWithLeftOut()
 {
     FieldTable<PhotoRow> table = photoFields();
     table.inTables.emplace_back("reason");
-    table.spare.emplace_back("what");
+    table.spare = {"pixels", "fileSize", "what", "created", "albums"};
     return table;
 }
 

@@ -47,6 +47,7 @@ struct Column
     Type type;
     std::string heading; ///< in tables; the key unless a word of the user's language stands there
     Align align;
+    bool isWhole = false;      ///< whether narrow tables cut other columns rather than this
     std::size_t spareRank = 0; ///< which one narrow tables do without first; 0: none do
 
 private:

@@ -42,8 +42,8 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
     for (const Column &column : columns)
         shown.push_back({column.heading, column.align,
                          column.type == Type::Path ? Elide::Left : Elide::Right,
-                         column.align == Align::Left && column.type != Type::Time &&
-                             column.type != Type::Source,
+                         column.align == Align::Left && !column.isWhole &&
+                             column.type != Type::Time && column.type != Type::Source,
                          column.type == Type::List, column.spareRank});
     table_.emplace(std::move(shown));
 }
