@@ -129,6 +129,7 @@ constexpr auto album = "Album";
 constexpr auto photoStreamAlbum = "PhotoStreamAlbum";
 constexpr auto sharedAlbum = "CloudSharedAlbum";
 constexpr auto project = "ProjectAlbum";
+constexpr auto folder = "Folder";
 } // namespace album_entity
 
 } // namespace iosphoto

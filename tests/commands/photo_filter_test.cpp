@@ -125,8 +125,9 @@ TEST(ToolPhotoFilters, UuidsThatNoPhotoHasAndNamesOfNoFileAreWrongUsage)
     const ManyKinds many;
     const std::string there = many.uuidOfTheFirst();
     expectFailure(runOn(many.library(), "photos", {"--uuid", there, "--uuid", "B1-C2"}),
-                  "no photo of the catalogue has the uuid 'B1-C2'; 'iosphoto photos " +
-                      many.library().path() + " --frames --fields uuid,path' lists them\n",
+                  "no photo of the database has the uuid 'B1-C2'; 'iosphoto photos " +
+                      many.library().path() +
+                      " --frames --with-left-out --fields uuid,path' lists them\n",
                   2);
     expectFailure(runOn(many.library(), "photos", {"--name", ""}), "--name: names no file", 2);
     expectFailure(runOn(many.library(), "photos", {"--uuid="}), "--uuid requires a value", 2);

@@ -137,8 +137,8 @@ PhotoReason reasonFor(const QueryRow &row, const ReadingFacts &reading)
     if (!isTaken(row.int32(SavedAs)))
         return PhotoReason::ReferencedElsewhere;
     if (isTrashedTooLong(row, reading.asOf))
-        return row.isNull(TrashedDate) ? PhotoReason::TrashedWithoutDate
-                                       : PhotoReason::TrashedTooLong;
+        return row.isNumber(TrashedDate) ? PhotoReason::TrashedTooLong
+                                         : PhotoReason::TrashedWithoutDate;
     if (row.text(FileName).empty())
         return PhotoReason::WithoutFileName;
     if (isFrame(row))
@@ -170,7 +170,7 @@ CPhotoData recordOf(const QueryRow &row)
     photo.addedTime = static_cast<double>(row.int64(Added));
     photo.dateText = dayOf(row);
     photo.thumbnailIndex = row.int32(ThumbnailIndex);
-    photo.isVideo = row.int32(Kind) != 0;
+    photo.isVideo = row.isNull(Kind) ? photo.duration > 0 : row.int32(Kind) != 0;
     photo.isFavorite = row.int32(Favorite) == FavoriteFlag::IsFavorite;
     photo.isHidden = row.int32(Hidden) == HiddenFlag::IsHidden;
     photo.isDeleted = row.int32(TrashedState) == iosphoto::TrashedState::InTrash;

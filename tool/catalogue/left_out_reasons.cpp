@@ -30,6 +30,7 @@ constexpr Names albumNames[] = {
     {"system",       translatable("of the system")},
     {"trashed",      translatable("in the trash")},
     {"withoutTitle", translatable("without a title")},
+    {"unknownTitle", translatable("of unknown title")},
     {"empty",        translatable("empty")},
     {"repeated",     translatable("without a uuid of its own")},
     {"notRead",      translatable("not read")},

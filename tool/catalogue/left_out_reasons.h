@@ -31,6 +31,7 @@ enum class AlbumReason {
     System, ///< one that the system keeps for itself, such as that of an import
     Trashed,
     WithoutTitle, ///< null, which is another thing than an empty one
+    UnknownTitle, ///< the table has none
     Empty,        ///< a photo stream that shows no photo
     Repeated,     ///< one without a uuid, or with that of another
     NotRead,

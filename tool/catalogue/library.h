@@ -117,7 +117,7 @@ public:
     bool isComplete() const
     {
         return missing_.empty() && report_.firstStopped() == nullptr && uncounted_.empty() &&
-               unreadRows() == 0 && !schema_.gap;
+               unreadRows() == 0 && schema_.gaps.empty();
     }
 
 private:

@@ -75,8 +75,9 @@ bool matchesTime(const PhotoFilter &filter, const Library &library, const Asset 
 
 bool matchesKinds(const PhotoFilter &filter, const Asset &asset)
 {
-    return filter.kinds.empty() || std::any_of(filter.kinds.begin(), filter.kinds.end(),
-                                               [&](const KindTest &test) { return test(asset); });
+    return filter.kinds.empty() ||
+           std::any_of(filter.kinds.begin(), filter.kinds.end(),
+                       [&](const PhotoKind *kind) { return kind->test(asset); });
 }
 
 bool matchesFlags(const PhotoFilter &filter, const Asset &asset)

@@ -114,10 +114,14 @@ void printAccount(const Library &library, const Summary &summary, const Screen &
     const auto addRows = [&](const std::string &what, const auto &account, auto reasonOf) {
         table.add({what, std::to_string(account.rows)});
         table.add({translate("- listed"), std::to_string(account.listed)});
-        for (std::size_t i = 0; i < account.leftOut.size(); ++i)
-            if (account.leftOut[i] > 0)
+        for (std::size_t i = 0; i < account.leftOut.size(); ++i) {
+            const std::int64_t count = account.leftOut[i];
+            const bool isKnown =
+                count > 0 || !library.schema().isUnknownReason(machineName(reasonOf(i)));
+            if (count > 0 || !isKnown)
                 table.add({translate("- left out: {0}", translateTerm(words(reasonOf(i)))),
-                           std::to_string(account.leftOut[i])});
+                           isKnown ? std::to_string(count) : translate("unknown")});
+        }
     };
     addRows(translate("photos"), library.account()->photos,
             [](std::size_t i) { return PhotoReason(i); });

@@ -30,25 +30,20 @@ Json timeOrNull(const std::optional<CoreDataTime> &time)
     return time ? tool::timeOrNull(*time) : Json();
 }
 
-template <typename Reason, std::size_t count>
-Json leftOut(const RowAccount<Reason, count> &account)
-{
-    Json counts;
-    for (std::size_t reason = 0; reason < count; ++reason)
-        counts[machineName(Reason(reason))] = account.leftOut[reason];
-    return counts;
-}
-
 Json accountOrNull(const Library &library, const Summary &summary)
 {
     if (!library.account())
         return {};
     const PhotoAccount &photos = library.account()->photos;
     const AlbumAccount &albums = library.account()->albums;
-    return {{"assetRows", photos.rows},        {"listed", photos.listed},
-            {"leftOut", leftOut(photos)},      {"foldedBurstFrames", summary.foldedFrames},
-            {"albumRows", albums.rows},        {"albumsListed", albums.listed},
-            {"albumsLeftOut", leftOut(albums)}};
+    const bool areBurstsKnown = !library.schema().isUnknown("burstFrames");
+    return {{"assetRows", photos.rows},
+            {"listed", photos.listed},
+            {"leftOut", photosLeftOut(library)},
+            {"foldedBurstFrames", areBurstsKnown ? Json(summary.foldedFrames) : Json()},
+            {"albumRows", albums.rows},
+            {"albumsListed", albums.listed},
+            {"albumsLeftOut", albumsLeftOut(library)}};
 }
 
 Json references(const std::vector<const CAlbumGroup *> &albums)

@@ -41,7 +41,7 @@ std::string infoOf(const Library &library)
 }
 
 /// What is left out and why; empty if nothing.
-std::string leftOutOf(const Library &library)
+std::string leftOutOf(const Library &library, Shown shown)
 {
     std::vector<std::string> parts;
     const auto add = [&](PhotoReason reason) {
@@ -52,23 +52,27 @@ std::string leftOutOf(const Library &library)
     if (library.account())
         for (std::size_t reason = 0; reason < photoReasonCount; ++reason)
             add(PhotoReason(reason));
-    return parts.empty() ? ""
-                         : translate("left out: {0}; iosphoto photos --left-out lists them",
-                                     listForPeople(parts));
+    if (parts.empty())
+        return "";
+    return shown == Shown::Listed
+               ? translate("left out: {0}; iosphoto photos --left-out lists them",
+                           listForPeople(parts))
+               : translate("left out: {0}", listForPeople(parts));
 }
 
 } // namespace
 
-void printHowItWasRead(const Terminal &terminal, const Library &library, const std::string &label)
+void printHowItWasRead(const Terminal &terminal, const Library &library, const std::string &label,
+                       Shown shown)
 {
     if (const std::string line = infoOf(library); !line.empty())
         terminal.printInfo(label + line);
-    if (const std::string line = leftOutOf(library); !line.empty())
+    if (const std::string line = leftOutOf(library, shown); !line.empty())
         terminal.printWarning(label + line);
     if (library.schema().warning)
         terminal.printWarning(label + inWords(*library.schema().warning).what());
-    if (library.schema().gap)
-        terminal.printWarning(label + inWords(*library.schema().gap).what());
+    for (const SchemaFinding &gap : library.schema().gaps)
+        terminal.printWarning(label + inWords(gap).what());
     if (library.isBareStream())
         terminal.printWarning(
             label + translate("a write-ahead log (-wal) does not come through standard input, so "

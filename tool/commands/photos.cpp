@@ -1,6 +1,8 @@
 #include "catalogue/album_kinds.h"
+#include "catalogue/asset_matching.h"
 #include "commands/command.h"
 #include "commands/help.h"
+#include "commands/known_fields.h"
 #include "commands/library_messages.h"
 #include "commands/library_options.h"
 #include "commands/option_values.h"
@@ -15,6 +17,8 @@
 #include "text/numbers.h"
 #include "text/printable.h"
 #include "text/translate.h"
+
+#include <algorithm>
 
 namespace iosphoto::tool {
 
@@ -43,11 +47,19 @@ std::vector<std::string> namesOf(const Library &library)
     return names;
 }
 
+bool isWithoutPhotos(const std::vector<const CAlbumGroup *> &albums)
+{
+    return std::all_of(albums.begin(), albums.end(),
+                       [](const CAlbumGroup *album) { return album->photos.empty(); });
+}
+
 /// The albums that fit one name. Throws Failure where there are none.
 std::vector<const CAlbumGroup *> albumsNamed(const std::string &name, const Library &library,
                                              const Terminal &terminal)
 {
     std::vector<const CAlbumGroup *> albums = matchingAlbums(library, name);
+    if (isWithoutPhotos(albums))
+        requireKnown("--album", fieldBehindAlbum(name), library);
     if (albums.empty())
         throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
                                             name, library.name()) +
@@ -71,14 +83,34 @@ std::vector<const CAlbumGroup *> albumsOf(const PhotoFilter &filter, const Libra
     return all;
 }
 
-void requireUuids(const PhotoFilter &filter, const std::vector<const AssetList *> &lists,
+/// Why a photo is left out; nothing where none has the uuid.
+std::optional<PhotoReason> reasonFor(const std::string &uuid, const AssetList &leftOut,
+                                     const Library &library)
+{
+    for (const Asset asset : leftOut)
+        if (comparable(asset.uuid()) == comparable(uuid))
+            return library.leftOutPhotos().reasonFor(asset);
+    return std::nullopt;
+}
+
+/// That every uuid that is asked for is one of a photo that the list may have.
+void requireUuids(const PhotoChoice &choice, const AssetList &assets, const AssetList &leftOut,
                   const Library &library)
 {
-    if (const std::string missing = missingUuid(filter, lists); !missing.empty())
-        throw Failure(WrongUsage, translate("no photo of the catalogue has the uuid '{0}'; "
-                                            "'iosphoto photos {1} --frames --fields uuid,path' "
-                                            "lists them",
+    const std::string notListed = missingUuid(choice.filter, {&assets});
+    const std::string missing = missingUuid(choice.filter, {&assets, &leftOut});
+    if (!missing.empty())
+        throw Failure(WrongUsage, translate("no photo of the database has the uuid '{0}'; "
+                                            "'iosphoto photos {1} --frames --with-left-out "
+                                            "--fields uuid,path' lists them",
                                             missing, library.name()));
+    if (choice.shown != Shown::Listed || notListed.empty())
+        return;
+    if (const auto reason = reasonFor(notListed, leftOut, library))
+        throw Failure(WrongUsage,
+                      translate("the photo with the uuid '{0}' is in the database, but left out: "
+                                "{1}; --with-left-out shows it",
+                                notListed, translateTerm(words(*reason))));
 }
 
 /// Whether a photo fulfils --where; empty where that is not given.
@@ -88,7 +120,16 @@ KindTest conditionOf(const PhotosRequest &request, const Library &library, const
         return {};
     const auto condition = std::make_shared<PhotoCondition>(
         *request.where, withUnknown(photoColumns(), library.schema().unknownFields));
+    for (const Field<PhotoRow> &field : condition->fields())
+        requireKnown("--where", field.column.key, library);
     return [condition, &rows](const Asset &photo) { return condition->isMetBy(rows.of(photo)); };
+}
+
+/// How many photos could be chosen.
+std::size_t countOf(Shown shown, const AssetList &assets, const AssetList &leftOut)
+{
+    return (shown == Shown::LeftOut ? 0 : assets.size()) +
+           (shown == Shown::Listed ? 0 : leftOut.size());
 }
 
 /// @param count  of the photos that could have been chosen
@@ -121,21 +162,22 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     if (request.where)
         PhotoCondition(*request.where, photoColumns()); // a mistake is said before the long reading
     const Shown shown = request.choice.shown;
-    request.library.keepsLeftOut = shown != Shown::Listed;
+    // A photo that is asked for by its uuid may be one of them.
+    request.library.keepsLeftOut = shown != Shown::Listed || !request.choice.filter.uuids.empty();
     const Library library(session, request.library);
+    printHowItWasRead(session.terminal, library, "", shown);
+    requireKnownFields(request.choice, library);
     const std::vector<const CAlbumGroup *> albums =
         albumsOf(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());
     const AssetList leftOut(library.leftOutPhotos().records());
-    requireUuids(request.choice.filter, {&assets, &leftOut}, library);
+    requireUuids(request.choice, assets, leftOut, library);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     request.choice.filter.isWanted = conditionOf(request, library, rows);
     const ChosenAssets photos = choosePhotos(request.choice, albums, library, assets, leftOut);
-    printHowItWasRead(session.terminal, library);
     if (photos.empty())
-        sayThatThereAreNone(shown, (shown == Shown::LeftOut ? 0 : assets.size()) + leftOut.size(),
-                            session.terminal);
+        sayThatThereAreNone(shown, countOf(shown, assets, leftOut), session.terminal);
     if (request.format.format == Format::Sqlite) {
         writePhotoDatabase(session.files, request.format.sqliteFile, library, photos, rows);
         out << translate("wrote {0}", printable(request.format.sqliteFile)) << '\n';

@@ -158,11 +158,12 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
                   "the Photos.sqlite of a phone or backup")},
     {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of no known schema: no iOS from {1} to {2} has these "
-                  "tables ({3}); look for a newer iosphoto, or send this output of 'iosphoto info' "
-                  "to its makers")},
+                  "tables ({3}); look for a newer iosphoto, or run 'iosphoto info' on it and send "
+                  "what that prints to the makers")},
     {SchemaProblem::NewerSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet ({2}); look "
-                  "for a newer iosphoto, or send this output of 'iosphoto info' to its makers")},
+                  "for a newer iosphoto, or run 'iosphoto info' on it and send what that prints to "
+                  "the makers")},
     {SchemaProblem::OtherDevice, SchemaDoesNotFit,
      translatable("'{0}' is a photo database, but not of iOS {1} and {2}; try --ios {3} --product "
                   "{4}")},
@@ -175,6 +176,31 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
     {SchemaProblem::MissingColumns, Incomplete,
      translatable("'{0}' has no {1}, so these fields are unknown, and albums that are made by them "
                   "may be wrong: {2}; look for a newer iosphoto")},
+    {SchemaProblem::UnknownOrigins, Incomplete,
+     translatable("'{0}' has no {1}, so photos of shared albums, photos referenced elsewhere and "
+                  "photos synced from a computer cannot be told from the user's own, and are "
+                  "listed as those; look for a newer iosphoto")},
+    {SchemaProblem::UnknownTrash, Incomplete,
+     translatable("'{0}' has no {1}, so deleted photos cannot be told from others, and are listed "
+                  "as those, also after 30 days; look for a newer iosphoto")},
+    {SchemaProblem::UnknownTrashDates, Incomplete,
+     translatable("'{0}' has no {1}, so it is not known which photos have been in Recently Deleted "
+                  "for 30 days, and all are listed; look for a newer iosphoto")},
+    {SchemaProblem::UnknownBursts, Incomplete,
+     translatable("'{0}' has no {1}, so the frames of a burst cannot be put together, and each is "
+                  "listed by itself; look for a newer iosphoto")},
+    {SchemaProblem::UnknownTitles, Incomplete,
+     translatable(
+         "'{0}' has no {1}, so the titles of albums are not known, and all albums that "
+         "people or computers made are left out, as are photos that only they show; look for a "
+         "newer iosphoto")},
+    {SchemaProblem::UnknownAlbumKinds, Incomplete,
+     translatable(
+         "'{0}' has no {1}, so albums of the system cannot be told from those of the user, "
+         "and are listed as those; look for a newer iosphoto")},
+    {SchemaProblem::UnknownAlbumTrash, Incomplete,
+     translatable("'{0}' has no {1}, so deleted albums cannot all be told from others, and may be "
+                  "listed as those; look for a newer iosphoto")},
 };
 
 constexpr Wording<OutputProblem> outputWords[] = {
@@ -215,7 +241,7 @@ constexpr bool hasAll(const Wording<Kind> (&wordings)[count], Kind last)
 }
 
 static_assert(hasAll(sourceWords, SourceProblem::IndexIsDamaged));
-static_assert(hasAll(schemaWords, SchemaProblem::MissingColumns));
+static_assert(hasAll(schemaWords, SchemaProblem::UnknownAlbumTrash));
 static_assert(hasAll(outputWords, OutputProblem::Unwritten));
 static_assert(hasAll(conditionWords, ConditionProblem::TooMuchWork));
 

@@ -33,11 +33,11 @@ struct Target
     NumberSource numbers;
     std::string assumption; ///< what was filled in that nobody named; empty if nothing was
     std::optional<SchemaFinding> warning;
-    std::optional<SchemaFinding> gap;
+    std::vector<SchemaFinding> gaps;
     std::vector<std::string> views; ///< that stand in for tables without all columns
     std::vector<SourceFinding> missing;
 
-    bool isComplete() const { return missing.empty() && !gap; }
+    bool isComplete() const { return missing.empty() && gaps.empty(); }
 };
 
 Target readTarget(const StatementsRequest &request, Session &session)
@@ -48,7 +48,7 @@ Target readTarget(const StatementsRequest &request, Session &session)
                      {schema.numbers, true},
                      {},
                      schema.warning,
-                     schema.gap,
+                     schema.gaps,
                      viewsWith(schema.missingColumns),
                      copy.missing()};
     if (schema.isAssumed())
@@ -187,8 +187,8 @@ void printHowTheyWereMade(const Terminal &terminal, const Target &target,
         terminal.printInfo(target.assumption);
     if (target.warning)
         terminal.printWarning(inWords(*target.warning).what());
-    if (target.gap)
-        terminal.printWarning(inWords(*target.gap).what());
+    for (const SchemaFinding &gap : target.gaps)
+        terminal.printWarning(inWords(gap).what());
     for (const SourceFinding &finding : target.missing)
         terminal.printWarning(inWords(finding).what());
 }

@@ -10,7 +10,14 @@ namespace iosphoto::tool {
 /// What every document of a library begins with: the source, and as what and when it was read.
 Json libraryHead(const Library &library);
 
-/// The same for rows of a library.
+/// How many rows of the table of photos, or of that of albums, are left out, by the reason; null
+/// where they could not be counted, and for a reason that a missing column would tell.
+/// @{
+Json photosLeftOut(const Library &library);
+Json albumsLeftOut(const Library &library);
+/// @}
+
+/// What documents of the rows of a library begin with.
 /// @param rows  what they are, such as "photos"
 RowsHead rowsHead(const std::string &rows, const Library &library);
 
