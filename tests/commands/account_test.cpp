@@ -329,6 +329,23 @@ TEST(LeftOutPhotos, ThatAreAskedForByUuidAreSaidWithTheReason)
         "fileName\nB.JPG\n");
 }
 
+TEST(LeftOutPhotos, AreNotChosenByWhatIsNotKnownOfThem)
+{
+    LibraryBuilder library(ios15);
+    library.asset("A.JPG").set("ZCAMERACAPTUREDEVICE", 1);
+    library.asset("B.JPG").set("ZCAMERACAPTUREDEVICE", 1).set("ZSAVEDASSETTYPE", 4);
+    const char *const line = "iosphoto: --kind chooses none of the photos that are left out, as "
+                             "isSelfie is not known of them\n";
+    const ToolRun leftOut = runOn(library, "photos", {"--left-out", "--kind", "selfie"});
+    EXPECT_THAT(leftOut.error, HasSubstr(line));
+    EXPECT_EQ(leftOut.out, "");
+    EXPECT_EQ(leftOut.status, 1);
+    const ToolRun both =
+        runOn(library, "photos", {"--with-left-out", "--kind", "selfie", "--fields", "fileName"});
+    EXPECT_THAT(both.error, HasSubstr(line));
+    EXPECT_EQ(both.out, "fileName\nA.JPG\n");
+}
+
 TEST(LeftOutPhotos, AreVideosAlsoWhereTheKindIsNotTold)
 {
     LibraryBuilder library(ios15);

@@ -480,7 +480,6 @@ const LostChoice lostChoices[] = {
     {{"--within", "9", "--deleted"}, "ZTRASHEDDATE", "trashed"},
     {{"--kind", "favorite"}, "ZFAVORITE", "isFavorite"},
     {{"--kind", "live,animated"}, "ZPLAYBACKSTYLE", "isAnimated"},
-    {{"--where", "width > 10 and isFavorite"}, "ZFAVORITE", "isFavorite"},
     {{"--album", "favorites"}, "ZFAVORITE", "isFavorite"},
     {{"--album", "Recently Deleted"}, "ZTRASHEDSTATE", "isDeleted"},
     {{"--sort", "duration"}, "ZDURATION", "duration"},

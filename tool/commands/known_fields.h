@@ -3,6 +3,7 @@
 
 #include "catalogue/library.h"
 #include "catalogue/photo_selection.h"
+#include "terminal/terminal.h"
 
 #include <string>
 
@@ -12,8 +13,14 @@ namespace iosphoto::tool {
 /// no such photos. Throws Failure that names the column.
 void requireKnown(const std::string &option, const std::string &field, const Library &library);
 
-/// The same for all that photos are chosen and sorted by, but their albums.
-void requireKnownFields(const PhotoChoice &choice, const Library &library);
+/// Warns that an expression takes a field for null in every photo, for want of its column.
+void sayThatItIsNull(const std::string &option, const std::string &field, const Library &library,
+                     const Terminal &terminal);
+
+/// The same as requireKnown() for all that photos are chosen and sorted by, but their albums. Also
+/// says what options cannot choose of the photos that are left out, of which less is known.
+void requireKnownFields(const PhotoChoice &choice, const Library &library,
+                        const Terminal &terminal);
 
 } // namespace iosphoto::tool
 

@@ -114,14 +114,15 @@ void requireUuids(const PhotoChoice &choice, const AssetList &assets, const Asse
 }
 
 /// Whether a photo fulfils --where; empty where that is not given.
-KindTest conditionOf(const PhotosRequest &request, const Library &library, const PhotoRows &rows)
+KindTest conditionOf(const PhotosRequest &request, const Library &library, const PhotoRows &rows,
+                     const Terminal &terminal)
 {
     if (!request.where)
         return {};
     const auto condition = std::make_shared<PhotoCondition>(
         *request.where, withUnknown(photoColumns(), library.schema().unknownFields));
     for (const Field<PhotoRow> &field : condition->fields())
-        requireKnown("--where", field.column.key, library);
+        sayThatItIsNull("--where", field.column.key, library, terminal);
     return [condition, &rows](const Asset &photo) { return condition->isMetBy(rows.of(photo)); };
 }
 
@@ -165,8 +166,7 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     // A photo that is asked for by its uuid may be one of them.
     request.library.keepsLeftOut = shown != Shown::Listed || !request.choice.filter.uuids.empty();
     const Library library(session, request.library);
-    printHowItWasRead(session.terminal, library, "", shown);
-    requireKnownFields(request.choice, library);
+    requireKnownFields(request.choice, library, session.terminal);
     const std::vector<const CAlbumGroup *> albums =
         albumsOf(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());
@@ -174,8 +174,9 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     requireUuids(request.choice, assets, leftOut, library);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
-    request.choice.filter.isWanted = conditionOf(request, library, rows);
+    request.choice.filter.isWanted = conditionOf(request, library, rows, session.terminal);
     const ChosenAssets photos = choosePhotos(request.choice, albums, library, assets, leftOut);
+    printHowItWasRead(session.terminal, library, "", shown);
     if (photos.empty())
         sayThatThereAreNone(shown, countOf(shown, assets, leftOut), session.terminal);
     if (request.format.format == Format::Sqlite) {
