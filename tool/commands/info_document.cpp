@@ -39,16 +39,22 @@ Json leftOut(const RowAccount<Reason, count> &account)
     return counts;
 }
 
+Json rowsOf(const Account &account)
+{
+    const PhotoAccount &photos = account.photos;
+    const AlbumAccount &albums = account.albums;
+    return {{"assetRows", photos.rows},      {"listed", photos.listed},
+            {"leftOut", leftOut(photos)},    {"albumRows", albums.rows},
+            {"albumsListed", albums.listed}, {"albumsLeftOut", leftOut(albums)}};
+}
+
 Json accountOrNull(const Library &library, const Summary &summary)
 {
     if (!library.account())
         return {};
-    const PhotoAccount &photos = library.account()->photos;
-    const AlbumAccount &albums = library.account()->albums;
-    return {{"assetRows", photos.rows},        {"listed", photos.listed},
-            {"leftOut", leftOut(photos)},      {"foldedBurstFrames", summary.foldedFrames},
-            {"albumRows", albums.rows},        {"albumsListed", albums.listed},
-            {"albumsLeftOut", leftOut(albums)}};
+    Json account = rowsOf(*library.account());
+    account["foldedBurstFrames"] = summary.foldedFrames;
+    return account;
 }
 
 Json references(const std::vector<const CAlbumGroup *> &albums)
@@ -74,6 +80,30 @@ void addChanges(Json &changes, const LogChange &logChange)
     }
 }
 
+Json reasonOrNull(const std::optional<PhotoReason> &reason)
+{
+    return reason ? Json(machineName(*reason)) : Json();
+}
+
+Json documentOf(const LeftOutChange &change)
+{
+    return {{"uuid", textOrNull(change.uuid)},
+            {"path", change.path},
+            {"before", reasonOrNull(change.before)},
+            {"after", reasonOrNull(change.after)},
+            {"changedFacts", change.facts}};
+}
+
+/// What the database says and holds without its log.
+Json documentOf(const WithoutLog &without)
+{
+    const StoreMetadata &metadata = without.schema.metadata;
+    return {{"schema", textOrNull(without.schema.name)},
+            {"modelVersion", metadata.modelVersion ? Json(*metadata.modelVersion) : Json()},
+            {"build", textOrNull(metadata.build)},
+            {"account", rowsOf(without.account)}};
+}
+
 Json logOrNull(const Library &library, const LogChanges *changes)
 {
     const WriteAheadLog &log = library.log();
@@ -81,19 +111,26 @@ Json logOrNull(const Library &library, const LogChanges *changes)
         return {};
     Json photos = Json::array();
     Json albums = Json::array();
+    Json leftOut = Json::array();
     if (changes != nullptr) {
         for (const LogChange &change : changes->photos())
             addChanges(photos, change);
+        for (const LeftOutChange &change : changes->leftOut())
+            leftOut.push_back(documentOf(change));
         albums = albumChanges(changes->albums());
     }
     return {{"state", machineName(log.state)},
             {"commits", log.commits},
             {"commitsAtLeast", log.commits + log.lostCommits},
             {"hasOpenChange", log.hasOpenChange},
+            {"endsInZeros", log.endsInZeros},
+            {"frames", log.frames},
             {"isCompared", !library.withoutLog() || library.withoutLog()->isRead},
             {"changes", std::move(photos)},
             {"albums", std::move(albums)},
-            {"isInOtherOrder", changes != nullptr && changes->isInOtherOrder()}};
+            {"leftOut", std::move(leftOut)},
+            {"isInOtherOrder", changes != nullptr && changes->hasOtherLists()},
+            {"without", changes != nullptr ? documentOf(*library.withoutLog()) : Json()}};
 }
 
 } // namespace
