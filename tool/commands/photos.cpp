@@ -15,6 +15,9 @@
 #include "text/numbers.h"
 #include "text/printable.h"
 #include "text/translate.h"
+#include "time/time_text.h"
+
+#include <functional>
 
 namespace iosphoto::tool {
 
@@ -106,6 +109,38 @@ void sayThatThereAreNone(Shown shown, std::size_t size, const Terminal &terminal
                     "none of the {0} photos fits; leave out an option to see more"));
 }
 
+void requireOrder(const PhotoFilter &filter)
+{
+    if (filter.since && filter.until && *filter.until < *filter.since)
+        throw Failure(WrongUsage,
+                      translate("--since ({0}) is later than --until ({1}), so no photo "
+                                "fits both; exchange them",
+                                localTimeText(*filter.since), localTimeText(*filter.until)));
+}
+
+/// Says how many photos a time leaves out for want of one of their own.
+/// @param choose  from the photos of the library
+void sayWhatHasNoTime(PhotoChoice choice,
+                      const std::function<ChosenAssets(const PhotoChoice &)> &choose,
+                      const Terminal &terminal)
+{
+    PhotoFilter &filter = choice.filter;
+    if (!filter.since && !filter.until)
+        return;
+    filter.since.reset();
+    filter.until.reset();
+    filter.isUndated = true;
+    choice.sorting = {};
+    const auto count = static_cast<std::int64_t>(choose(choice).size());
+    if (count > 0)
+        terminal.printWarning(counted(
+            count,
+            "{0} photo is not shown, as it has no time of creation, by which --since and --until "
+            "choose",
+            "{0} photos are not shown, as they have no time of creation, by which --since and "
+            "--until choose"));
+}
+
 FieldTable<PhotoRow> fieldsFor(const PhotoChoice &choice)
 {
     if (choice.shown == Shown::LeftOut)
@@ -120,6 +155,7 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     const auto fields = fieldsToShow(fieldsFor(request.choice), request.format);
     if (request.where)
         PhotoCondition(*request.where, photoColumns()); // a mistake is said before the long reading
+    requireOrder(request.choice.filter);
     const Shown shown = request.choice.shown;
     request.library.keepsLeftOut = shown != Shown::Listed;
     const Library library(session, request.library);
@@ -131,8 +167,12 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     request.choice.filter.isWanted = conditionOf(request, library, rows);
-    const ChosenAssets photos = choosePhotos(request.choice, albums, library, assets, leftOut);
+    const auto choose = [&](const PhotoChoice &choice) {
+        return choosePhotos(choice, albums, library, assets, leftOut);
+    };
+    const ChosenAssets photos = choose(request.choice);
     printHowItWasRead(session.terminal, library);
+    sayWhatHasNoTime(request.choice, choose, session.terminal);
     if (photos.empty())
         sayThatThereAreNone(shown, (shown == Shown::LeftOut ? 0 : assets.size()) + leftOut.size(),
                             session.terminal);
