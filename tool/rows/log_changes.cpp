@@ -22,6 +22,17 @@ const KnownDates &datesWithLog(const Library &library)
     return withLog ? withLog->dates : library.dates();
 }
 
+Snapshot withoutLog(const AssetList &assets, const Library &library)
+{
+    const WithoutLog &without = *library.withoutLog();
+    return {assets, without.without.dates, without.trash, without.schema.unknownFields};
+}
+
+Snapshot withLog(const AssetList &assets, const Library &library)
+{
+    return {assets, datesWithLog(library), library.trash(), library.schema().unknownFields};
+}
+
 /// By what photos are matched between two snapshots as well: their uuids, or else their paths.
 bool isLess(const Asset &left, const Asset &right)
 {
@@ -84,7 +95,7 @@ bool isSameSchema(const ProbedSchema &before, const ProbedSchema &after)
 }
 
 /// As diff finds them, with the facts that differ.
-std::vector<LogChange> snapshotChanges(const AssetList &before, const AssetList &after,
+std::vector<LogChange> snapshotChanges(const Snapshot &before, const Snapshot &after,
                                        const FactComparison &facts)
 {
     std::vector<LogChange> changes;
@@ -127,10 +138,11 @@ LogChanges::LogChanges(const Library &library)
       hasOtherCounts_(library.account() && !(*library.account() == library.withoutLog()->account)),
       leftOut_(leftOutChanges(library))
 {
-    const WithoutLog &without = *library.withoutLog();
-    const FactComparison facts({assetsBefore_, without.trash, without.without.dates},
-                               {assetsAfter_, library.trash(), datesWithLog(library)});
-    photos_ = snapshotChanges(assetsBefore_, assetsAfter_, facts);
+    const Snapshot before = withoutLog(assetsBefore_, library);
+    const Snapshot after = withLog(assetsAfter_, library);
+    const FactComparison facts({assetsBefore_, before.trash, before.dates},
+                               {assetsAfter_, after.trash, after.dates});
+    photos_ = snapshotChanges(before, after, facts);
     addOtherChanges(assetsBefore_, assetsAfter_, facts, photos_);
 }
 
