@@ -22,13 +22,13 @@ const KnownDates &datesWithLog(const Library &library)
     return withLog ? withLog->dates : library.dates();
 }
 
-Snapshot withoutLog(const AssetList &assets, const Library &library)
+Snapshot snapshotWithoutLog(const AssetList &assets, const Library &library)
 {
     const WithoutLog &without = *library.withoutLog();
     return {assets, without.without.dates, without.trash, without.schema.unknownFields};
 }
 
-Snapshot withLog(const AssetList &assets, const Library &library)
+Snapshot snapshotWithLog(const AssetList &assets, const Library &library)
 {
     return {assets, datesWithLog(library), library.trash(), library.schema().unknownFields};
 }
@@ -138,8 +138,8 @@ LogChanges::LogChanges(const Library &library)
       hasOtherCounts_(library.account() && !(*library.account() == library.withoutLog()->account)),
       leftOut_(leftOutChanges(library))
 {
-    const Snapshot before = withoutLog(assetsBefore_, library);
-    const Snapshot after = withLog(assetsAfter_, library);
+    const Snapshot before = snapshotWithoutLog(assetsBefore_, library);
+    const Snapshot after = snapshotWithLog(assetsAfter_, library);
     const FactComparison facts({assetsBefore_, before.trash, before.dates},
                                {assetsAfter_, after.trash, after.dates});
     photos_ = snapshotChanges(before, after, facts);
