@@ -68,6 +68,10 @@ struct RowAccount
         return std::accumulate(leftOut.begin(), leftOut.end(), rows - listed, std::minus<>());
     }
     void leaveOut(Reason reason) { ++leftOut[static_cast<std::size_t>(reason)]; }
+    bool operator==(const RowAccount &other) const
+    {
+        return rows == other.rows && listed == other.listed && leftOut == other.leftOut;
+    }
 };
 
 using PhotoAccount = RowAccount<PhotoReason, photoReasonCount>;

@@ -65,10 +65,12 @@ std::set<std::string> comparableUuids(const PhotoFilter &filter)
 
 bool matchesTime(const PhotoFilter &filter, const Library &library, const Asset &asset)
 {
-    if (!filter.since && !filter.until)
+    if (!filter.since && !filter.until && !filter.isUndated)
         return true;
     const auto date = library.dates().created(asset.firstRecord());
     const auto created = date ? unixTimeOf(*date) : std::nullopt;
+    if (filter.isUndated)
+        return !created;
     return created && (!filter.since || !(*created < *filter.since)) &&
            (!filter.until || !(*filter.until < *created));
 }

@@ -41,4 +41,14 @@ bool Trash::isEmptiedOf(const CPhotoData &photo) const
     return photo.isDeleted && isTrashedTooLong(date, asOf_.seconds);
 }
 
+std::int64_t Trash::emptiedPhotos(const std::vector<CAlbumGroup> &catalogue) const
+{
+    std::int64_t count = 0;
+    for (const CAlbumGroup &album : catalogue)
+        if (album.albumKind == AlbumKind::RecentlyDeleted)
+            count += std::count_if(album.photos.begin(), album.photos.end(),
+                                   [&](const CPhotoData *photo) { return isEmptiedOf(*photo); });
+    return count;
+}
+
 } // namespace iosphoto::tool

@@ -35,6 +35,8 @@ public:
 
     /// Whether the trash was emptied of a photo that a catalogue shows all the same.
     bool isEmptiedOf(const CPhotoData &photo) const;
+    /// How many photos of a catalogue these are.
+    std::int64_t emptiedPhotos(const std::vector<CAlbumGroup> &catalogue) const;
 
 private:
     struct Date

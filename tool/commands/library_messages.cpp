@@ -60,6 +60,21 @@ std::string leftOutOf(const Library &library, Shown shown)
                : translate("left out: {0}", listForPeople(parts));
 }
 
+/// What a good log leaves open: its end may be what a device wrote, or what damage made of it.
+std::vector<SourceProblem> doubtsAbout(const WriteAheadLog &log)
+{
+    std::vector<SourceProblem> doubts;
+    if (log.state != LogState::Good)
+        return doubts;
+    if (log.hasOpenChange)
+        doubts.push_back(SourceProblem::LogEndsInOpenChange);
+    if (log.endsInZeros)
+        doubts.push_back(SourceProblem::LogEndsInZeros);
+    if (log.frames == 0)
+        doubts.push_back(SourceProblem::LogHasNoFrame);
+    return doubts;
+}
+
 } // namespace
 
 void printHowItWasRead(const Terminal &terminal, const Library &library, const std::string &label,
@@ -79,10 +94,8 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
                               "what only that holds is not shown"));
     for (const SourceFinding &finding : library.missing())
         terminal.printWarning(label + inWords(finding).what());
-    if (library.log().state == LogState::Good && library.log().hasOpenChange)
-        terminal.printWarning(
-            label + inWords(SourceFinding{SourceProblem::LogEndsInOpenChange, {library.database()}})
-                        .what());
+    for (const SourceProblem problem : doubtsAbout(library.log()))
+        terminal.printWarning(label + inWords(SourceFinding{problem, {library.database()}}).what());
     for (const std::string &sentence :
          sentencesOf(library.report(), library.database(), library.rowLimit()))
         terminal.printWarning(label + sentence);

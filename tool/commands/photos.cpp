@@ -17,8 +17,10 @@
 #include "text/numbers.h"
 #include "text/printable.h"
 #include "text/translate.h"
+#include "time/time_text.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace iosphoto::tool {
 
@@ -148,6 +150,38 @@ void sayThatThereAreNone(Shown shown, std::size_t size, const Terminal &terminal
                     "none of the {0} photos fits; leave out an option to see more"));
 }
 
+void requireOrder(const PhotoFilter &filter)
+{
+    if (filter.since && filter.until && *filter.until < *filter.since)
+        throw Failure(WrongUsage,
+                      translate("--since ({0}) is later than --until ({1}), so no photo "
+                                "fits both; exchange them",
+                                localTimeText(*filter.since), localTimeText(*filter.until)));
+}
+
+/// Says how many photos a time leaves out for want of one of their own.
+/// @param choose  from the photos of the library
+void sayWhatHasNoTime(PhotoChoice choice,
+                      const std::function<ChosenAssets(const PhotoChoice &)> &choose,
+                      const Terminal &terminal)
+{
+    PhotoFilter &filter = choice.filter;
+    if (!filter.since && !filter.until)
+        return;
+    filter.since.reset();
+    filter.until.reset();
+    filter.isUndated = true;
+    choice.sorting = {};
+    const auto count = static_cast<std::int64_t>(choose(choice).size());
+    if (count > 0)
+        terminal.printWarning(counted(
+            count,
+            "{0} photo is not shown, as it has no time of creation, by which --since and --until "
+            "choose",
+            "{0} photos are not shown, as they have no time of creation, by which --since and "
+            "--until choose"));
+}
+
 FieldTable<PhotoRow> fieldsFor(const PhotoChoice &choice)
 {
     if (choice.shown == Shown::LeftOut)
@@ -162,6 +196,7 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     const auto fields = fieldsToShow(fieldsFor(request.choice), request.format);
     if (request.where)
         PhotoCondition(*request.where, photoColumns()); // a mistake is said before the long reading
+    requireOrder(request.choice.filter);
     const Shown shown = request.choice.shown;
     // A photo that is asked for by its uuid may be one of them.
     request.library.keepsLeftOut = shown != Shown::Listed || !request.choice.filter.uuids.empty();
@@ -175,8 +210,12 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
     request.choice.filter.isWanted = conditionOf(request, library, rows, session.terminal);
-    const ChosenAssets photos = choosePhotos(request.choice, albums, library, assets, leftOut);
+    const auto choose = [&](const PhotoChoice &choice) {
+        return choosePhotos(choice, albums, library, assets, leftOut);
+    };
+    const ChosenAssets photos = choose(request.choice);
     printHowItWasRead(session.terminal, library, "", shown);
+    sayWhatHasNoTime(request.choice, choose, session.terminal);
     if (photos.empty())
         sayThatThereAreNone(shown, countOf(shown, assets, leftOut), session.terminal);
     if (request.format.format == Format::Sqlite) {

@@ -51,8 +51,16 @@ constexpr Wording<SourceProblem> sourceWords[] = {
                   "what follows is no whole frame; later changes may be missing; copy it from the "
                   "device or the backup again, its -wal with it")},
     {SourceProblem::LogEndsInOpenChange, Good,
-     translatable("the -wal of '{0}' ends in a change without a commit, as of a device that was "
-                  "still writing, or gave it up; it is left out")},
+     translatable("the -wal of '{0}' ends in a change without a commit, which is left out: either "
+                  "the device was still writing it or gave it up, and nothing is missing, or the "
+                  "log was cut or damaged there, and the change is")},
+    {SourceProblem::LogEndsInZeros, Good,
+     translatable(
+         "the -wal of '{0}' ends in zeros: either a copy was padded with them, and nothing "
+         "is missing, or they replaced changes, and these are")},
+    {SourceProblem::LogHasNoFrame, Good,
+     translatable("the -wal of '{0}' has a header and no change: either none was written yet, and "
+                  "nothing is missing, or the log was cut behind its header, and its changes are")},
     {SourceProblem::TooLarge, CannotAccess,
      translatable("cannot read '{0}': it is larger than {1} bytes, which no such file is; copy the "
                   "whole backup again")},

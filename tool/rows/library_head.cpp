@@ -40,6 +40,7 @@ Json libraryHead(const Library &library)
 {
     const ProbedSchema &schema = library.schema();
     const std::optional<std::int64_t> &model = schema.metadata.modelVersion;
+    const std::optional<Account> &account = library.account();
     return {{"source", library.name()},
             {"sourceBytes", bytesOrNull(library.name())},
             {"sourceKind", machineName(library.kind())},
@@ -56,22 +57,22 @@ Json libraryHead(const Library &library)
             {"asOf", textOrNull(utcTimeText(library.asOf().time))},
             {"assumedTimeZone", textOrNull(library.asOf().assumedZone)},
             {"leftOut", leftOutOfTrash(library)},
-            {"leftOutByReason", photosLeftOut(library)},
-            {"albumsLeftOutByReason", albumsLeftOut(library)},
+            {"leftOutByReason", account ? leftOutByReason(schema, account->photos) : Json()},
+            {"albumsLeftOutByReason", account ? leftOutByReason(schema, account->albums) : Json()},
             {"isComplete", library.isComplete()},
             {"missingColumns", columnNames(schema.missingColumns)},
             {"unknownFields", schema.unknownFields},
             {"unknownReasons", schema.unknownReasons}};
 }
 
-Json photosLeftOut(const Library &library)
+Json leftOutByReason(const ProbedSchema &schema, const PhotoAccount &account)
 {
-    return library.account() ? countsByReason(library.schema(), library.account()->photos) : Json();
+    return countsByReason(schema, account);
 }
 
-Json albumsLeftOut(const Library &library)
+Json leftOutByReason(const ProbedSchema &schema, const AlbumAccount &account)
 {
-    return library.account() ? countsByReason(library.schema(), library.account()->albums) : Json();
+    return countsByReason(schema, account);
 }
 
 Json sourceNamed(const std::string &key, const Library &library)

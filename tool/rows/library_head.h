@@ -10,11 +10,11 @@ namespace iosphoto::tool {
 /// What every document of a library begins with: the source, and as what and when it was read.
 Json libraryHead(const Library &library);
 
-/// How many rows of the table of photos, or of that of albums, are left out, by the reason; null
-/// where they could not be counted, and for a reason that a missing column would tell.
+/// How many rows of a table are left out, by the reason; null for one that a missing column would
+/// tell.
 /// @{
-Json photosLeftOut(const Library &library);
-Json albumsLeftOut(const Library &library);
+Json leftOutByReason(const ProbedSchema &schema, const PhotoAccount &account);
+Json leftOutByReason(const ProbedSchema &schema, const AlbumAccount &account);
 /// @}
 
 /// What documents of the rows of a library begin with.

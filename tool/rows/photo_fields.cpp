@@ -9,7 +9,6 @@
 #include "text/translate.h"
 #include "time/time_text.h"
 
-#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -34,14 +33,6 @@ Value number(std::int64_t number)
     return number;
 }
 
-/// The shortest number that the record's can be: 33.4, not 33.400001525878906.
-Value duration(const Row &row)
-{
-    const float seconds = row.facts.duration;
-    return seconds == 0 || !std::isfinite(seconds) ? double(seconds)
-                                                   : std::stod(fmt::format("{}", seconds));
-}
-
 std::vector<Field<Row>> fieldsOfTheFile()
 {
     return {
@@ -62,7 +53,8 @@ std::vector<Field<Row>> fieldsOfTheFile()
         {{"height", Type::Number}, [](const Row &row) { return number(row.facts.height); }},
         {{"fileSize", Type::Bytes, translate("SIZE")},
          [](const Row &row) { return number(row.facts.fileSize); }},
-        {{"duration", Type::Real}, duration},
+        {{"duration", Type::Real},
+         [](const Row &row) { return durationValue(row.facts.duration); }},
     };
 }
 
