@@ -263,7 +263,7 @@ TEST(LeftOutPhotos, AreInAllFormats)
     EXPECT_EQ(runOn(library, "photos",
                     {"--with-left-out", "--csv", "--fields", "fileName,isSelfie,leftOutBecause"})
                   .out,
-              "fileName,isSelfie,leftOutBecause\r\nA.JPG,false,\r\nB.JPG,,sharedAlbum\r\n");
+              "fileName,isSelfie,leftOutBecause\r\nA.JPG,false,\r\nB.JPG,false,sharedAlbum\r\n");
     EXPECT_EQ(
         runOn(library, "photos", {"--left-out", "--jsonl", "--fields", "fileName,leftOutBecause"})
             .out,

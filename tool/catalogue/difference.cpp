@@ -23,16 +23,10 @@ bool isEditedBetween(const CPhotoData &before, const CPhotoData &after)
             before.height != after.height);
 }
 
-/// The albums of hidden and trashed photos do not tell.
-bool isFavoriteKnown(const CPhotoData &photo)
-{
-    return !photo.isHidden && !photo.isDeleted;
-}
-
 std::vector<ChangedField> changedFields(const CPhotoData &before, const CPhotoData &after)
 {
     std::vector<ChangedField> fields;
-    if (isFavoriteKnown(before) && isFavoriteKnown(after) && before.isFavorite != after.isFavorite)
+    if (before.isFavorite != after.isFavorite)
         fields.push_back(ChangedField::Favorite);
     if (before.isHidden != after.isHidden)
         fields.push_back(ChangedField::Hidden);
