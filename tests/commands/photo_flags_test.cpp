@@ -97,7 +97,6 @@ const Feature features[] = {
      }},
 };
 
-constexpr int camera = 3;
 constexpr int referenced = 10;
 
 /// Where the library shows a photo, or why it does not.
