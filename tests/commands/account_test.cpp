@@ -263,7 +263,7 @@ TEST(LeftOutPhotos, AreInAllFormats)
     EXPECT_EQ(runOn(library, "photos",
                     {"--with-left-out", "--csv", "--fields", "fileName,isSelfie,leftOutBecause"})
                   .out,
-              "fileName,isSelfie,leftOutBecause\r\nA.JPG,false,\r\nB.JPG,,sharedAlbum\r\n");
+              "fileName,isSelfie,leftOutBecause\r\nA.JPG,false,\r\nB.JPG,false,sharedAlbum\r\n");
     EXPECT_EQ(
         runOn(library, "photos", {"--left-out", "--jsonl", "--fields", "fileName,leftOutBecause"})
             .out,
@@ -329,21 +329,16 @@ TEST(LeftOutPhotos, ThatAreAskedForByUuidAreSaidWithTheReason)
         "fileName\nB.JPG\n");
 }
 
-TEST(LeftOutPhotos, AreNotChosenByWhatIsNotKnownOfThem)
+TEST(LeftOutPhotos, AreChosenByWhatTheirRowsSay)
 {
     LibraryBuilder library(ios15);
     library.asset("A.JPG").set("ZCAMERACAPTUREDEVICE", 1);
     library.asset("B.JPG").set("ZCAMERACAPTUREDEVICE", 1).set("ZSAVEDASSETTYPE", 4);
-    const char *const line = "iosphoto: --kind chooses none of the photos that are left out, as "
-                             "isSelfie is not known of them\n";
-    const ToolRun leftOut = runOn(library, "photos", {"--left-out", "--kind", "selfie"});
-    EXPECT_THAT(leftOut.error, HasSubstr(line));
-    EXPECT_EQ(leftOut.out, "");
-    EXPECT_EQ(leftOut.status, 1);
-    const ToolRun both =
-        runOn(library, "photos", {"--with-left-out", "--kind", "selfie", "--fields", "fileName"});
-    EXPECT_THAT(both.error, HasSubstr(line));
-    EXPECT_EQ(both.out, "fileName\nA.JPG\n");
+    const auto selfies = [&](const char *shown) {
+        return runOn(library, "photos", {shown, "--kind", "selfie", "--fields", "fileName"}).out;
+    };
+    EXPECT_EQ(selfies("--left-out"), "fileName\nB.JPG\n");
+    EXPECT_EQ(selfies("--with-left-out"), "fileName\nA.JPG\nB.JPG\n");
 }
 
 TEST(LeftOutPhotos, AreVideosAlsoWhereTheKindIsNotTold)

@@ -19,14 +19,6 @@ bool isSame(const Photo &before, const Photo &after)
     return before.facts.*member == after.facts.*member;
 }
 
-/// Those that the albums of hidden and trashed photos do not tell.
-template <auto member>
-bool isSameWhereShownAlike(const Photo &before, const Photo &after)
-{
-    return before.facts.isHidden != after.facts.isHidden ||
-           before.facts.isDeleted != after.facts.isDeleted || isSame<member>(before, after);
-}
-
 /// Not all albums have fractions of seconds.
 template <auto date>
 bool isSameDate(const Photo &before, const Photo &after)
@@ -49,7 +41,7 @@ bool isTrashedAtTheSameTime(const Photo &before, const Photo &after)
 template <std::size_t... indices>
 std::vector<ComparedFact> factsOfTraits(std::index_sequence<indices...> /*all*/)
 {
-    return {{traits[indices].key, isSameWhereShownAlike<traits[indices].flag>}...};
+    return {{traits[indices].key, isSame<traits[indices].flag>}...};
 }
 
 std::vector<ComparedFact> allFacts()
@@ -57,7 +49,7 @@ std::vector<ComparedFact> allFacts()
     using Data = CPhotoData;
     std::vector<ComparedFact> facts = {
         {"isDeleted", isSame<&Data::isDeleted>},
-        {"isFavorite", isSameWhereShownAlike<&Data::isFavorite>},
+        {"isFavorite", isSame<&Data::isFavorite>},
         {"isHidden", isSame<&Data::isHidden>},
         {"fileName", isSame<&Data::fileName>},
         {"created", isSameDate<&KnownDates::created>},
@@ -70,8 +62,8 @@ std::vector<ComparedFact> allFacts()
         {"modified", isSameDate<&KnownDates::modified>},
         {"added", isSameDate<&KnownDates::added>},
         {"trashed", isTrashedAtTheSameTime},
-        {"burstUuid", isSameWhereShownAlike<&Data::burstUuid>},
-        {"isBurstPick", isSameWhereShownAlike<&Data::isBurstPick>},
+        {"burstUuid", isSame<&Data::burstUuid>},
+        {"isBurstPick", isSame<&Data::isBurstPick>},
     };
     std::set<std::string> known = {"isInPhotoStream"}; // which is an album
     for (const ComparedFact &fact : facts)

@@ -21,6 +21,7 @@ constexpr Names photoNames[] = {
     {"trashedWithoutDate",  translatable("in the trash without a date")},
     {"withoutFileName",     translatable("without a file name")},
     {"burstFrame",          translatable("frame of a hidden or deleted burst")},
+    {"repeated",            translatable("with the uuid and file of another")},
     {"notRead",             translatable("not read")},
 };
 constexpr Names albumNames[] = {

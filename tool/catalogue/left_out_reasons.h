@@ -19,6 +19,7 @@ enum class PhotoReason {
     TrashedWithoutDate,  ///< the device removes it at a time that nobody knows
     WithoutFileName,
     BurstFrame, ///< one that does not stand for its burst, which is hidden, deleted or not shown
+    Repeated,   ///< with the uuid and path of a row that is shown, without a key to tell them by
     NotRead,    ///< the reading ended before
 };
 constexpr std::size_t photoReasonCount = static_cast<std::size_t>(PhotoReason::NotRead) + 1;

@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -45,8 +46,15 @@ private:
         std::int32_t raw; ///< as the library reads it
     };
 
+    /// Null where there is none.
+    const Date *dateOf(const std::string &uuid, std::int32_t key) const;
+
+    /// By uuid and key, as a database may have a uuid twice; ordered: no choice of uuids makes it
+    /// slow.
+    using Dates = std::map<std::pair<std::string, std::int32_t>, Date>;
+
     UnixTime asOf_;
-    std::map<std::string, Date> trashedAt_; // ordered: no choice of uuids makes it slow
+    Dates trashedAt_;
 };
 
 } // namespace iosphoto::tool

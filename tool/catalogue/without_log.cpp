@@ -1,6 +1,7 @@
 #include "catalogue/without_log.h"
 
 #include "catalogue/catalogue_build.h"
+#include "catalogue/left_out_photos.h"
 #include "process/failure.h"
 #include "schema/asset_tables.h"
 
@@ -10,7 +11,7 @@ namespace iosphoto::tool {
 
 namespace {
 
-/// What to read the database as; nothing where it fits no device. It may have the schema of the
+/// What to read the database as; nothing where it fits none. It may have the schema of the
 /// iOS before an update that is in the log still.
 std::optional<ProbedSchema> fittingSchema(const CopyDatabase &database, const Device &withLog)
 {
@@ -30,8 +31,13 @@ bool hasPhotos(const CatalogueBuild &build)
                        [](const CAlbumGroup &album) { return !album.photos.empty(); });
 }
 
-DatedCatalogue dated(OwnedCatalogue catalogue, const CopyDatabase &database)
+/// With what only the rows tell of its photos.
+DatedCatalogue completed(CatalogueBuild build, const CopyDatabase &database,
+                         const ProbedSchema &schema)
 {
+    OwnedCatalogue catalogue = std::move(build.catalogue);
+    accountOfPhotos(database, {schema, catalogue.albums, beforeAllTrash, build.isComplete()},
+                    nullptr);
     KnownDates dates(database, catalogue.albums);
     return {std::move(catalogue), std::move(dates)};
 }
@@ -61,7 +67,7 @@ void readAlone(const Session &session, const OpenedCopy &copy, UnixTime asOf, Wi
     without.schema = *schema;
     CatalogueBuild build = buildCatalogue(session, copy.file(), schema->device, beforeAllTrash);
     without.isRead = build.isComplete() && (hasPhotos(build) || !areAssetTablesDamaged(database));
-    without.without = dated(std::move(build.catalogue), database);
+    without.without = completed(std::move(build), database, *schema);
     without.trash = Trash(database, asOf);
     countRows(session, copy, database, asOf, without);
 }
@@ -74,10 +80,9 @@ WithoutLog readWithoutLog(const Session &session, const OpenedCopy &copy, UnixTi
     WithoutLog without;
     try {
         if (trashLeavesOut)
-            without.withLog =
-                dated(buildCatalogue(session, copy.file(), copy.schema().device, beforeAllTrash)
-                          .catalogue,
-                      copy.connect());
+            without.withLog = completed(
+                buildCatalogue(session, copy.file(), copy.schema().device, beforeAllTrash),
+                copy.connect(), copy.schema());
         copy.removeLog();
         readAlone(session, copy, asOf, without);
     } catch (const Failure &) {

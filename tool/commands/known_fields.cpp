@@ -3,8 +3,6 @@
 #include "process/failure.h"
 #include "text/translate.h"
 
-#include <algorithm>
-#include <iterator>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -35,26 +33,6 @@ std::vector<OptionField> fieldsOf(const PhotoFilter &filter)
     return fields;
 }
 
-bool isKnownFieldOfLeftOut(const std::string &field)
-{
-    const auto *const trait = std::find_if(std::begin(traits), std::end(traits),
-                                           [&](const Trait &each) { return field == each.key; });
-    return trait == std::end(traits) || isKnownOfLeftOut(trait->flag);
-}
-
-void requireKnownOfLeftOut(const std::string &option, const std::string &field, Shown shown,
-                           const Terminal &terminal)
-{
-    if (shown == Shown::Listed || isKnownFieldOfLeftOut(field))
-        return;
-    const std::string why = translate("{0} chooses none of the photos that are left out, as {1} is "
-                                      "not known of them",
-                                      option, field);
-    if (shown == Shown::LeftOut)
-        throw Failure(Incomplete, why);
-    terminal.printWarning(why);
-}
-
 } // namespace
 
 void requireKnown(const std::string &option, const std::string &field, const Library &library)
@@ -77,12 +55,10 @@ void sayThatItIsNull(const std::string &option, const std::string &field, const 
                                         library.schema().columnsOf(field)));
 }
 
-void requireKnownFields(const PhotoChoice &choice, const Library &library, const Terminal &terminal)
+void requireKnownFields(const PhotoChoice &choice, const Library &library)
 {
-    for (const auto &[option, field] : fieldsOf(choice.filter)) {
+    for (const auto &[option, field] : fieldsOf(choice.filter))
         requireKnown(option, field, library);
-        requireKnownOfLeftOut(option, field, choice.shown, terminal);
-    }
     requireKnown("--sort", fieldOf(choice.sorting.order), library);
 }
 

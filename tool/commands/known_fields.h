@@ -17,10 +17,8 @@ void requireKnown(const std::string &option, const std::string &field, const Lib
 void sayThatItIsNull(const std::string &option, const std::string &field, const Library &library,
                      const Terminal &terminal);
 
-/// The same as requireKnown() for all that photos are chosen and sorted by, but their albums. Also
-/// says what options cannot choose of the photos that are left out, of which less is known.
-void requireKnownFields(const PhotoChoice &choice, const Library &library,
-                        const Terminal &terminal);
+/// The same as requireKnown() for all that photos are chosen and sorted by, but their albums.
+void requireKnownFields(const PhotoChoice &choice, const Library &library);
 
 } // namespace iosphoto::tool
 

@@ -201,7 +201,7 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     // A photo that is asked for by its uuid may be one of them.
     request.library.keepsLeftOut = shown != Shown::Listed || !request.choice.filter.uuids.empty();
     const Library library(session, request.library);
-    requireKnownFields(request.choice, library, session.terminal);
+    requireKnownFields(request.choice, library);
     const std::vector<const CAlbumGroup *> albums =
         albumsOf(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());

@@ -104,7 +104,7 @@ template <std::size_t index>
 Value traitOf(const Row &row)
 {
     constexpr auto flag = traits[index].flag;
-    return row.leftOutBecause && !isKnownOfLeftOut(flag) ? Value() : Value(row.facts.*flag);
+    return Value(row.facts.*flag);
 }
 
 template <std::size_t... indices>

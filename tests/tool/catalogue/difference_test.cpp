@@ -107,6 +107,7 @@ TEST_F(Difference, RecordsOfOnePathWithoutUuidAreOnePhoto)
     before_.show("", "TRIP");
     before_.photo("");
     after_.photo("");
+    after_.show("", "TRIP");
     const Compared difference(before_, after_);
     EXPECT_TRUE(difference.photos.differences.empty());
     EXPECT_EQ(difference.photos.inBoth, 1U);
