@@ -110,7 +110,8 @@ TEST_F(ToolHostileArchive, MoreLibrariesThanCanBeNamed)
         }
         std::string names;
         for (int i = 100; i < 105; ++i)
-            names += (i > 100 ? ", " : "") + quoted(archive_ / std::to_string(i));
+            names += (i > 100 ? ", " : "") + quoted(archive_ / std::to_string(i)) +
+                     " (1 B, 2020-09-13 12:26 UTC)";
         return std::pair(albumsOfArchive(), ", which iosphoto backups lists; name one of them: " +
                                                 names + " and more\n");
     };

@@ -30,31 +30,53 @@ OpenFolder openFolder(const fs::path &folder)
     return {opened, closedir};
 }
 
-/// A link leads to a folder that has its own place.
-bool isFolder(DIR *parent, const dirent &entry)
+/// The names in a folder, in order.
+struct Entries
 {
-    if (entry.d_type != DT_UNKNOWN)
-        return entry.d_type == DT_DIR;
+    std::vector<std::string> folders;
+    std::vector<std::string> files; ///< and links to such
+    std::vector<std::string> links; ///< to folders
+};
+
+mode_t kindOf(DIR *parent, const dirent &entry, int flags)
+{
     struct stat facts = {};
-    return fstatat(dirfd(parent), entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0 &&
-           S_ISDIR(facts.st_mode);
+    return fstatat(dirfd(parent), entry.d_name, &facts, flags) == 0 ? facts.st_mode & S_IFMT : 0;
 }
 
-std::vector<std::string> foldersIn(const fs::path &folder)
+void add(Entries &entries, DIR *parent, const dirent &entry)
 {
-    std::vector<std::string> names;
+    const bool isKnown = entry.d_type != DT_UNKNOWN;
+    const mode_t kind = isKnown ? DTTOIF(entry.d_type) : kindOf(parent, entry, AT_SYMLINK_NOFOLLOW);
+    const bool isLink = kind == S_IFLNK;
+    const mode_t target = isLink ? kindOf(parent, entry, 0) : kind;
+    if (target == S_IFDIR)
+        (isLink ? entries.links : entries.folders).emplace_back(entry.d_name);
+    else if (target == S_IFREG)
+        entries.files.emplace_back(entry.d_name);
+}
+
+Entries entriesOf(const fs::path &folder)
+{
+    Entries entries;
     const OpenFolder opened = openFolder(folder);
     errno = 0;
     while (const dirent *const entry = readdir(opened.get())) {
-        const std::string name = entry->d_name;
-        if (name != "." && name != ".." && isFolder(opened.get(), *entry))
-            names.push_back(name);
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..")
+            add(entries, opened.get(), *entry);
         errno = 0;
     }
     if (errno != 0)
         throw mayNotRead(folder, systemError(errno));
-    std::sort(names.begin(), names.end());
-    return names;
+    for (std::vector<std::string> *const names : {&entries.folders, &entries.files, &entries.links})
+        std::sort(names->begin(), names->end());
+    return entries;
+}
+
+bool isDeepest(const std::string &folder)
+{
+    return std::count(folder.begin(), folder.end(), '/') + 1 >= deepestFolder;
 }
 
 } // namespace
@@ -78,9 +100,20 @@ std::optional<FileFacts> FolderTree::find(const std::string &path) const
     throw mayNotRead(file, systemError(errno));
 }
 
-UnsearchedFolders
-FolderTree::searchFolders(const std::string &top,
-                          const std::function<bool(const std::string &)> &look) const
+std::string FolderTree::shown(const std::string &path) const
+{
+    return path.empty() ? shownTop_ : (fs::path(shownTop_) / path).string();
+}
+
+bool FolderTree::leadsBack(const std::string &link) const
+{
+    std::error_code error;
+    const std::string target = fs::canonical(onDisk(link), error).string();
+    const std::string top = error ? "" : fs::canonical(top_, error).string();
+    return !error && isInside(target, top);
+}
+
+UnsearchedFolders FolderTree::searchFolders(const std::string &top, FolderVisitor &visitor) const
 {
     UnsearchedFolders unsearched;
     std::deque<std::string> waiting = {top};
@@ -92,10 +125,19 @@ FolderTree::searchFolders(const std::string &top,
         const std::string folder = std::move(waiting.front());
         waiting.pop_front();
         try {
-            if (!look(folder))
+            if (!visitor.enter(folder))
                 continue;
-            for (const std::string &name : foldersIn(onDisk(folder)))
-                waiting.push_back(joinedPath(folder, name));
+            const Entries entries = entriesOf(onDisk(folder));
+            for (const std::string &name : entries.files)
+                visitor.meetFile(joinedPath(folder, name));
+            for (const std::string &name : entries.links)
+                if (!leadsBack(joinedPath(folder, name)))
+                    visitor.meetLink(joinedPath(folder, name));
+            const bool goesDown = !isDeepest(folder);
+            for (const std::string &name : entries.folders)
+                if (goesDown)
+                    waiting.push_back(joinedPath(folder, name));
+            unsearched.hasTooDeep |= !goesDown && !entries.folders.empty();
         } catch (const Failure &failure) {
             unsearched.unreadable.push_back(failure);
         }
