@@ -30,10 +30,10 @@ struct PathInFile
 /// Looks for a part of a path that is a file, where nothing has the whole one.
 std::optional<PathInFile> splitAtFile(const std::string &name)
 {
+    const std::string input = std::string(StandardInput::device) + "/";
+    if (name.rfind(input, 0) == 0)
+        return PathInFile{StandardInput::device, name.substr(input.size())};
     std::error_code ignored;
-    for (const std::string input : {StandardInput::device, StandardInput::name})
-        if (name.rfind(input + "/", 0) == 0 && !fs::is_directory(input, ignored))
-            return PathInFile{StandardInput::device, name.substr(input.size() + 1)};
     fs::path file = name;
     while (file.has_relative_path() && !fs::exists(file, ignored))
         file = file.parent_path();
