@@ -44,9 +44,31 @@ TEST_F(ToolSourceSearch, FollowsNoLinks)
     fs::create_directory_symlink(folder_ / "case", folder_ / "case/loop");
     const ToolRun run = albums(folder_ / "case");
     expectFailure(run, quoted(folder_ / "case") + " holds no photo library", 4);
-    EXPECT_THAT(run.error, HasSubstr("; passed over in the search for photo libraries: 1 link to a "
-                                     "folder elsewhere: " +
-                                     quoted(folder_ / "case/link") + "\n"));
+    EXPECT_THAT(run.error, HasSubstr("; passed over in the search for photo libraries: 2 links, "
+                                     "which are not followed: " +
+                                     quoted(folder_ / "case/link") + ", " +
+                                     quoted(folder_ / "case/loop") + "\n"));
+}
+
+TEST_F(ToolSourceSearch, NamesLinksInAnArchive)
+{
+    const fs::path archive = folder_ / "links.tar";
+    ArchiveBuilder(archive, tar)
+        .addFolder(putMedia(folder_ / "Media"), "a/Media")
+        .addLink("b/Photos.sqlite", "../a/Media/PhotoData/Photos.sqlite");
+    const ToolRun run = albums(archive);
+    expectWhole(run);
+    EXPECT_THAT(run.error, HasSubstr("1 link, which is not followed: " +
+                                     quoted(archive / "b/Photos.sqlite") + "\n"));
+}
+
+TEST_F(ToolSourceSearch, TakesALinkToADatabaseForThatOne)
+{
+    putMedia(folder_ / "elsewhere", "a.sqlite");
+    fs::create_directories(folder_ / "case");
+    fs::create_symlink(folder_ / "elsewhere/a.sqlite", folder_ / "case/Photos.sqlite");
+    fs::create_symlink(folder_ / "elsewhere/a.sqlite-wal", folder_ / "case/Photos.sqlite-wal");
+    expectWhole(albums(folder_ / "case"));
 }
 
 TEST_F(ToolSourceSearch, NamesWhatItPassesOverInOneLineThatQuietHides)

@@ -23,7 +23,8 @@ std::string countOf(PassedOver reason, std::size_t number)
         return counted(count, "{0} archive, which has to be unpacked first",
                        "{0} archives, which have to be unpacked first");
     case PassedOver::Link:
-        return counted(count, "{0} link to a folder elsewhere", "{0} links to folders elsewhere");
+        return counted(count, "{0} link, which is not followed",
+                       "{0} links, which are not followed");
     case PassedOver::SystemDatabase:
         return counted(count, "{0} database of the system", "{0} databases of the system");
     case PassedOver::OtherDatabase:

@@ -94,7 +94,10 @@ public:
 
     void meetLink(const std::string &path) override
     {
-        passedOver_[PassedOver::Link].push_back(path);
+        if (isCalledDatabase(nameOf(path)) && tree_.find(path))
+            meetFile(path);
+        else
+            passedOver_[PassedOver::Link].push_back(path);
     }
 
     /// To be called at the end.

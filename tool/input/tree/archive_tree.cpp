@@ -22,6 +22,14 @@ bool isTooDeep(const std::string &path)
     return path.size() > longestPath || std::count(path.begin(), path.end(), '/') > deepestFolder;
 }
 
+void addFoldersAround(const std::string &path, std::set<std::string> &folders)
+{
+    for (std::size_t slash = path.rfind('/');
+         slash != std::string::npos && folders.insert(path.substr(0, slash)).second;
+         slash = path.rfind('/', slash - 1)) {
+    }
+}
+
 } // namespace
 
 ArchiveTree::ArchiveTree(fs::path archive, std::string shownName)
@@ -31,10 +39,14 @@ ArchiveTree::ArchiveTree(fs::path archive, std::string shownName)
     while (reader.next()) {
         isZip_ = reader.isZip();
         const std::string path = reader.path();
-        if (path.empty() || !reader.isFile())
+        if (path.empty() || !(reader.isFile() || reader.isLink()))
             continue;
         if (isTooDeep(path)) {
             hasTooDeep_ = true;
+            continue;
+        }
+        if (reader.isLink()) {
+            links_.push_back(path);
             continue;
         }
         const Entry entry = {{reader.size().value_or(0), {reader.modified()}},
@@ -56,10 +68,9 @@ UnsearchedFolders ArchiveTree::searchFolders(const std::string &top, FolderVisit
 {
     std::set<std::string> folders = {top};
     for (const auto &[path, entry] : entries_)
-        for (std::size_t slash = path.rfind('/');
-             slash != std::string::npos && folders.insert(path.substr(0, slash)).second;
-             slash = path.rfind('/', slash - 1)) {
-        }
+        addFoldersAround(path, folders);
+    for (const std::string &path : links_)
+        addFoldersAround(path, folders);
     std::set<std::string> entered;
     for (const std::string &folder : folders) {
         const bool isToBeSeen = folder == top || entered.count(parentOf(folder)) != 0;
@@ -69,6 +80,9 @@ UnsearchedFolders ArchiveTree::searchFolders(const std::string &top, FolderVisit
     for (const auto &[path, entry] : entries_)
         if (entered.count(parentOf(path)) != 0)
             visitor.meetFile(path);
+    for (const std::string &path : links_)
+        if (entered.count(parentOf(path)) != 0)
+            visitor.meetLink(path);
     UnsearchedFolders unsearched;
     unsearched.hasTooDeep = hasTooDeep_;
     return unsearched;

@@ -50,7 +50,8 @@ private:
     std::filesystem::path archive_;
     std::string shownName_;
     bool isZip_ = false;
-    bool hasTooDeep_ = false; ///< entries that are passed over
+    bool hasTooDeep_ = false;        ///< entries that are passed over
+    std::vector<std::string> links_; ///< that are too
     FileStamp state_;
     std::map<std::string, Entry> entries_;
 };

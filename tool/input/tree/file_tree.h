@@ -53,9 +53,9 @@ public:
 
     /// A folder, after those around it. Returns whether to look into it.
     virtual bool enter(const std::string &folder) = 0;
-    /// A file, or a link to one, in a folder that was entered.
+    /// A file in a folder that was entered.
     virtual void meetFile(const std::string &path) = 0;
-    /// A link to a folder elsewhere, which is not followed.
+    /// A link there, which is not followed.
     virtual void meetLink(const std::string &path) = 0;
 };
 

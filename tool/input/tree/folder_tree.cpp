@@ -34,26 +34,27 @@ OpenFolder openFolder(const fs::path &folder)
 struct Entries
 {
     std::vector<std::string> folders;
-    std::vector<std::string> files; ///< and links to such
-    std::vector<std::string> links; ///< to folders
+    std::vector<std::string> files;
+    std::vector<std::string> links; ///< to anything: to look where would change their access times
 };
 
-mode_t kindOf(DIR *parent, const dirent &entry, int flags)
+mode_t kindOf(DIR *parent, const dirent &entry)
 {
+    if (entry.d_type != DT_UNKNOWN)
+        return DTTOIF(entry.d_type);
     struct stat facts = {};
-    return fstatat(dirfd(parent), entry.d_name, &facts, flags) == 0 ? facts.st_mode & S_IFMT : 0;
+    const bool isThere = fstatat(dirfd(parent), entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0;
+    return isThere ? facts.st_mode & S_IFMT : 0;
 }
 
-void add(Entries &entries, DIR *parent, const dirent &entry)
+void add(Entries &entries, const std::string &name, mode_t kind)
 {
-    const bool isKnown = entry.d_type != DT_UNKNOWN;
-    const mode_t kind = isKnown ? DTTOIF(entry.d_type) : kindOf(parent, entry, AT_SYMLINK_NOFOLLOW);
-    const bool isLink = kind == S_IFLNK;
-    const mode_t target = isLink ? kindOf(parent, entry, 0) : kind;
-    if (target == S_IFDIR)
-        (isLink ? entries.links : entries.folders).emplace_back(entry.d_name);
-    else if (target == S_IFREG)
-        entries.files.emplace_back(entry.d_name);
+    if (kind == S_IFDIR)
+        entries.folders.push_back(name);
+    else if (kind == S_IFREG)
+        entries.files.push_back(name);
+    else if (kind == S_IFLNK)
+        entries.links.push_back(name);
 }
 
 Entries entriesOf(const fs::path &folder)
@@ -62,9 +63,9 @@ Entries entriesOf(const fs::path &folder)
     const OpenFolder opened = openFolder(folder);
     errno = 0;
     while (const dirent *const entry = readdir(opened.get())) {
-        const std::string_view name = entry->d_name;
+        const std::string name = entry->d_name;
         if (name != "." && name != "..")
-            add(entries, opened.get(), *entry);
+            add(entries, name, kindOf(opened.get(), *entry));
         errno = 0;
     }
     if (errno != 0)
@@ -105,14 +106,6 @@ std::string FolderTree::shown(const std::string &path) const
     return path.empty() ? shownTop_ : (fs::path(shownTop_) / path).string();
 }
 
-bool FolderTree::leadsBack(const std::string &link) const
-{
-    std::error_code error;
-    const std::string target = fs::canonical(onDisk(link), error).string();
-    const std::string top = error ? "" : fs::canonical(top_, error).string();
-    return !error && isInside(target, top);
-}
-
 UnsearchedFolders FolderTree::searchFolders(const std::string &top, FolderVisitor &visitor) const
 {
     UnsearchedFolders unsearched;
@@ -131,8 +124,7 @@ UnsearchedFolders FolderTree::searchFolders(const std::string &top, FolderVisito
             for (const std::string &name : entries.files)
                 visitor.meetFile(joinedPath(folder, name));
             for (const std::string &name : entries.links)
-                if (!leadsBack(joinedPath(folder, name)))
-                    visitor.meetLink(joinedPath(folder, name));
+                visitor.meetLink(joinedPath(folder, name));
             const bool goesDown = !isDeepest(folder);
             for (const std::string &name : entries.folders)
                 if (goesDown)

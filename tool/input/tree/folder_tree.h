@@ -33,9 +33,6 @@ private:
     /// More than a phone has, in seconds.
     static constexpr std::size_t usualMostFolders = 300'000;
 
-    /// Whether the target of a link lies in the folder, where it has its own place.
-    bool leadsBack(const std::string &link) const;
-
     std::filesystem::path top_;
     std::string shownTop_;
     std::size_t mostFolders_;
