@@ -160,7 +160,7 @@ TEST_P(MissingColumnOf, MakesNoDifference)
         const auto lost = fieldsLostWith({{table, &column}}, GetParam().iosVersion);
         EXPECT_EQ(run.out, "no difference\n");
         EXPECT_EQ(run.status, run.error.empty() ? 0 : 3);
-        if (!run.error.empty()) {
+        if (!run.error.empty() && !lost.empty()) { // or it tells rows apart, and no field
             EXPECT_THAT(
                 run.error,
                 HasSubstr("not compared, as a database lacks columns for them: " + lost.front()));

@@ -101,6 +101,8 @@ public:
 
     /// What of the source is missing.
     const std::vector<SourceFinding> &missing() const { return missing_; }
+    /// What else was met in the search for it.
+    const std::vector<PassedOverNames> &passedOver() const { return passedOver_; }
     /// How far the database was read.
     const CReadReport &report() const { return report_; }
     /// The most rows that a pass was to read.
@@ -135,6 +137,7 @@ private:
     std::string uncounted_;
     LeftOutPhotos leftOutPhotos_;
     std::vector<SourceFinding> missing_;
+    std::vector<PassedOverNames> passedOver_;
     CReadReport report_;
     std::int64_t rowLimit_ = 0;
 };

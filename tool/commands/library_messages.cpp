@@ -1,6 +1,7 @@
 #include "commands/library_messages.h"
 
 #include "catalogue/catalogue_build.h"
+#include "commands/passed_over_words.h"
 #include "commands/problem_words.h"
 #include "commands/reading_stop.h"
 #include "sqlite/sqlite_error.h"
@@ -81,6 +82,8 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
                        Shown shown)
 {
     if (const std::string line = infoOf(library); !line.empty())
+        terminal.printInfo(label + line);
+    if (const std::string line = inWords(library.passedOver()); !line.empty())
         terminal.printInfo(label + line);
     if (const std::string line = leftOutOf(library, shown); !line.empty())
         terminal.printWarning(label + line);

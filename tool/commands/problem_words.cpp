@@ -1,6 +1,7 @@
 #include "commands/problem_words.h"
 
 #include "catalogue/library.h"
+#include "commands/passed_over_words.h"
 #include "commands/reading_stop.h"
 #include "files/output_file.h"
 #include "input/library_search.h"
@@ -8,6 +9,7 @@
 #include "rows/photo_condition.h"
 #include "text/did_you_mean.h"
 #include "text/lists.h"
+#include "text/numbers.h"
 #include "text/translate.h"
 #include "time/time_text.h"
 
@@ -73,6 +75,12 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::EndedSearch, Incomplete,
      translatable("the search of '{0}' ended after {1} folders, so photo libraries in the others "
                   "are not known; name a folder further in")},
+    {SourceProblem::EndedList, Incomplete,
+     translatable("the search of '{0}' ended after {1} photo libraries, so others are not known; "
+                  "name a folder further in")},
+    {SourceProblem::TooDeepFolders, Incomplete,
+     translatable("'{0}' has folders more than {1} deep, where photo libraries are not searched "
+                  "for; name a folder further in")},
     {SourceProblem::UnsearchedPlaces, Incomplete,
      translatable("not all of '{0}' was searched for photo libraries, as not everything in it can "
                   "be read (such places: {1}), the first: {2}")},
@@ -279,14 +287,29 @@ std::string shownName(const LibraryDescription &library)
     const RecordedDevice device = library.device.value_or(RecordedDevice());
     const std::string ios =
         device.iosVersion.empty() ? "" : translate("iOS {0}", device.iosVersion);
-    const std::string date = library.backupDate ? localTimeText(*library.backupDate) : "";
+    const std::optional<FileFacts> &database = library.database;
+    const std::string size =
+        database ? readableSize(static_cast<std::int64_t>(database->size)) : "";
+    const std::string date = library.backupDate ? localTimeText(*library.backupDate)
+                             : database         ? localTimeText(database->modified)
+                                                : "";
     std::vector<std::string> known;
     for (const std::string &fact :
-         {library.deviceName, device.productType, ios, date, encryptionOf(library)})
+         {library.deviceName, device.productType, ios, size, date, encryptionOf(library)})
         if (!fact.empty())
             known.push_back(fact);
     const std::string name = translate("'{0}'", library.name);
     return known.empty() ? name : translate("{0} ({1})", name, listForPeople(known));
+}
+
+/// Where a search did not look, to the end of another sentence.
+std::string appended(const std::vector<SourceFinding> &unsearched,
+                     const std::vector<PassedOverNames> &passedOver)
+{
+    std::string text;
+    for (const SourceFinding &finding : unsearched)
+        text += translate("; ") + inWords(finding).what();
+    return passedOver.empty() ? text : text + translate("; ") + inWords(passedOver);
 }
 
 Failure inWords(const SeveralLibraries &several)
@@ -301,12 +324,16 @@ Failure inWords(const SeveralLibraries &several)
         several.libraries.begin(),
         several.libraries.begin() + static_cast<std::ptrdiff_t>(std::min(count, mostNames)));
     const std::string names = listForPeople(named, shownName);
-    std::string text = translate(
+    const std::string text = translate(
         "'{0}' holds {1}, which iosphoto backups lists; name one of them: {2}", several.source,
         what, count > mostNames ? translate("{0} and more", names) : names);
-    for (const SourceFinding &finding : several.unsearched)
-        text += translate("; ") + inWords(finding).what();
-    return {WrongUsage, text};
+    return {WrongUsage, text + appended(several.unsearched, several.passedOver)};
+}
+
+Failure inWords(const NoLibraryFound &none)
+{
+    const Failure failure = wordsFor(sourceWords, none.finding);
+    return {failure.status(), failure.what() + appended(none.unsearched, none.passedOver)};
 }
 
 Failure inWords(const UnknownField &field)
@@ -367,6 +394,8 @@ ExitStatus runWithWords(const std::function<ExitStatus()> &command)
         throw inWords(there);
     } catch (const NothingRead &nothing) {
         throw inWords(nothing);
+    } catch (const NoLibraryFound &none) {
+        throw inWords(none);
     } catch (const SeveralLibraries &libraries) {
         throw inWords(libraries);
     } catch (const UnknownField &field) {

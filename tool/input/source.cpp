@@ -20,17 +20,24 @@ bool staysBelowMedia(const std::string &mediaPath)
 
 } // namespace
 
-Source::Source(Session &session, const std::string &name) : place_(openPlace(session, name))
+Source::Source(Session &session, const std::string &name)
+    : Source(session, openPlace(session, name))
 {
+}
+
+Source::Source(Session &session, Place place) : place_(std::move(place))
+{
+    const std::string &name = place_.name;
     if (place_.database) {
         layout_ = std::make_unique<LoneDatabase>(*place_.database);
         databaseName_ = isArchive() ? tree().shown(*place_.database) : name;
         return;
     }
-    const LibrarySearch search =
+    LibrarySearch search =
         searchLibraries(session, tree(), place_.top, name, SeveralLibraries::mostCounted);
+    layout_ = onlyLibrary(session, tree(), search, place_.top, name);
     unsearched_ = search.unsearched;
-    layout_ = onlyLibrary(session, tree(), search, name);
+    passedOver_ = namesOf(tree(), search.passedOver);
     databaseName_ = tree().shown(databaseFiles().front().path);
 }
 

@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_SOURCE_H
 
 #include "input/library_layout.h"
+#include "input/passed_over.h"
 #include "input/place.h"
 #include "input/tree/file_tree.h"
 #include "session/session.h"
@@ -23,7 +24,10 @@ public:
     static constexpr const char *databaseFile = "Photos.sqlite";
 
     /// Finds out what it is. Throws when that is nothing to read a library from.
+    /// @{
     Source(Session &session, const std::string &name);
+    Source(Session &session, Place place);
+    /// @}
 
     /// As the user named it.
     const std::string &name() const { return place_.name; }
@@ -45,6 +49,8 @@ public:
     bool isLastChangeWithoutZone() const;
     /// What should be there and is not, and where nobody looked; mostly nothing.
     std::vector<SourceFinding> missing() const;
+    /// What else was met in the search for the library.
+    const std::vector<PassedOverNames> &passedOver() const { return passedOver_; }
     /// The files on disk that are read to read the library, or would be if they were there, as a
     /// write-ahead log; for an archive the archive.
     std::vector<std::filesystem::path> inputs() const;
@@ -72,6 +78,7 @@ private:
 
     Place place_;
     std::vector<SourceFinding> unsearched_;
+    std::vector<PassedOverNames> passedOver_;
     std::unique_ptr<LibraryLayout> layout_;
     std::string databaseName_;
 };

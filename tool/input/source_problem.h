@@ -22,6 +22,8 @@ enum class SourceProblem {
     NoLibrary,              ///< source, path of the database below Media
     NoLibrarySoFar,         ///< source, after how many folders the search ended
     EndedSearch,            ///< source, after how many folders
+    EndedList,              ///< source, after how many libraries
+    TooDeepFolders,         ///< source, how deep the search went
     UnsearchedPlaces,       ///< source, how many, why of the first
     NoSuchEntry,            ///< archive, path in it
     EncryptedArchive,       ///< archive

@@ -12,7 +12,7 @@
 namespace iosphoto::tool {
 
 /// What the values of a column are. Each may be null besides. A Source is a path that a person
-/// gives to the command, and so is never cut.
+/// gives to the command, and so is cut where nothing else helps.
 enum class Type { Flag, Number, Real, Bytes, Text, Path, Source, Time, List };
 
 using Align = TextTable::Align;

@@ -1,7 +1,7 @@
 #include "schema/schema_probe.h"
 
 #include "formats/versions.h"
-#include "schema/asset_tables.h"
+#include "input/photo_databases.h"
 #include "text/lists.h"
 #include "text/translate.h"
 
@@ -15,12 +15,11 @@ namespace {
 
 void requirePhotoDatabase(const CopyDatabase &database)
 {
-    if (database.hasTable("PhotoAlbum") && database.hasTable("PhotoExtras"))
+    if (hasPhotoTablesOfOldIos(database))
         throw SchemaError(SchemaProblem::TooOld,
                           {database.shownName(), std::to_string(oldestSchema().firstIos),
                            std::to_string(newestSchema().lastIos)});
-    if (!database.hasTable("Z_PRIMARYKEY") || !database.hasTable("ZGENERICALBUM") ||
-        !database.hasTable("ZADDITIONALASSETATTRIBUTES") || assetTableOf(database).empty())
+    if (!hasPhotoTables(database))
         throw SchemaError(SchemaProblem::NoPhotoLibrary, {database.shownName()});
 }
 
