@@ -35,6 +35,9 @@ struct SavedAssetType
 constexpr std::int32_t cameraRollSavedTypes[] = {0, 1, SavedAssetType::Camera, 5,
                                                  SavedAssetType::CloudLibrary};
 
+/// ZUNIFORMTYPEIDENTIFIER of videos
+constexpr const char *videoTypes[] = {"com.apple.quicktime-movie", "public.mpeg-4"};
+
 /// ZPLAYBACKSTYLE
 struct PlaybackStyle
 {
@@ -129,6 +132,7 @@ constexpr auto album = "Album";
 constexpr auto photoStreamAlbum = "PhotoStreamAlbum";
 constexpr auto sharedAlbum = "CloudSharedAlbum";
 constexpr auto project = "ProjectAlbum";
+constexpr auto folder = "Folder";
 } // namespace album_entity
 
 } // namespace iosphoto

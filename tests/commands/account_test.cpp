@@ -263,7 +263,7 @@ TEST(LeftOutPhotos, AreInAllFormats)
     EXPECT_EQ(runOn(library, "photos",
                     {"--with-left-out", "--csv", "--fields", "fileName,isSelfie,leftOutBecause"})
                   .out,
-              "fileName,isSelfie,leftOutBecause\r\nA.JPG,false,\r\nB.JPG,,sharedAlbum\r\n");
+              "fileName,isSelfie,leftOutBecause\r\nA.JPG,false,\r\nB.JPG,false,sharedAlbum\r\n");
     EXPECT_EQ(
         runOn(library, "photos", {"--left-out", "--jsonl", "--fields", "fileName,leftOutBecause"})
             .out,
@@ -302,6 +302,70 @@ TEST(LeftOutPhotos, OfWhichThereAreNoneAreSaid)
     LibraryBuilder library(ios15);
     library.asset("A.JPG");
     EXPECT_EQ(runOn(library, "photos", {"--left-out"}).error, "iosphoto: no photo is left out\n");
+}
+
+TEST(LeftOutPhotos, OfAListAreSaidWithoutTheWayToListThem)
+{
+    LibraryBuilder library(ios15);
+    library.asset("A.JPG").set("ZSAVEDASSETTYPE", 4);
+    for (const char *option : {"--left-out", "--with-left-out"})
+        EXPECT_EQ(runOn(library, "photos", {option}).error,
+                  "iosphoto: left out: 1 of a shared album\n");
+}
+
+TEST(LeftOutPhotos, ThatAreAskedForByUuidAreSaidWithTheReason)
+{
+    LibraryBuilder library(ios15);
+    const std::string listed = library.asset("A.JPG").uuid();
+    const std::string leftOut = library.asset("B.JPG").set("ZSAVEDASSETTYPE", 4).uuid();
+    const ToolRun run = runOn(library, "photos", {"--uuid", listed, "--uuid", leftOut});
+    EXPECT_THAT(run.error, HasSubstr("iosphoto: the photo with the uuid '" + leftOut +
+                                     "' is in the database, but left out: of a shared album; "
+                                     "--with-left-out shows it\n"));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(
+        runOn(library, "photos", {"--uuid", leftOut, "--with-left-out", "--fields", "fileName"})
+            .out,
+        "fileName\nB.JPG\n");
+}
+
+TEST(LeftOutPhotos, AreChosenByWhatTheirRowsSay)
+{
+    LibraryBuilder library(ios15);
+    library.asset("A.JPG").set("ZCAMERACAPTUREDEVICE", 1);
+    library.asset("B.JPG").set("ZCAMERACAPTUREDEVICE", 1).set("ZSAVEDASSETTYPE", 4);
+    const auto selfies = [&](const char *shown) {
+        return runOn(library, "photos", {shown, "--kind", "selfie", "--fields", "fileName"}).out;
+    };
+    EXPECT_EQ(selfies("--left-out"), "fileName\nB.JPG\n");
+    EXPECT_EQ(selfies("--with-left-out"), "fileName\nA.JPG\nB.JPG\n");
+}
+
+TEST(LeftOutPhotos, AreVideosAlsoWhereTheKindIsNotTold)
+{
+    LibraryBuilder library(ios15);
+    library.asset("A.MOV").video().set("ZDURATION", 2.5).set("ZSAVEDASSETTYPE", 4);
+    library.execute("alter table ZASSET drop column ZKIND");
+    EXPECT_EQ(
+        runOn(library, "photos", {"--left-out", "--csv", "--fields", "fileName,mediaKind"}).out,
+        "fileName,mediaKind\r\nA.MOV,video\r\n");
+}
+
+TEST(CountsByReason, AreThoseOfTheAccountInTheHeadOfAllDocuments)
+{
+    LibraryBuilder library(ios15);
+    library.asset("A.JPG");
+    library.asset("B.JPG").set("ZSAVEDASSETTYPE", 4);
+    library.asset("C.JPG").trashedAt(readingTime - 31 * days);
+    library.album("Folder").set("ZKIND", 4000);
+    const json account = accountOf(library);
+    EXPECT_EQ(reasons(account["leftOut"]), (json{{"sharedAlbum", 1}, {"trashedTooLong", 1}}));
+    for (const char *command : {"photos", "albums", "info"}) {
+        const json document = json::parse(runOn(library, command, {"--json"}).out);
+        EXPECT_EQ(document["leftOutByReason"], account["leftOut"]);
+        EXPECT_EQ(document["albumsLeftOutByReason"], account["albumsLeftOut"]);
+        EXPECT_EQ(document["leftOut"], 1) << "of the trash";
+    }
 }
 
 class AccountOfRealLibrary : public testing::TestWithParam<RealLibrary>

@@ -159,7 +159,8 @@ TEST_F(ToolBrokenBackup, OneOfSeveralMustBeNamed)
     expectFailure(albums(archive),
                   quoted(archive) +
                       " holds 2 backups, which iosphoto backups lists; name one of them: " +
-                      quoted(archive / "Backup/a") + ", " + quoted(archive / "Backup/b") + "\n",
+                      quoted(archive / "Backup/a") + known + "), " + quoted(archive / "Backup/b") +
+                      known + ", encrypted)\n",
                   2);
     expectWhole(albums(archive / "Backup/a"));
 }

@@ -62,9 +62,22 @@ TEST_F(ToolBackups, AreShownInChineseToo)
                 testing::AllOf(HasSubstr("备份时间"), HasSubstr("未知"), HasSubstr("是")));
 }
 
-TEST_F(ToolBackups, HaveWholePathsOnANarrowTerminal)
+TEST_F(ToolBackups, StayATableOnANarrowTerminal)
 {
-    EXPECT_THAT(runToolOnTerminal({"backups", all_.string()}, 80).out, HasSubstr(old_.string()));
+    const std::string shown = runToolOnTerminal({"backups", all_.string()}, 80).out;
+    EXPECT_THAT(shown, HasSubstr("DEVICE "));
+    EXPECT_THAT(shown, HasSubstr("2023-11-14 "));
+    EXPECT_THAT(shown, HasSubstr(old_.string() + "\n")) << "paths are the last to be cut";
+    EXPECT_THAT(shown, HasSubstr("columns for which the terminal is too narrow: MODEL, IOS"));
+}
+
+TEST_F(ToolBackups, HavePathsThatAreCutOnANarrowTerminalWhereNothingElseHelps)
+{
+    const fs::path deep = all_ / std::string(100, 'd') / "00008110-0003";
+    writeBackup(deep, library_);
+    const std::string shown = runToolOnTerminal({"backups", all_.string()}, 80).out;
+    EXPECT_THAT(shown, HasSubstr("d/00008110-0003\n"));
+    EXPECT_THAT(shown, HasSubstr("PATH is cut"));
 }
 
 TEST_F(ToolBackups, AreRowsOfADocument)
@@ -120,6 +133,76 @@ TEST_F(ToolBackups, CanBeInAnArchive)
     EXPECT_EQ(path, archive / "phones/a/b/00008110-0001");
     EXPECT_EQ(document["libraries"][1]["assetRows"], nullptr);
     expectWhole(albums(path));
+}
+
+TEST_F(ToolBackups, InAnArchiveThatLackFilesAreSaid)
+{
+    BackupOptions options;
+    options.notStored = {mediaLog};
+    writeBackup(all_ / "half", library_, options);
+    options.notStored = {mediaDatabase};
+    writeBackup(all_ / "empty", library_, options);
+    const fs::path archive = packed(all_, folder_ / "all", tar);
+    const ToolRun run = backups({archive.string()});
+    EXPECT_THAT(run.error,
+                testing::AllOf(HasSubstr("the latest changes are missing: the stored file '" +
+                                         (archive / "half").string()),
+                               HasSubstr(quoted(archive / "empty") + " is half a backup")));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolBackups, InAnArchiveThatCannotBeTakenOutAreSaid)
+{
+    const fs::path archive = folder_ / "links.tar";
+    ArchiveBuilder(archive, tar)
+        .add("a.db", "x")
+        .addHardLink("phone/PhotoData/Photos.sqlite", "a.db");
+    const ToolRun run = backups({archive.string()});
+    EXPECT_THAT(run.out, HasSubstr((archive / "phone").string() + "\n"));
+    EXPECT_THAT(run.error, HasSubstr(quoted(archive / "phone/PhotoData/Photos.sqlite") +
+                                     ": it is a link to another entry"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolBackups, AreNotFilesThatAreNoPhotoDatabases)
+{
+    writeFile(folder_ / "README.md", "read me");
+    writeFile(folder_ / "empty.sqlite", "");
+    expectFailure(backups({(folder_ / "README.md").string()}),
+                  quoted(folder_ / "README.md") + " is not a SQLite database", 4);
+    expectFailure(backups({(folder_ / "empty.sqlite").string()}),
+                  quoted(folder_ / "empty.sqlite") + " is empty", 4);
+    fs::create_directory(folder_ / "junk");
+    for (const char *const name : {"junk/a.sqlite", "junk/b.sqlite"})
+        fs::copy_file(folder_ / "empty.sqlite", folder_ / name);
+    const fs::path archive = packed(folder_ / "junk", folder_ / "junk", tar);
+    for (const fs::path &place : {folder_ / "junk", archive}) {
+        const ToolRun run = backups({place.string()});
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.error,
+                    HasSubstr("2 files that are no photo databases: " + quoted(place / "a.sqlite") +
+                              ", " + quoted(place / "b.sqlite") + "\n"));
+        EXPECT_EQ(run.status, 4);
+    }
+}
+
+TEST_F(ToolBackups, StandBesideLoneDatabases)
+{
+    putMedia(all_, "Photos.sqlite");
+    const json document = documentOf(all_);
+    ASSERT_EQ(document["libraries"].size(), 3U);
+    EXPECT_EQ(document["libraries"].back()["path"], (all_ / "Photos.sqlite").string());
+    EXPECT_EQ(document["libraries"].back()["sourceKind"], "database");
+}
+
+TEST_F(ToolBackups, OfStandardInputHaveItsName)
+{
+    library_.execute("pragma wal_checkpoint(truncate)");
+    const ToolRun run = runToolOnPipe(readFile(library_.path()), {"backups", "-", "--jsonl"});
+    ASSERT_TRUE(json::accept(run.out)) << run.error;
+    EXPECT_EQ(json::parse(run.out)["path"], "-");
+    EXPECT_EQ(json::parse(run.out)["assetRows"], 1);
+    expectFailure(runToolOnPipe("read me", {"backups", "-"}), "'-' is not a SQLite database", 4);
 }
 
 TEST_F(ToolBackups, ThatAreNotFinishedAreSaid)

@@ -54,7 +54,8 @@ TEST_F(ToolBadInput, PathThatNamesNoFile)
     const fs::path pipe = folder_ / "pipe";
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
     expectFailure(runTool({"albums", pipe.string()}),
-                  "cannot read " + quoted(pipe) + ": it is not a file; name a file", 3);
+                  "cannot read " + quoted(pipe) + ": it is a pipe; send it through standard input",
+                  3);
 }
 
 TEST_F(ToolBadInput, FileThatThisUserMayNotRead)

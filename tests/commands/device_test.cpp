@@ -122,8 +122,8 @@ TEST(ToolNewerLibrary, WhoseTablesAreNotKnownAsksForANewerTool)
     expectFailure(albums(library),
                   "'" + library.path() +
                       "' is a photo database of iOS 27, whose schema is not known yet (no such "
-                      "column: ZFILENAME); look for a newer iosphoto, or send this output of "
-                      "'iosphoto info' to its makers\n",
+                      "column: ZFILENAME); look for a newer iosphoto, or run 'iosphoto info' "
+                      "on it and send what that prints to the makers\n",
                   5);
 }
 

@@ -60,17 +60,50 @@ protected:
     /// @param isChanged  whether it is the photo that was edited and made a favorite
     static json facts(const char *fileName, const char *time, int width, bool isChanged)
     {
-        return {{"directory", "DCIM/100APPLE"},
-                {"fileName", fileName},
-                {"created", time},
-                {"modified", time},
-                {"fileSize", 1000},
-                {"width", width},
-                {"height", 3024},
-                {"isEdited", isChanged},
-                {"isFavorite", isChanged},
-                {"isHidden", false},
-                {"isDeleted", false}};
+        json facts = {{"originalFileName", nullptr},
+                      {"duration", 0.0},
+                      {"added", time},
+                      {"trashed", nullptr},
+                      {"burstUuid", nullptr}};
+        for (const char *flag :
+             {"isBurstPick", "isVideo", "isTimelapse", "isSlomo", "isScreenRecording", "isPanorama",
+              "isBurst", "isScreenshot", "isLivePhoto", "isSelfie", "isPortrait", "isAnimated",
+              "isRaw", "isProRes"})
+            facts[flag] = false;
+        facts.update({{"directory", "DCIM/100APPLE"},
+                      {"fileName", fileName},
+                      {"created", time},
+                      {"modified", time},
+                      {"fileSize", 1000},
+                      {"width", width},
+                      {"height", 3024},
+                      {"isEdited", isChanged},
+                      {"isFavorite", isChanged},
+                      {"isHidden", false},
+                      {"isDeleted", false}});
+        return facts;
+    }
+
+    /// The columns behind those of the facts above.
+    static std::string others(const std::string &side)
+    {
+        std::string columns;
+        for (const char *fact :
+             {"originalFileName", "duration", "added", "trashed", "burstUuid", "isBurstPick",
+              "isVideo", "isTimelapse", "isSlomo", "isScreenRecording", "isPanorama", "isBurst",
+              "isScreenshot", "isLivePhoto", "isSelfie", "isPortrait", "isAnimated", "isRaw",
+              "isProRes"})
+            columns += (columns.empty() ? "" : ",") + side + "." + fact;
+        return columns;
+    }
+
+    /// What stands in them of a photo that is nothing special.
+    static std::string plain(const std::string &day)
+    {
+        std::string cells = ",0," + day + "T10:40:00Z,,";
+        for (int flags = 0; flags < 14; ++flags)
+            cells += ",false";
+        return cells;
     }
 
     TwoSnapshots phone_;
@@ -140,15 +173,21 @@ TEST_F(ToolDiffOutput, CsvHasTheFactsAsColumns)
         (ToolRun{
             "uuid,path,changes,addedTo,removedFrom,changedFields,before.directory,before.fileName,"
             "before.created,before.modified,before.fileSize,before.width,before.height,"
-            "before.isEdited,before.isFavorite,before.isHidden,before.isDeleted,after.directory,"
-            "after.fileName,after.created,after.modified,after.fileSize,after.width,after.height,"
-            "after.isEdited,after.isFavorite,after.isHidden,after.isDeleted\r\n"
-            "A0000000-0000-0000-0000-000000000001,DCIM/100APPLE/IMG_0001.JPG,\"edited; moved; "
-            "changed\",\"Line\n🎉\",,isFavorite,DCIM/100APPLE,IMG_0001.JPG," +
-                time + ",1000,4032,3024,false,false,false,false,DCIM/100APPLE,IMG_0001.JPG," +
-                time +
-                ",1000,100,3024,true,true,false,false\r\n"
+            "before.isEdited,before.isFavorite,before.isHidden,before.isDeleted," +
+                others("before") +
+                ",after.directory,after.fileName,after.created,after.modified,after.fileSize,"
+                "after.width,after.height,after.isEdited,after.isFavorite,after.isHidden,"
+                "after.isDeleted," +
+                others("after") +
+                "\r\n"
+                "A0000000-0000-0000-0000-000000000001,DCIM/100APPLE/IMG_0001.JPG,\"edited; moved; "
+                "changed\",\"Line\n🎉\",,isFavorite,DCIM/100APPLE,IMG_0001.JPG," +
+                time + ",1000,4032,3024,false,false,false,false," + plain("2020-01-05") +
+                ",DCIM/100APPLE,IMG_0001.JPG," + time + ",1000,100,3024,true,true,false,false," +
+                plain("2020-01-05") +
+                "\r\n"
                 "OLD,DCIM/100APPLE/=IMG_0002.JPG,gone,,,,DCIM/100APPLE,'=IMG_0002.JPG," +
-                oldTime + ",1000,4032,3024,false,false,false,false,,,,,,,,,,,\r\n",
+                oldTime + ",1000,4032,3024,false,false,false,false," + plain("2020-01-04") +
+                std::string(30, ',') + "\r\n",
             "", 1}));
 }

@@ -63,6 +63,38 @@ const PhotoStory photoStories[] = {
      "1 changed", [](AssetRow &, AssetRow &now) { now.set("ZFILENAME", "Party\n🎉.JPG"); }},
     {"Dated", "changed  DCIM/100APPLE/IMG_0002.JPG  has another time of creation", "1 changed",
      [](AssetRow &, AssetRow &now) { now.set("ZDATECREATED", 1000); }},
+    {"Undated", "changed  DCIM/100APPLE/IMG_0002.JPG  differs in created", "1 changed",
+     [](AssetRow &old, AssetRow &now) {
+         old.set("ZDATECREATED", 0);
+         now.set("ZDATECREATED", nullptr);
+     }},
+    {"ModifiedAlone", "changed  DCIM/100APPLE/IMG_0002.JPG  differs in modified", "1 changed",
+     [](AssetRow &, AssetRow &now) { now.set("ZMODIFICATIONDATE", 600000000); }},
+    {"InAnotherFolder", "changed  DCIM/101APPLE/IMG_0002.JPG  was in DCIM/100APPLE", "1 changed",
+     [](AssetRow &, AssetRow &now) { now.set("ZDIRECTORY", "DCIM/101APPLE"); }},
+    {"OfOtherSizesWithoutAnEdit",
+     "changed  DCIM/100APPLE/IMG_0002.JPG  differs in width, height, fileSize", "1 changed",
+     [](AssetRow &, AssetRow &now) {
+         now.set("ZWIDTH", 1).set("ZHEIGHT", 2).set("ZORIGINALFILESIZE", 3);
+     }},
+    {"OfAnotherOrigin",
+     "changed  DCIM/100APPLE/IMG_0002.JPG  differs in originalFileName, duration, added",
+     "1 changed",
+     [](AssetRow &, AssetRow &now) {
+         now.set("ZORIGINALFILENAME", "X").set("ZDURATION", 1.5).set("ZADDEDDATE", 7);
+     }},
+    {"OfAnotherKind", "changed  DCIM/100APPLE/IMG_0002.JPG  differs in isSelfie", "1 changed",
+     [](AssetRow &, AssetRow &now) { now.set("ZCAMERACAPTUREDEVICE", 1); }},
+    {"TrashedAgain", "changed  DCIM/100APPLE/IMG_0002.JPG  differs in trashed", "1 changed",
+     [](AssetRow &old, AssetRow &now) {
+         old.trashedAt(600000000);
+         now.trashedAt(600100000);
+     }},
+    {"TrashedWithAnotherChange",
+     "trashed, changed  DCIM/100APPLE/IMG_0002.JPG  differs in modified", "1 trashed, 1 changed",
+     [](AssetRow &, AssetRow &now) {
+         now.trashedAt(600000000).set("ZMODIFICATIONDATE", 600000000);
+     }},
     {"SeveralThings",
      "edited, changed  DCIM/100APPLE/Party.JPG  now a favorite, was named IMG_0002.JPG",
      "1 edited, 1 changed",

@@ -22,12 +22,28 @@ TEST(ToolDiff, OfALibraryWithItselfIsEmpty)
     EXPECT_EQ(run, (ToolRun{"no difference\n", "", 0}));
 }
 
-TEST(ToolDiff, ChangeOfModificationTimeAloneIsNoEdit)
+TEST(ToolDiff, NumbersThatTheDatabaseAndTheCacheGiveAreNotCompared)
 {
     TwoSnapshots phone;
     phone.before.asset("IMG_0001.JPG");
-    phone.after.asset("IMG_0001.JPG").set("ZMODIFICATIONDATE", 600000000);
+    phone.after.asset("IMG_0001.JPG").set("ZTHUMBNAILINDEX", 77);
+    phone.after.execute("update ZADDITIONALASSETATTRIBUTES set ZASSET = 9; "
+                        "update ZASSET set Z_PK = 9");
     EXPECT_EQ(phone.diff(), (ToolRun{"no difference\n", "", 0}));
+}
+
+TEST(ToolDiff, WhatIsLeftOutIsSaidNotToBeCompared)
+{
+    TwoSnapshots phone;
+    phone.before.asset("IMG_0001.JPG");
+    phone.after.asset("IMG_0001.JPG");
+    phone.after.asset("IMG_0002.JPG").set("ZSAVEDASSETTYPE", 4);
+    const ToolRun run = phone.diff();
+    EXPECT_EQ(run.out, "no difference\n");
+    EXPECT_THAT(run.error,
+                HasSubstr("iosphoto: what the catalogues leave out is not compared, and A "
+                          "has other numbers of it than B, as iosphoto info shows\n"));
+    EXPECT_EQ(run.status, 0);
 }
 
 TEST(ToolDiff, NewPhotosComeInTheOrderOfTheLibraryAndGonePhotosBehindThem)
@@ -57,7 +73,8 @@ TEST(ToolDiff, PhotosAreMatchedWhateverTheirOrder)
     phone.after.asset("IMG_0002.JPG").set("ZUUID", "Y");
     phone.after.asset("IMG_0001.JPG").set("ZUUID", "X").set("ZFAVORITE", 1);
     for (LibraryBuilder *library : {&phone.before, &phone.after})
-        library->execute("update ZASSET set ZDATECREATED = 7");
+        library->execute("update ZASSET set ZDATECREATED = 7, ZMODIFICATIONDATE = 7, "
+                         "ZADDEDDATE = 7");
     EXPECT_EQ(rowsAndSummary(phone.diff()),
               "changed  DCIM/100APPLE/IMG_0001.JPG  now a favorite\n\n1 changed\n");
 }

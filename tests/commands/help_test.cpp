@@ -111,6 +111,12 @@ TEST(Help, NamesTheZoneOfTimes)
     }
 }
 
+TEST(Help, NamesTheZoneThatTimesAreOfWhereTheNameOfTheZoneIsNone)
+{
+    EXPECT_THAT(runTool({"photos", "--help"}, {{"TZ", "Nonsense/Zone"}}).out,
+                HasSubstr("here of the zone UTC, unless Z "));
+}
+
 TEST(Help, HasArgumentsThatMayBeLeftOutInBrackets)
 {
     const std::string optional = runTool({"statements", "--help"}).out;

@@ -2,11 +2,13 @@
 
 #include "support/archive_builder.h"
 #include "support/case_name.h"
+#include "text/numbers.h"
 
 #include <array>
 #include <cstdio>
 
 using namespace iosphoto::test;
+using iosphoto::tool::readableSize;
 using testing::HasSubstr;
 
 namespace fs = std::filesystem;
@@ -91,12 +93,14 @@ TEST_F(ToolHostileArchive, SeveralLibraries)
     ArchiveBuilder(archive_, zip)
         .add("a/PhotoData/Photos.sqlite", database_)
         .add("b/private/var/mobile/Media/PhotoData/Photos.sqlite", database_);
+    const std::string facts = " (" + readableSize(static_cast<std::int64_t>(database_.size())) +
+                              ", 2020-09-13 12:26 UTC)";
     expectFailure(albumsOfArchive(),
                   quoted(archive_) +
                       " holds 2 photo libraries, which iosphoto backups lists; name one of "
                       "them: " +
-                      quoted(archive_ / "a") + ", " +
-                      quoted(archive_ / "b/private/var/mobile/Media") + "\n",
+                      quoted(archive_ / "a") + facts + ", " +
+                      quoted(archive_ / "b/private/var/mobile/Media") + facts + "\n",
                   2);
 }
 
@@ -110,7 +114,8 @@ TEST_F(ToolHostileArchive, MoreLibrariesThanCanBeNamed)
         }
         std::string names;
         for (int i = 100; i < 105; ++i)
-            names += (i > 100 ? ", " : "") + quoted(archive_ / std::to_string(i));
+            names += (i > 100 ? ", " : "") + quoted(archive_ / std::to_string(i)) +
+                     " (1 byte, 2020-09-13 12:26 UTC)";
         return std::pair(albumsOfArchive(), ", which iosphoto backups lists; name one of them: " +
                                                 names + " and more\n");
     };

@@ -169,10 +169,51 @@ TEST_F(ToolIncompleteLog, ChangeWithoutACommitIsSaidAndIsNoDamage)
     ASSERT_GT(log.size(), log_.size() + 2 * frameSize);
     const ToolRun run = runWith(log.substr(0, log_.size() + 2 * frameSize));
     EXPECT_THAT(run.out, HasSubstr("fourth.JPG"));
-    EXPECT_EQ(run.error, "iosphoto: the -wal of '" + copy_ +
-                             "' ends in a change without a commit, as of a device that was still "
-                             "writing, or gave it up; it is left out\n");
+    EXPECT_EQ(run.error,
+              "iosphoto: the -wal of '" + copy_ +
+                  "' ends in a change without a commit, which is left out: either the "
+                  "device was still writing it or gave it up, and nothing is missing, or "
+                  "the log was cut or damaged there, and the change is\n");
     EXPECT_EQ(run.status, 0);
+}
+
+TEST_F(ToolIncompleteLog, ZerosAtItsEndAreSaidAndAreNoDamage)
+{
+    for (const std::size_t zeros : {std::size_t(100), frameSize, 2 * frameSize + 100}) {
+        const ToolRun run = runWith(log_ + std::string(zeros, '\0'));
+        EXPECT_THAT(run.out, HasSubstr("fourth.JPG"));
+        EXPECT_EQ(run.error, "iosphoto: the -wal of '" + copy_ +
+                                 "' ends in zeros: either a copy was padded with them, and nothing "
+                                 "is missing, or they replaced changes, and these are\n");
+        EXPECT_EQ(run.status, 0);
+    }
+    const ToolRun run =
+        runWith(log_.substr(0, headerSize + frameSize) + std::string(frameSize, '\0') +
+                log_.substr(headerSize + 2 * frameSize));
+    EXPECT_EQ(run.error, damaged("1 of at least 3; later changes are missing"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolIncompleteLog, HeaderAloneIsSaid)
+{
+    const ToolRun run = runWith(log_.substr(0, headerSize), "info", {"--quiet"});
+    EXPECT_THAT(run.out, HasSubstr("\n\nThe write-ahead log (-wal) holds no commit, so it changes "
+                                   "nothing.\n"));
+    EXPECT_EQ(run.error,
+              "iosphoto: the -wal of '" + copy_ +
+                  "' has a header and no change: either none was written yet, and nothing "
+                  "is missing, or the log was cut behind its header, and its changes "
+                  "are\n");
+    EXPECT_EQ(run.status, 0);
+}
+
+TEST_F(ToolIncompleteLog, WithoutAGoodCommitChangesNothing)
+{
+    const ToolRun run = runWith(changed(headerSize + 500), "info");
+    EXPECT_THAT(run.out,
+                HasSubstr("\n\nNo commit of the write-ahead log (-wal) is good, so nothing "
+                          "of it is shown.\n"));
+    EXPECT_EQ(run.status, 1);
 }
 
 TEST_F(ToolIncompleteLog, ThatWasBegunAnewIsComplete)

@@ -159,11 +159,11 @@ TEST_F(ToolInfoLog, ListsFactsByWhichNoSnapshotsAreToldApart)
 {
     AssetRow photo = library_.asset("A.JPG");
     beginLog();
-    photo.set("ZORIGINALFILESIZE", 77).set("ZMODIFICATIONDATE", 7);
+    photo.set("ZTHUMBNAILINDEX", 77);
     EXPECT_THAT(changes(), ElementsAre("changed DCIM/100APPLE/A.JPG"));
-    EXPECT_EQ(log()["changes"][0]["changedFacts"], json({"fileSize", "modified"}));
-    EXPECT_THAT(shown(), HasSubstr("changed          DCIM/100APPLE/A.JPG  differs in fileSize, "
-                                   "modified "));
+    EXPECT_EQ(log()["changes"][0]["changedFacts"], json({"thumbnailIndex"}));
+    EXPECT_THAT(shown(),
+                HasSubstr("changed          DCIM/100APPLE/A.JPG  differs in thumbnailIndex "));
 }
 
 TEST_F(ToolInfoLog, ListsAnotherDayOfTheTrash)
@@ -178,10 +178,12 @@ TEST_F(ToolInfoLog, SaysThatItChangesNothingThatIsShown)
 {
     AssetRow photo = library_.asset("A.JPG");
     AssetRow ofASharedAlbum = library_.asset("B.JPG").set("ZSAVEDASSETTYPE", 4);
+    AlbumRow folder = library_.album("Folder").set("ZKIND", 4000);
     beginLog();
     library_.execute("create table other (a)");
     photo.set("Z_OPT", 7);
-    ofASharedAlbum.trashedAt(600'000'000).set("ZFILENAME", "C.JPG");
+    ofASharedAlbum.set("Z_OPT", 7);
+    folder.set("ZTITLE", "Other");
     EXPECT_EQ(shown(), "The write-ahead log (-wal) changes nothing that is shown.\n");
     EXPECT_THAT(log()["changes"], IsEmpty());
     EXPECT_THAT(log()["albums"], IsEmpty());
@@ -204,10 +206,101 @@ TEST_F(ToolInfoLog, SaysThatItChangesTheOrderOnly)
     beginLog();
     library_.execute("update ZGENERICALBUM set Z_PK = Z_PK + 100 where ZTITLE = 'One'");
     ASSERT_NE(order(), before);
-    EXPECT_EQ(shown(),
-              "The write-ahead log (-wal) changes the order of albums or photos and nothing "
-              "else that is shown.\n");
+    EXPECT_EQ(
+        shown(),
+        "The write-ahead log (-wal) changes the order of albums or photos, or kinds or counts "
+        "of albums and nothing else that is shown.\n");
     EXPECT_EQ(log()["isInOtherOrder"], true);
+}
+
+TEST_F(ToolInfoLog, ListsPhotosThatAreLeftOutInAnotherWay)
+{
+    library_.asset("KEPT.JPG");
+    AssetRow now = library_.asset("NOW.JPG");
+    AssetRow noLonger = library_.asset("NO_LONGER.JPG").set("ZSAVEDASSETTYPE", 4);
+    AssetRow other = library_.asset("OTHER.JPG").set("ZFILENAME", nullptr);
+    AssetRow favorite = library_.asset("FAVORITE.JPG").set("ZSAVEDASSETTYPE", 4);
+    beginLog();
+    now.set("ZSAVEDASSETTYPE", 4);
+    noLonger.set("ZSAVEDASSETTYPE", 3);
+    other.set("ZSAVEDASSETTYPE", 4);
+    favorite.set("ZFAVORITE", 1);
+    AssetRow added = library_.asset("ADDED.JPG").set("ZSAVEDASSETTYPE", 4);
+
+    const std::string text = shown();
+    EXPECT_THAT(text,
+                HasSubstr("left out            DCIM/100APPLE/NOW.JPG        of a shared album "
+                          "                                       " +
+                          now.uuid()));
+    EXPECT_THAT(text, HasSubstr("no longer left out  DCIM/100APPLE/NO_LONGER.JPG  of a shared "
+                                "album "));
+    EXPECT_THAT(text, HasSubstr("of a shared album; without the log: without a file name  " +
+                                other.uuid()));
+    EXPECT_THAT(text, HasSubstr("left out            DCIM/100APPLE/FAVORITE.JPG   of a shared "
+                                "album; differs in isFavorite "));
+    EXPECT_THAT(text, HasSubstr("left out            DCIM/100APPLE/ADDED.JPG      of a shared "
+                                "album "));
+    const json leftOut = log()["leftOut"];
+    ASSERT_EQ(leftOut.size(), 5U);
+    EXPECT_EQ(leftOut[1], json::parse(R"({"uuid": ")" + other.uuid() +
+                                      R"(", "path": "DCIM/100APPLE/", "before": "withoutFileName",
+                                         "after": "sharedAlbum",
+                                         "changedFacts": ["leftOutBecause"]})"));
+    EXPECT_EQ(leftOut[3]["uuid"], added.uuid());
+    EXPECT_EQ(leftOut[3]["before"], nullptr);
+    EXPECT_EQ(leftOut[4]["uuid"], noLonger.uuid());
+    EXPECT_EQ(leftOut[4]["after"], nullptr);
+}
+
+TEST_F(ToolInfoLog, CountsTheRowsOfTheDatabaseWithoutItToo)
+{
+    library_.asset("KEPT.JPG");
+    AssetRow photo = library_.asset("A.JPG").set("ZFILENAME", nullptr);
+    AlbumRow folder = library_.album("Folder").set("ZKIND", 4000);
+    beginLog();
+    folder.set("ZTRASHEDSTATE", 1).set("ZKIND", 2);
+    EXPECT_THAT(info().out, HasSubstr("IN THE DATABASE                  COUNT  WITHOUT THE LOG\n"
+                                      "photos                               2                2\n"
+                                      "- listed                             1                1\n"
+                                      "- left out: without a file name      1                1\n"
+                                      "albums                               1                1\n"
+                                      "- listed                             0                0\n"
+                                      "- left out: folder                   0                1\n"
+                                      "- left out: in the trash             1                0\n"));
+    EXPECT_EQ(shown(), "The write-ahead log (-wal) changes the numbers of rows in the database and "
+                       "nothing else that is shown.\n");
+    EXPECT_EQ(log()["without"]["account"]["albumsLeftOut"]["folder"], 1);
+    photo.set("ZSAVEDASSETTYPE", 4);
+    EXPECT_EQ(log()["without"]["account"]["leftOut"]["withoutFileName"], 1);
+    EXPECT_EQ(log()["without"]["account"]["leftOut"]["sharedAlbum"], 0);
+}
+
+TEST_F(ToolInfoLog, ListsWhatTheTrashLeavesOutOnce)
+{
+    AssetRow trashed = library_.asset("A.JPG");
+    AssetRow favorite = library_.asset("B.JPG").trashedAt(500'000'000);
+    library_.asset("C.JPG");
+    beginLog();
+    trashed.trashedAt(500'000'000);
+    favorite.set("ZORIGINALFILESIZE", 77);
+    const json log = this->log();
+    EXPECT_EQ(log["without"]["account"]["leftOut"]["trashedTooLong"], 1);
+    EXPECT_THAT(changes(),
+                ElementsAre("trashed DCIM/100APPLE/A.JPG", "changed DCIM/100APPLE/B.JPG"));
+    EXPECT_THAT(log["leftOut"], IsEmpty()) << "they are among the changes";
+}
+
+TEST_F(ToolInfoLog, NamesTheSchemaThatIsNotInIt)
+{
+    library_.asset("A.JPG");
+    library_.madeBy(15331, "19A346");
+    beginLog();
+    library_.madeBy(16320, "20A362");
+    EXPECT_THAT(info().out,
+                HasSubstr("Without the write-ahead log (-wal) the schema is iOS 15 to 17, "
+                          "model 15331, build 19A346.\n"));
+    EXPECT_EQ(log()["without"]["build"], "19A346");
+    EXPECT_THAT(info().out, HasSubstr("changes the schema and nothing else that is shown.\n"));
 }
 
 TEST_F(ToolInfoLog, KnowsWhatTheTrashLeavesOut)

@@ -39,6 +39,18 @@ TEST(MissingDates, AreTextsToo)
     EXPECT_THAT(shown(library), HasSubstr("A.JPG,,,,"));
 }
 
+TEST(MissingDates, AreTextsThatBeginWithANumberToo)
+{
+    LibraryBuilder library(ios15);
+    library.asset("A.JPG")
+        .set("ZDATECREATED", "2017-05-05")
+        .set("ZMODIFICATIONDATE", "2017-05-05")
+        .set("ZADDEDDATE", "2017-05-05");
+    library.asset("B.JPG").set("ZDATECREATED", "2017-05-05").set("ZSAVEDASSETTYPE", 4);
+    EXPECT_EQ(shown(library), "A.JPG,,,,,\r\n");
+    EXPECT_THAT(shown(library, dates, {"--left-out"}), HasSubstr("B.JPG,,,,"));
+}
+
 TEST(MissingDates, AreNotThoseOfTheBeginningOf2001)
 {
     LibraryBuilder library(ios15);

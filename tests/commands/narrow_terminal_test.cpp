@@ -167,6 +167,20 @@ TEST(TerminalOf80Columns, ShortensTheListOfAlbums)
     EXPECT_THAT(out, HasSubstr("too narrow: PIXELS, SIZE"));
 }
 
+TEST(TerminalOf80Columns, KeepsTheReasonsOfWhatIsLeftOutWhole)
+{
+    LibraryBuilder library(ios15);
+    fillWithWideCells(library);
+    const char *const longest = "of a kind that the catalogue does not take";
+    library.asset("IMG_WITH_A_RATHER_LONG_NAME_4000.HEIC").set("Z_ENT", 99);
+    for (const char *option : {"--left-out", "--with-left-out"}) {
+        const std::string out = shownAt80(library, {"photos", option});
+        EXPECT_THAT(out, HasSubstr(longest));
+        EXPECT_THAT(out, HasSubstr("in the trash for 30 days"));
+        EXPECT_THAT(out, HasSubstr("LEFT OUT"));
+    }
+}
+
 TEST(TerminalOf80Columns, LeavesOutNoFieldThatWasChosen)
 {
     LibraryBuilder library(ios15);

@@ -125,13 +125,38 @@ TEST(ToolPhotoFilters, UuidsThatNoPhotoHasAndNamesOfNoFileAreWrongUsage)
     const ManyKinds many;
     const std::string there = many.uuidOfTheFirst();
     expectFailure(runOn(many.library(), "photos", {"--uuid", there, "--uuid", "B1-C2"}),
-                  "no photo of the catalogue has the uuid 'B1-C2'; 'iosphoto photos " +
-                      many.library().path() + " --frames --fields uuid,path' lists them\n",
+                  "no photo of the database has the uuid 'B1-C2'; 'iosphoto photos " +
+                      many.library().path() +
+                      " --frames --with-left-out --fields uuid,path' lists them\n",
                   2);
     expectFailure(runOn(many.library(), "photos", {"--name", ""}), "--name: names no file", 2);
     expectFailure(runOn(many.library(), "photos", {"--uuid="}), "--uuid requires a value", 2);
     expectFailure(runOn(many.library(), "photos", {"--uuid", "--"}),
                   "--uuid: '--' should look like 5A3D1F00-0000-4000-8000-000000000001", 2);
+}
+
+TEST(ToolPhotoFilters, PhotosWithoutADateThatATimeLeavesOutAreCounted)
+{
+    LibraryBuilder library(ios15);
+    library.asset("DATED.JPG");
+    for (const char *name : {"A.JPG", "B.JPG"})
+        library.asset(name).set("ZDATECREATED", nullptr).set("ZFAVORITE", 1);
+    library.asset("C.JPG").set("ZDATECREATED", nullptr);
+    const auto error = [&](std::vector<std::string> options) {
+        options.insert(options.end(), {"--quiet", "--fields", "fileName"});
+        return runOn(library, "photos", options).error;
+    };
+    const std::string three = "iosphoto: 3 photos are not shown, as they have no time of creation, "
+                              "by which --since and --until choose\n";
+    EXPECT_EQ(error({"--since", "2019"}), three);
+    EXPECT_EQ(error({"--until", "now", "--json"}), three);
+    EXPECT_EQ(error({"--until", "now", "--limit", "1"}), three);
+    EXPECT_EQ(error({"--since", "2019", "--name", "C*"}),
+              "iosphoto: 1 photo is not shown, as it has no time of creation, by which --since and "
+              "--until choose\n"
+              "iosphoto: none of the 4 photos fits; leave out an option to see more\n");
+    EXPECT_EQ(error({"--since", "2019", "--name", "D*"}), "");
+    EXPECT_EQ(error({"--favorite"}), "");
 }
 
 TEST(ToolPhotoFilters, ListsOfAnOptionEndWhereTheSourceBegins)
@@ -178,6 +203,10 @@ TEST(ToolPhotoFilters, MistakesAreWrongUsage)
                   "'2024-05-01 12:30', 2024-05-01T12:30:00Z, yesterday, 7d or now\n",
                   2);
     expectFailure(photos({"--until", "2020-13-01"}), "--until: '2020-13-01' is no time", 2);
+    expectFailure(photos({"--since", "2020-01-02", "--until", "2020-01-01"}),
+                  "--since (2020-01-02 00:00 UTC) is later than --until (2020-01-01 23:59 UTC), so "
+                  "no photo fits both; exchange them\n",
+                  2);
     expectFailure(photos({"--within", "3"}), "--within requires --deleted", 2);
     expectFailure(photos({"--deleted", "--within", "-1"}), "--within: '-1' should look like 7", 2);
     expectFailure(photos({"--deleted", "--within", "99999999999"}),

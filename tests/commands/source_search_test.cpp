@@ -1,4 +1,4 @@
-// Where in a folder or an archive the tool looks for a library.
+// Where in a folder or an archive the tool looks for a library, and what it says of the rest.
 #include "support/archive_builder.h"
 #include "support/source_folder.h"
 
@@ -42,9 +42,154 @@ TEST_F(ToolSourceSearch, FollowsNoLinks)
     putMedia(folder_ / "elsewhere");
     fs::create_directory_symlink(folder_ / "elsewhere", folder_ / "case/link");
     fs::create_directory_symlink(folder_ / "case", folder_ / "case/loop");
-    expectFailure(albums(folder_ / "case"), quoted(folder_ / "case") + " holds no photo library",
-                  4);
+    const ToolRun run = albums(folder_ / "case");
+    expectFailure(run, quoted(folder_ / "case") + " holds no photo library", 4);
+    EXPECT_THAT(run.error, HasSubstr("; passed over in the search for photo libraries: 2 links, "
+                                     "which are not followed: " +
+                                     quoted(folder_ / "case/link") + ", " +
+                                     quoted(folder_ / "case/loop") + "\n"));
 }
+
+TEST_F(ToolSourceSearch, NamesLinksInAnArchive)
+{
+    const fs::path archive = folder_ / "links.tar";
+    ArchiveBuilder(archive, tar)
+        .addFolder(putMedia(folder_ / "Media"), "a/Media")
+        .addLink("b/Photos.sqlite", "../a/Media/PhotoData/Photos.sqlite");
+    const ToolRun run = albums(archive);
+    expectWhole(run);
+    EXPECT_THAT(run.error, HasSubstr("1 link, which is not followed: " +
+                                     quoted(archive / "b/Photos.sqlite") + "\n"));
+}
+
+TEST_F(ToolSourceSearch, TakesALinkToADatabaseForThatOne)
+{
+    putMedia(folder_ / "elsewhere", "a.sqlite");
+    fs::create_directories(folder_ / "case");
+    fs::create_symlink(folder_ / "elsewhere/a.sqlite", folder_ / "case/Photos.sqlite");
+    fs::create_symlink(folder_ / "elsewhere/a.sqlite-wal", folder_ / "case/Photos.sqlite-wal");
+    expectWhole(albums(folder_ / "case"));
+}
+
+TEST_F(ToolSourceSearch, NamesWhatItPassesOverInOneLineThatQuietHides)
+{
+    putMedia(folder_ / "case/phone/Media");
+    putMedia(folder_ / "case/Library/Photos/Libraries/Syndication", "Photos.sqlite");
+    for (const char *const name : {"a.zip", "b.tar.gz", "c.7z", "d.tar"})
+        writeFile(folder_ / "case" / name, "");
+    writeFile(folder_ / "case/notes.sqlite", "");
+    const fs::path system = folder_ / "case/Library/Photos/Libraries/Syndication/Photos.sqlite";
+    const std::string line =
+        "iosphoto: passed over in the search for photo libraries: 4 archives, "
+        "which can be named themselves: " +
+        quoted(folder_ / "case/a.zip") + ", " + quoted(folder_ / "case/b.tar.gz") + ", " +
+        quoted(folder_ / "case/c.7z") +
+        " and more; 1 database of the "
+        "system: " +
+        quoted(system) + "; 1 database of another name: " + quoted(folder_ / "case/notes.sqlite") +
+        "\n";
+    EXPECT_THAT(albums(folder_ / "case").error, HasSubstr(line));
+    const ToolRun quiet = runTool({"albums", (folder_ / "case").string(), "--quiet"});
+    expectWhole(quiet);
+    EXPECT_EQ(quiet.error, "");
+}
+
+TEST_F(ToolSourceSearch, NamesArchivesInAnArchive)
+{
+    putMedia(folder_ / "case/Media");
+    writeFile(folder_ / "case/inner.zip", "");
+    const fs::path archive = packed(folder_ / "case", folder_ / "case", zip);
+    EXPECT_THAT(albums(archive).error, HasSubstr("1 archive, which has to be unpacked first: " +
+                                                 quoted(archive / "inner.zip") + "\n"));
+}
+
+/// In a folder and in archives.
+class ToolSearchOfEveryTree : public ToolSourceSearch,
+                              public testing::WithParamInterface<const char *>
+{
+protected:
+    /// `case` itself, or an archive of it.
+    fs::path theCase() const
+    {
+        const std::string ending = GetParam();
+        return ending.empty() ? folder_ / "case"
+                              : packed(folder_ / "case", folder_ / "packed", {GetParam()});
+    }
+};
+
+TEST_P(ToolSearchOfEveryTree, CountsALoneDatabaseBesideOtherLibraries)
+{
+    putMedia(folder_ / "case/phone/Media");
+    putMedia(folder_ / "case/phone/Media", "Photos.sqlite");
+    putMedia(folder_ / "case", "Photos.sqlite");
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectFailure(run, quoted(all) + " holds 3 photo libraries, which iosphoto backups lists; ", 2);
+    EXPECT_THAT(run.error, testing::AllOf(HasSubstr(quoted(all / "phone/Media") + " ("),
+                                          HasSubstr(quoted(all / "Photos.sqlite") + " (")));
+    expectWhole(albums(all / "Photos.sqlite"));
+}
+
+TEST_P(ToolSearchOfEveryTree, TakesTheFolderOfALibraryForThatOne)
+{
+    putMedia(folder_ / "case");
+    putMedia(folder_ / "case", "Photos.sqlite");
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectWhole(run);
+    EXPECT_THAT(run.error, HasSubstr("1 other photo library: " + quoted(all / "Photos.sqlite")));
+}
+
+TEST_P(ToolSearchOfEveryTree, TakesNoDatabaseWithoutPhotosForALibrary)
+{
+    writeBackup(folder_ / "case/0001", library_);
+    writeFile(folder_ / "case/Photos.sqlite", "");
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectWhole(run);
+    EXPECT_THAT(run.error,
+                HasSubstr("1 file that is no photo database: " + quoted(all / "Photos.sqlite")));
+}
+
+TEST_P(ToolSearchOfEveryTree, FindsADatabaseOfAnyNameWhereThereIsNoOther)
+{
+    putMedia(folder_ / "case/a", "my.sqlite");
+    writeFile(folder_ / "case/Photos.sqlite", "");
+    writeFile(folder_ / "case/other.sqlite", "");
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectWhole(run);
+    EXPECT_THAT(run.error, HasSubstr("2 files that are no photo databases: "));
+}
+
+TEST_P(ToolSearchOfEveryTree, NamesLibrariesInABackup)
+{
+    writeBackup(folder_ / "case/0001", library_);
+    writeBackup(folder_ / "case/0001/old/0002", library_);
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectWhole(run);
+    EXPECT_THAT(run.error,
+                HasSubstr("1 photo library in a backup: " + quoted(all / "0001/old/0002") + "\n"));
+    expectWhole(albums(all / "0001/old/0002"));
+}
+
+TEST_P(ToolSearchOfEveryTree, SaysThatFoldersAreTooDeep)
+{
+    std::string deep;
+    for (int i = 0; i < 64; ++i)
+        deep += "a/";
+    putMedia(folder_ / "case/Media");
+    putMedia(folder_ / "case" / deep / "Media");
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    EXPECT_EQ(run.out, expected_.out);
+    EXPECT_THAT(run.error, HasSubstr(quoted(all) + " has folders more than 64 deep, where photo "
+                                                   "libraries are not searched for"));
+    EXPECT_EQ(run.status, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, ToolSearchOfEveryTree, testing::Values("", "zip", "tar.gz"));
 
 TEST_F(ToolSourceSearch, SaysWhatCannotBeReadBesideALibrary)
 {

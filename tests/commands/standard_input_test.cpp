@@ -6,6 +6,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <sys/stat.h>
+
 using namespace iosphoto::test;
 using nlohmann::json;
 using testing::HasSubstr;
@@ -65,6 +67,27 @@ TEST_F(ToolStandardInput, IsAnArchive)
     expectWhole(runToolOnPipe(packedMedia, {"albums", "/dev/stdin/A"}));
     EXPECT_THAT(runToolOnPipe(packedMedia, {"backups", "-"}).out,
                 HasSubstr("/dev/stdin/A/Media\n"));
+}
+
+TEST_F(ToolStandardInput, HasOtherNames)
+{
+    const std::string database = wholeDatabase();
+    for (const char *const name : {"/dev/fd/0", "/proc/self/fd/0"})
+        expectWhole(runToolOnPipe(database, {"albums", name}));
+    expectWhole(runToolOnPipe(archive(), {"albums", "-/A"}));
+    expectFailure(runToolOnPipe(database, {"albums", "-/A"}),
+                  "there is no 'A' in '/dev/stdin'; check the path\n", 3);
+}
+
+TEST_F(ToolStandardInput, IsTheOnlyPipeThatIsRead)
+{
+    const fs::path pipe = folder_ / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    for (const char *const command : {"info", "thumb", "backups"})
+        expectFailure(runTool({command, pipe.string()}),
+                      "cannot read " + quoted(pipe) +
+                          ": it is a pipe; send it through standard input, and name that as -\n",
+                      3);
 }
 
 TEST_F(ToolStandardInput, IsOneSideOfADifference)

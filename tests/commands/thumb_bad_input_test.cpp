@@ -84,8 +84,9 @@ TEST_F(ToolThumbBadInput, PathThatNamesNoFile)
                   "cannot read " + quoted(folder_.path()) + ": it is a folder; name a cache in it",
                   3);
     ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
-    expectFailure(runTool({"thumb", path("pipe")}),
-                  "cannot read '" + path("pipe") + "': it is not a file; name a file", 3);
+    expectFailure(
+        runTool({"thumb", path("pipe")}),
+        "cannot read '" + path("pipe") + "': it is a pipe; send it through standard input", 3);
 }
 
 TEST_F(ToolThumbBadInput, FileThatThisUserMayNotRead)

@@ -55,6 +55,9 @@ TEST_F(Where, FindsNullWhereTheDatabaseDoesNotTell)
     const ToolRun run = runTool({"photos", library_.path(), "--where", "isFavorite is null",
                                  "--fields", "fileName", "--quiet"});
     EXPECT_EQ(run.out, "fileName\n1.JPG\n2.MOV\n3.JPG\n");
+    EXPECT_THAT(run.error, HasSubstr("iosphoto: --where asks for isFavorite, which is unknown and "
+                                     "so null in every photo: '" +
+                                     library_.path() + "' has no ZASSET.ZFAVORITE\n"));
     EXPECT_EQ(run.status, 1);
 }
 

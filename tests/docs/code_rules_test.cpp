@@ -64,7 +64,8 @@ TEST(ProcessWideState, IsOnlyWhatASignalOrEveryTextNeeds)
 {
     EXPECT_THAT(filesWith("tool/", variable),
                 UnorderedElementsAre("tool/process/interruption_lock.cpp",
-                                     "tool/process/temporary_path.cpp", "tool/text/translate.cpp"));
+                                     "tool/process/temporary_path.cpp",
+                                     "tool/terminal/hidden_input.cpp", "tool/text/translate.cpp"));
 }
 
 class LayersBelowTheCommands : public testing::TestWithParam<const char *>

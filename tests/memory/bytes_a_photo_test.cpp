@@ -165,7 +165,12 @@ TEST_F(BytesAPhoto, DifferencesTakeWhatThePageSays)
     const ReadLibrary before(database());
     const tool::AssetList first((*before).albums());
     const tool::AssetList second((*after).albums());
-    EXPECT_EQ(tool::comparePhotos(first, second).inBoth, photos);
+    const auto snapshot = [](const tool::Library &library, const tool::AssetList &assets) {
+        return tool::Snapshot{assets, library.dates(), library.trash(),
+                              library.schema().unknownFields};
+    };
+    EXPECT_EQ(tool::comparePhotos(snapshot(*before, first), snapshot(*after, second)).inBoth,
+              photos);
     constexpr long tolerance = 32L * 1024;
     expectDocumented(before.peakBeside(), "differences", tolerance);
 }

@@ -80,6 +80,15 @@ ArchiveBuilder &ArchiveBuilder::addHardLink(const std::string &path, const std::
     return *this;
 }
 
+ArchiveBuilder &ArchiveBuilder::addLink(const std::string &path, const std::string &target)
+{
+    const Entry entry = newEntry(path, 0);
+    archive_entry_set_filetype(entry.get(), AE_IFLNK);
+    archive_entry_set_symlink(entry.get(), target.c_str());
+    write(entry.get(), "");
+    return *this;
+}
+
 ArchiveBuilder &ArchiveBuilder::addFolder(const fs::path &folder, const std::string &path)
 {
     for (const auto &file : fs::recursive_directory_iterator(folder))

@@ -44,6 +44,7 @@ public:
     ArchiveBuilder &add(const std::string &path, const std::string &content,
                         std::int64_t modified = 1'600'000'000);
     ArchiveBuilder &addHardLink(const std::string &path, const std::string &target);
+    ArchiveBuilder &addLink(const std::string &path, const std::string &target);
     /// Adds all files of a folder, with their times, below a path in the archive.
     ArchiveBuilder &addFolder(const std::filesystem::path &folder, const std::string &path = "");
 

@@ -32,7 +32,7 @@ bool isTrashed(const QueryRow &row)
 }
 
 /// What an album is of that nobody made of photos of the library; nothing where it may be of them.
-std::optional<AlbumReason> otherKindOf(const QueryRow &row, const EntityNumbers &numbers)
+std::optional<AlbumReason> otherKindOf(const QueryRow &row, const ProbedSchema &schema)
 {
     const std::int32_t kind = row.int32(Kind);
     const std::string entity = row.text(EntityName);
@@ -41,10 +41,13 @@ std::optional<AlbumReason> otherKindOf(const QueryRow &row, const EntityNumbers 
     if (kind == TableAlbumKind::Project || entity == album_entity::project)
         return AlbumReason::Project;
     if (kind == TableAlbumKind::Folder || kind == TableAlbumKind::RootFolder ||
-        kind == TableAlbumKind::ProjectsFolder)
+        kind == TableAlbumKind::ProjectsFolder ||
+        (schema.isUnknownReason(machineName(AlbumReason::Folder)) &&
+         entity == album_entity::folder))
         return AlbumReason::Folder;
     const std::int32_t number = row.int32(Entity);
-    const bool isOfPhotos = number == numbers.album || number == numbers.photoStreamAlbum;
+    const bool isOfPhotos =
+        number == schema.numbers.album || number == schema.numbers.photoStreamAlbum;
     if (!isOfPhotos || row.isNull(Kind) || kind >= TableAlbumKind::firstOfSystem)
         return AlbumReason::System;
     return std::nullopt;
@@ -77,12 +80,14 @@ public:
             listed_.insert(uuid);
             return std::nullopt;
         }
-        if (const auto reason = otherKindOf(row, reading_.schema.numbers))
+        if (const auto reason = otherKindOf(row, reading_.schema))
             return reason;
         if (isTrashed(row))
             return AlbumReason::Trashed;
         if (row.isNull(Title))
-            return AlbumReason::WithoutTitle;
+            return reading_.schema.isUnknownReason(machineName(AlbumReason::WithoutTitle))
+                       ? AlbumReason::UnknownTitle
+                       : AlbumReason::WithoutTitle;
         if (uuid.empty() || listed_.count(uuid) > 0)
             return AlbumReason::Repeated;
         return reading_.isWhole ? AlbumReason::Empty : AlbumReason::NotRead;

@@ -14,30 +14,32 @@ struct KindNames
     Kind::Code kind;
     const char *machine;
     const char *english;
+    const char *field = "albums"; ///< that decides what is in it
 };
 
 constexpr KindNames names[] = {
     {Kind::CameraRoll, "camera-roll", translatable("Camera Roll")},
     {Kind::PhotoStream, "photo-stream", translatable("My Photo Stream")},
     {Kind::PhotoLibrary, "photo-library", translatable("Photo Library")},
-    {Kind::Videos, "videos", translatable("Videos")},
-    {Kind::TimeLapse, "time-lapse", translatable("Time-lapse")},
-    {Kind::SloMo, "slo-mo", translatable("Slo-mo")},
-    {Kind::Panoramas, "panoramas", translatable("Panoramas")},
-    {Kind::Bursts, "bursts", translatable("Bursts")},
-    {Kind::RecentlyDeleted, "recently-deleted", translatable("Recently Deleted")},
-    {Kind::Screenshots, "screenshots", translatable("Screenshots")},
-    {Kind::Favorites, "favorites", translatable("Favorites")},
-    {Kind::Selfies, "selfies", translatable("Selfies")},
-    {Kind::LivePhotos, "live-photos", translatable("Live Photos")},
-    {Kind::Portrait, "portrait", translatable("Portrait")},
-    {Kind::Animated, "animated", translatable("Animated")},
+    {Kind::Videos, "videos", translatable("Videos"), "isVideo"},
+    {Kind::TimeLapse, "time-lapse", translatable("Time-lapse"), "isTimelapse"},
+    {Kind::SloMo, "slo-mo", translatable("Slo-mo"), "isSlomo"},
+    {Kind::Panoramas, "panoramas", translatable("Panoramas"), "isPanorama"},
+    {Kind::Bursts, "bursts", translatable("Bursts"), "isBurst"},
+    {Kind::RecentlyDeleted, "recently-deleted", translatable("Recently Deleted"), "isDeleted"},
+    {Kind::Screenshots, "screenshots", translatable("Screenshots"), "isScreenshot"},
+    {Kind::Favorites, "favorites", translatable("Favorites"), "isFavorite"},
+    {Kind::Selfies, "selfies", translatable("Selfies"), "isSelfie"},
+    {Kind::LivePhotos, "live-photos", translatable("Live Photos"), "isLivePhoto"},
+    {Kind::Portrait, "portrait", translatable("Portrait"), "isPortrait"},
+    {Kind::Animated, "animated", translatable("Animated"), "isAnimated"},
     {Kind::User, "user", translatable("User album")},
-    {Kind::ScreenRecordings, "screen-recordings", translatable("Screen Recordings")},
-    {Kind::Raw, "raw", translatable("RAW")},
-    {Kind::ProRes, "prores", translatable("ProRes")},
-    {Kind::Hidden, "hidden", translatable("Hidden")},
-    {Kind::AllDeleted, "all-deleted", translatable("All deleted")},
+    {Kind::ScreenRecordings, "screen-recordings", translatable("Screen Recordings"),
+     "isScreenRecording"},
+    {Kind::Raw, "raw", translatable("RAW"), "isRaw"},
+    {Kind::ProRes, "prores", translatable("ProRes"), "isProRes"},
+    {Kind::Hidden, "hidden", translatable("Hidden"), "isHidden"},
+    {Kind::AllDeleted, "all-deleted", translatable("All deleted"), "isDeleted"},
 };
 
 const KindNames &namesOf(const CAlbumGroup &album)
@@ -79,7 +81,22 @@ std::string nameIn(Language language, const CAlbumGroup &album)
     return album.albumName.toStdString();
 }
 
+bool isSame(const std::string &name, const QString &wanted)
+{
+    return wanted.compare(QString::fromStdString(name), Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
+
+const char *fieldBehindAlbum(const std::string &name)
+{
+    const QString wanted = QString::fromStdString(name);
+    for (const KindNames &row : names)
+        if (isSame(row.machine, wanted) || isSame(row.english, wanted) ||
+            isSame(translateTerm(row.english), wanted))
+            return row.field;
+    return "albums";
+}
 
 bool isOfTheTable(const CAlbumGroup &album)
 {

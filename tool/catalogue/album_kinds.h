@@ -24,6 +24,10 @@ std::string shownName(const CAlbumGroup &album);
 /// The same in English, for documents.
 std::string englishName(const CAlbumGroup &album);
 
+/// The key of the field that decides what is in the albums of a name or kind, such as "isSelfie";
+/// "albums" for those that no field decides.
+const char *fieldBehindAlbum(const std::string &name);
+
 /// An album of the table, as opposed to the built-in ones.
 bool isOfTheTable(const CAlbumGroup &album);
 

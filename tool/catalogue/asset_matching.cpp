@@ -49,16 +49,16 @@ public:
 
     std::size_t count() const { return starts_.size() - 1; }
 
-    /// Each key of a bucket once, in order, with the first asset that has it: records without a
-    /// uuid stand for themselves, so there may be one for each album that shows the photo.
+    /// The keys of a bucket in order; those of a uuid that a database has twice by their paths.
     std::vector<Key> sortedKeys(std::size_t bucket) const
     {
         std::vector<Key> keys;
         for (RecordNumber i = starts_[bucket]; i < starts_[bucket + 1]; ++i)
             keys.push_back(keyOf(assets_.at(numbers_[i])));
-        std::stable_sort(keys.begin(), keys.end());
-        const auto isSame = [](const Key &left, const Key &right) { return !(left < right); };
-        keys.erase(std::unique(keys.begin(), keys.end(), isSame), keys.end());
+        const auto pathOf = [this](const Key &key) { return assets_.at(key.asset).path(); };
+        std::stable_sort(keys.begin(), keys.end(), [&](const Key &left, const Key &right) {
+            return left < right || (!(right < left) && pathOf(left) < pathOf(right));
+        });
         return keys;
     }
 

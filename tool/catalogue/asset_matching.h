@@ -17,7 +17,7 @@ struct AssetMatch
 
 /// All photos of two lists: those of the second in its order, then those that only the first one
 /// has, in the order of the first. Photos are matched by their uuids, those without one by folder
-/// and file name. Of several that are alike in that the first counts.
+/// and file name. Of several that are alike in that each has one counterpart at most.
 std::vector<AssetMatch> matchAssets(const AssetList &before, const AssetList &after);
 
 /// The form of a uuid that snapshots share: a phone that was updated from iOS 7 writes it with

@@ -8,9 +8,18 @@ namespace iosphoto::tool {
 
 namespace {
 
-/// Adds what another record of the same asset knows: albums of the table do not say everything that
-/// the Camera Roll does, nor the other way round.
-void merge(CPhotoData &facts, const CPhotoData &record)
+/// An album of the photos, which does not own them.
+std::vector<CAlbumGroup> holderOf(const std::vector<std::unique_ptr<CPhotoData>> &photos)
+{
+    std::vector<CAlbumGroup> holder(1);
+    for (const std::unique_ptr<CPhotoData> &photo : photos)
+        holder.front().photos.push_back(photo.get());
+    return holder;
+}
+
+} // namespace
+
+void addFacts(CPhotoData &facts, const CPhotoData &record)
 {
     for (const Trait &trait : traits)
         facts.*trait.flag = facts.*trait.flag || record.*trait.flag;
@@ -22,17 +31,6 @@ void merge(CPhotoData &facts, const CPhotoData &record)
     if (facts.burstUuid.isEmpty())
         facts.burstUuid = record.burstUuid;
 }
-
-/// An album of the photos, which does not own them.
-std::vector<CAlbumGroup> holderOf(const std::vector<std::unique_ptr<CPhotoData>> &photos)
-{
-    std::vector<CAlbumGroup> holder(1);
-    for (const std::unique_ptr<CPhotoData> &photo : photos)
-        holder.front().photos.push_back(photo.get());
-    return holder;
-}
-
-} // namespace
 
 std::string Asset::path() const
 {
@@ -52,7 +50,7 @@ CPhotoData Asset::facts() const
     Iterator other = begin();
     CPhotoData facts = *other->record;
     while (++other != end())
-        merge(facts, *other->record);
+        addFacts(facts, *other->record);
     return facts;
 }
 

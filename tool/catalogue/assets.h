@@ -13,6 +13,10 @@
 
 namespace iosphoto::tool {
 
+/// Adds what another record of the same asset knows: albums of the table do not say everything that
+/// the Camera Roll does, nor the other way round.
+void addFacts(CPhotoData &facts, const CPhotoData &record);
+
 /// One photo or video of a catalogue: all its records, in the order of their albums. There is at
 /// least one.
 class Asset
@@ -84,8 +88,7 @@ private:
     Appearance first_;
 };
 
-/// Every asset of a catalogue once, in the order in which its albums first show it. Assets are the
-/// same when their uuids are; records without one stand for themselves.
+/// Every asset of a catalogue once, in the order in which its albums first show it.
 ///
 /// Neither the list nor an asset holds more than numbers: what belongs together is noted in the
 /// records themselves (record_links.h).

@@ -1,10 +1,10 @@
 #include "catalogue/difference.h"
 
 #include "catalogue/album_kinds.h"
-#include "model/core_data_time.h"
 #include "text/translate.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 #include <utility>
@@ -13,54 +13,33 @@ namespace iosphoto::tool {
 
 namespace {
 
-bool isEditedBetween(const CPhotoData &before, const CPhotoData &after)
+using Facts = std::vector<const ComparedFact *>;
+
+bool isUnknown(const Snapshot &snapshot, const std::string &key)
 {
-    if (before.isEdited != after.isEdited)
-        return true;
-    return before.isEdited &&
-           (wholeSeconds(before.modifiedTime) != wholeSeconds(after.modifiedTime) ||
-            before.fileSize != after.fileSize || before.width != after.width ||
-            before.height != after.height);
+    const std::vector<std::string> &unknown = snapshot.unknownFields;
+    return std::find(unknown.begin(), unknown.end(), key) != unknown.end();
 }
 
-/// The albums of hidden and trashed photos do not tell.
-bool isFavoriteKnown(const CPhotoData &photo)
+/// Takes away the facts of these keys. Returns how many there were.
+std::size_t takeAway(Facts &facts, const std::vector<std::string> &keys)
 {
-    return !photo.isHidden && !photo.isDeleted;
+    const auto isOne = [&](const ComparedFact *fact) {
+        return std::find(keys.begin(), keys.end(), fact->key) != keys.end();
+    };
+    const auto rest = std::remove_if(facts.begin(), facts.end(), isOne);
+    const auto count = static_cast<std::size_t>(facts.end() - rest);
+    facts.erase(rest, facts.end());
+    return count;
 }
 
-std::vector<ChangedField> changedFields(const CPhotoData &before, const CPhotoData &after)
+/// Takes away what an edit changes, if there was one. Both may be edited, and not by the same edit.
+bool takeEdit(const CPhotoData &before, const CPhotoData &after, Facts &differing)
 {
-    std::vector<ChangedField> fields;
-    if (isFavoriteKnown(before) && isFavoriteKnown(after) && before.isFavorite != after.isFavorite)
-        fields.push_back(ChangedField::Favorite);
-    if (before.isHidden != after.isHidden)
-        fields.push_back(ChangedField::Hidden);
-    if (before.fileName != after.fileName)
-        fields.push_back(ChangedField::FileName);
-    if (wholeSeconds(before.createdTime) != wholeSeconds(after.createdTime))
-        fields.push_back(ChangedField::Created);
-    return fields;
-}
-
-PhotoDifference compareAssets(const Asset &before, const Asset &after)
-{
-    const CPhotoData old = before.facts();
-    const CPhotoData now = after.facts();
-    PhotoDifference difference = {before, after, {}, {}, {}, changedFields(old, now)};
-    if (old.isDeleted != now.isDeleted) {
-        difference.changes.push_back(now.isDeleted ? Change::Trashed : Change::Restored);
-    } else {
-        difference.addedTo = albumsMissingFrom(before.albums(), after.albums());
-        difference.removedFrom = albumsMissingFrom(after.albums(), before.albums());
-    }
-    if (isEditedBetween(old, now))
-        difference.changes.push_back(Change::Edited);
-    if (!difference.addedTo.empty() || !difference.removedFrom.empty())
-        difference.changes.push_back(Change::Moved);
-    if (!difference.changedFields.empty())
-        difference.changes.push_back(Change::Changed);
-    return difference;
+    const std::size_t state = takeAway(differing, {"isEdited"});
+    if (state == 0 && !(before.isEdited && after.isEdited))
+        return false;
+    return takeAway(differing, {"modified", "fileSize", "width", "height"}) + state > 0;
 }
 
 using AlbumsByUuid = std::map<std::string, const CAlbumGroup *>; // ordered: no uuids make it slow
@@ -103,24 +82,41 @@ const char *changeName(Change change)
     return translatable("changed");
 }
 
-const char *fieldName(ChangedField field)
+PhotoComparer::PhotoComparer(const Snapshot &before, const Snapshot &after)
+    : before_(before), after_(after),
+      areAlbumsKnown_(!isUnknown(before, "albums") && !isUnknown(after, "albums"))
 {
-    switch (field) {
-    case ChangedField::Favorite:
-        return "isFavorite";
-    case ChangedField::Hidden:
-        return "isHidden";
-    case ChangedField::FileName:
-        return "fileName";
-    case ChangedField::Created:
-        break;
-    }
-    return "created";
+    for (const ComparedFact &fact : comparedFacts())
+        if (!isUnknown(before, fact.key) && !isUnknown(after, fact.key))
+            facts_.push_back(&fact);
 }
 
-PhotoDifferences::PhotoDifferences(const AssetList &before, const AssetList &after,
-                                   std::vector<AssetMatch> matches)
-    : before_(&before), after_(&after), matches_(std::move(matches))
+PhotoDifference PhotoComparer::compare(const Asset &before, const Asset &after) const
+{
+    const PhotoInSnapshot old(before, before_);
+    const PhotoInSnapshot now(after, after_);
+    PhotoDifference difference = {before, after, {}, {}, {}, {}};
+    Facts &differing = difference.changedFields;
+    std::copy_if(facts_.begin(), facts_.end(), std::back_inserter(differing),
+                 [&](const ComparedFact *fact) { return !fact->isSame(old, now); });
+    if (takeAway(differing, {"isDeleted"}) > 0) {
+        takeAway(differing, {"trashed"});
+        difference.changes.push_back(now.facts.isDeleted ? Change::Trashed : Change::Restored);
+    } else if (areAlbumsKnown_ && old.facts.isDeleted == now.facts.isDeleted) {
+        difference.addedTo = albumsMissingFrom(before.albums(), after.albums());
+        difference.removedFrom = albumsMissingFrom(after.albums(), before.albums());
+    }
+    if (takeEdit(old.facts, now.facts, differing))
+        difference.changes.push_back(Change::Edited);
+    if (!difference.addedTo.empty() || !difference.removedFrom.empty())
+        difference.changes.push_back(Change::Moved);
+    if (!differing.empty())
+        difference.changes.push_back(Change::Changed);
+    return difference;
+}
+
+PhotoDifferences::PhotoDifferences(const PhotoComparer &comparer, std::vector<AssetMatch> matches)
+    : comparer_(comparer), matches_(std::move(matches))
 {
     leaveOut([](const PhotoDifference &photo) { return photo.changes.empty(); });
 }
@@ -139,6 +135,7 @@ void PhotoDifferences::leaveOut(const std::function<bool(const PhotoDifference &
     matches_.erase(std::remove_if(matches_.begin(), matches_.end(), isToGo), matches_.end());
     matches_.shrink_to_fit();
 }
+
 int PhotoDifferences::count(Change change) const
 {
     const auto found = counts_.find(change);
@@ -147,20 +144,22 @@ int PhotoDifferences::count(Change change) const
 
 PhotoDifference PhotoDifferences::differenceOf(const AssetMatch &match) const
 {
+    const AssetList &before = comparer_->before().assets;
+    const AssetList &after = comparer_->after().assets;
     if (match.before == noRecord)
-        return {{}, after_->at(match.after), {Change::New}, {}, {}, {}};
+        return {{}, after.at(match.after), {Change::New}, {}, {}, {}};
     if (match.after == noRecord)
-        return {before_->at(match.before), {}, {Change::Gone}, {}, {}, {}};
-    return compareAssets(before_->at(match.before), after_->at(match.after));
+        return {before.at(match.before), {}, {Change::Gone}, {}, {}, {}};
+    return comparer_->compare(before.at(match.before), after.at(match.after));
 }
 
-PhotoComparison comparePhotos(const AssetList &before, const AssetList &after)
+PhotoComparison comparePhotos(const Snapshot &before, const Snapshot &after)
 {
-    std::vector<AssetMatch> matches = matchAssets(before, after);
+    std::vector<AssetMatch> matches = matchAssets(before.assets, after.assets);
     const auto inBoth = std::count_if(matches.begin(), matches.end(), [](const AssetMatch &match) {
         return match.before != noRecord && match.after != noRecord;
     });
-    return {{before, after, std::move(matches)}, static_cast<std::size_t>(inBoth)};
+    return {{{before, after}, std::move(matches)}, static_cast<std::size_t>(inBoth)};
 }
 
 const char *changeName(AlbumChange change)

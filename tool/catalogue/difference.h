@@ -4,6 +4,7 @@
 
 #include "catalogue/asset_matching.h"
 #include "catalogue/assets.h"
+#include "catalogue/compared_facts.h"
 #include "ios_photo.h"
 
 #include <functional>
@@ -23,15 +24,6 @@ constexpr Change allChanges[] = {Change::New,    Change::Gone,  Change::Trashed,
 /// For machines, such as "new".
 const char *changeName(Change change);
 
-/// What a person cares about beside trash, edits and albums.
-enum class ChangedField { Favorite, Hidden, FileName, Created };
-
-constexpr ChangedField allChangedFields[] = {ChangedField::Favorite, ChangedField::Hidden,
-                                             ChangedField::FileName, ChangedField::Created};
-
-/// As the key of the fact, such as "isFavorite".
-const char *fieldName(ChangedField field);
-
 /// A photo that is not the same in both snapshots.
 struct PhotoDifference
 {
@@ -40,10 +32,30 @@ struct PhotoDifference
     std::vector<Change> changes;                  ///< at least one, each once and in order
     std::vector<const CAlbumGroup *> addedTo;     ///< albums of the table, of the second snapshot
     std::vector<const CAlbumGroup *> removedFrom; ///< likewise, of the first
-    std::vector<ChangedField> changedFields;
+    std::vector<const ComparedFact *> changedFields; ///< those that no other change says
 
     /// The photo as it is now, or as it was when it is gone.
     const Asset &latest() const { return after ? *after : *before; }
+};
+
+/// Compares photos in two snapshots by all facts that both of them know.
+class PhotoComparer
+{
+public:
+    /// @param before, after  what they refer to has to outlive this
+    PhotoComparer(const Snapshot &before, const Snapshot &after);
+
+    const Snapshot &before() const { return before_; }
+    const Snapshot &after() const { return after_; }
+    /// The trash takes a photo out of its albums and gives it back to them; that is not reported as
+    /// a move.
+    PhotoDifference compare(const Asset &before, const Asset &after) const;
+
+private:
+    Snapshot before_;
+    Snapshot after_;
+    std::vector<const ComparedFact *> facts_;
+    bool areAlbumsKnown_;
 };
 
 /// The photos that differ: those of the second snapshot in its order, then those that are gone in
@@ -73,10 +85,8 @@ public:
     };
 
     PhotoDifferences() = default;
-    /// @param before, after  have to outlive this
-    /// @param matches  of their photos, whether they differ or not
-    PhotoDifferences(const AssetList &before, const AssetList &after,
-                     std::vector<AssetMatch> matches);
+    /// @param matches  of the photos of both, whether they differ or not
+    PhotoDifferences(const PhotoComparer &comparer, std::vector<AssetMatch> matches);
 
     std::size_t size() const { return matches_.size(); }
     bool empty() const { return matches_.empty(); }
@@ -91,9 +101,8 @@ public:
 private:
     PhotoDifference differenceOf(const AssetMatch &match) const;
 
-    const AssetList *before_ = nullptr;
-    const AssetList *after_ = nullptr;
-    std::vector<AssetMatch> matches_; ///< that differ
+    std::optional<PhotoComparer> comparer_; ///< nothing where nothing is compared
+    std::vector<AssetMatch> matches_;       ///< that differ
     std::map<Change, int> counts_;
 };
 
@@ -103,10 +112,9 @@ struct PhotoComparison
     std::size_t inBoth = 0; ///< photos that both snapshots have, the same or not
 };
 
-/// Matches photos as matchAssets() does. The trash takes a photo out of its albums and gives it
-/// back to them; that is not reported as a move.
-/// @param before, after  have to outlive the result
-PhotoComparison comparePhotos(const AssetList &before, const AssetList &after);
+/// Matches photos as matchAssets() does.
+/// @param before, after  what they refer to has to outlive the result
+PhotoComparison comparePhotos(const Snapshot &before, const Snapshot &after);
 
 enum class AlbumChange { New, Gone, Renamed };
 

@@ -13,13 +13,13 @@
 namespace iosphoto::tool {
 
 /// The dates of photos. A record holds 0 where its row has no date, which is also 2001-01-01 00:00
-/// UTC; only the row tells the two apart.
+/// UTC, and the number that a text begins with where that stands in place of a date; only the row
+/// tells these apart.
 class KnownDates
 {
 public:
     KnownDates() = default;
-    /// Looks at the rows only where a record holds such a date. Throws Failure when they cannot be
-    /// read.
+    /// Throws Failure when the rows cannot be read.
     KnownDates(const CopyDatabase &database, const std::vector<CAlbumGroup> &catalogue);
 
     /// Each is nothing where the row has no date.
@@ -30,17 +30,20 @@ public:
     /// @}
 
 private:
-    struct AtEpoch
+    /// Of each date of a photo whether something is the case.
+    struct OfDates
     {
         bool created = false;
         bool modified = false;
         bool added = false;
     };
+    using ByUuid = std::map<std::string, OfDates>; // ordered: no choice of uuids makes it slow
 
     std::optional<CoreDataTime> known(const CPhotoData &photo, double CPhotoData::*time,
-                                      bool AtEpoch::*isAtEpoch) const;
+                                      bool OfDates::*date) const;
 
-    std::map<std::string, AtEpoch> atEpoch_; // by uuid; ordered: no choice of uuids makes it slow
+    ByUuid atEpoch_;
+    ByUuid texts_; ///< or other values that are no numbers
 };
 
 } // namespace iosphoto::tool

@@ -1,108 +1,18 @@
 #include "catalogue/left_out_photos.h"
 
+#include "catalogue/asset_rows.h"
 #include "catalogue/listed_rows.h"
-#include "catalogue/row_uuid.h"
-#include "input/tree/file_tree.h"
-#include "model/bursts.h"
 #include "model/database_codes.h"
 #include "model/device/ios_generation.h"
-#include "model/original_size.h"
+#include "model/passes/camera_roll_columns.h"
 #include "model/trash.h"
-#include "schema/asset_tables.h"
-#include "time/time_text.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace iosphoto::tool {
 
 namespace {
-
-/// The columns of the query for rows that the catalogue does not show.
-enum Column {
-    Key,
-    IsSelected,
-    SavedAs,
-    TrashedState,
-    TrashedDate,
-    FileName,
-    PickType,
-    Uuid,
-    Directory,
-    OriginalName,
-    Width,
-    Height,
-    Size,
-    Duration,
-    Created,
-    Modified,
-    Added,
-    Kind,
-    Favorite,
-    Hidden,
-    BurstUuid,
-    ThumbnailIndex,
-};
-constexpr const char *columnNames[] = {
-    "Z_PK",
-    "",
-    "ZSAVEDASSETTYPE",
-    "ZTRASHEDSTATE",
-    "ZTRASHEDDATE",
-    "ZFILENAME",
-    "ZAVALANCHEPICKTYPE",
-    "ZUUID",
-    "ZDIRECTORY",
-    "ZORIGINALFILENAME",
-    "ZWIDTH",
-    "ZHEIGHT",
-    "ZORIGINALFILESIZE",
-    "ZDURATION",
-    "ZDATECREATED",
-    "ZMODIFICATIONDATE",
-    "ZADDEDDATE",
-    "ZKIND",
-    "ZFAVORITE",
-    "ZHIDDEN",
-    "ZAVALANCHEUUID",
-    "ZTHUMBNAILINDEX",
-};
-
-constexpr char attributesTable[] = "ZADDITIONALASSETATTRIBUTES";
-
-/// Whether the statements of the passes look at a row at all.
-std::string selection(const std::string &table, const EntityNumbers &numbers)
-{
-    if (table == "ZASSET")
-        return fmt::format("asset.Z_ENT = {} and asset.Z_PK in (select ZASSET from {})",
-                           numbers.asset, attributesTable);
-    return fmt::format("asset.Z_PK in (select ZASSET from {0} where Z{1}_ASSET = {2})",
-                       attributesTable, numbers.assetSuper, numbers.asset);
-}
-
-/// A column of whichever table has it; null where none does.
-std::string columnOf(const CopyDatabase &database, const std::string &table, const char *column)
-{
-    if (database.hasColumn(table, column))
-        return std::string("asset.") + column;
-    return database.hasColumn(attributesTable, column) ? std::string("attributes.") + column
-                                                       : "null";
-}
-
-std::string queryForKeys(const CopyDatabase &database, const EntityNumbers &numbers)
-{
-    const std::string table = assetTableOf(database);
-    std::string columns;
-    for (const char *const name : columnNames)
-        columns += (columns.empty() ? "" : ", ") +
-                   (*name != '\0' ? columnOf(database, table, name) : selection(table, numbers));
-    return fmt::format("select {0} from json_each(?1) as wanted "
-                       "join {1} as asset on asset.Z_PK = wanted.value "
-                       "left join {2} as attributes on attributes.ZASSET = asset.Z_PK "
-                       "group by wanted.key order by wanted.key",
-                       columns, table, attributesTable);
-}
 
 bool isTaken(std::int32_t savedAs)
 {
@@ -117,92 +27,51 @@ bool hasSharedAlbums(const Device &device)
     return iosGeneration(device.iosVersion) >= IosGeneration::Ios8;
 }
 
-bool isTrashedTooLong(const QueryRow &row, UnixTime asOf)
+bool isTrashedTooLong(const AssetRow &row, UnixTime asOf)
 {
-    return row.int32(TrashedState) == iosphoto::TrashedState::InTrash &&
-           iosphoto::isTrashedTooLong(row.int32(TrashedDate), asOf.seconds);
+    return row.record.isDeleted &&
+           iosphoto::isTrashedTooLong(row.values.int32(camera_roll::trashedDate), asOf.seconds);
 }
 
-bool isFrame(const QueryRow &row)
+bool isFrame(const CPhotoData &record)
 {
-    return row.int32(PickType) != BurstPickType::NoBurst && !standsForBurst(row.int32(PickType));
+    return record.isBurst && record.isBurstPick == 0;
 }
 
-PhotoReason reasonFor(const QueryRow &row, const ReadingFacts &reading)
+PhotoReason reasonFor(const AssetRow &row, const ReadingFacts &reading, bool isRepeated)
 {
-    if (row.int32(IsSelected) == 0 || row.isNull(SavedAs))
+    const std::int32_t savedAs = row.values.int32(camera_roll::savedAssetType);
+    if (!row.isSelected || row.values.isNull(camera_roll::savedAssetType))
         return PhotoReason::NotSelected;
-    if (row.int32(SavedAs) == SavedAssetType::SharedAlbum && hasSharedAlbums(reading.schema.device))
+    if (savedAs == SavedAssetType::SharedAlbum && hasSharedAlbums(reading.schema.device))
         return PhotoReason::OfSharedAlbum;
-    if (!isTaken(row.int32(SavedAs)))
+    if (!isTaken(savedAs))
         return PhotoReason::ReferencedElsewhere;
     if (isTrashedTooLong(row, reading.asOf))
-        return row.isNull(TrashedDate) ? PhotoReason::TrashedWithoutDate
-                                       : PhotoReason::TrashedTooLong;
-    if (row.text(FileName).empty())
+        return row.hasTrashedDate ? PhotoReason::TrashedTooLong : PhotoReason::TrashedWithoutDate;
+    if (row.record.fileName.isEmpty())
         return PhotoReason::WithoutFileName;
-    if (isFrame(row))
+    if (isFrame(row.record))
         return PhotoReason::BurstFrame;
+    if (isRepeated)
+        return PhotoReason::Repeated;
     return reading.isWhole ? PhotoReason::NotSelected : PhotoReason::NotRead;
 }
 
-QString dayOf(const QueryRow &row)
+ListedRecord listedRecordOf(const CPhotoData &row, const KeyedRecords &keyed,
+                            KeylessRecords &keyless)
 {
-    const auto created = unixTimeOf(CoreDataTime{static_cast<double>(row.int64(Created))});
-    return created ? QString::fromStdString(localDayText(*created)) : QString();
+    CPhotoData *const record = keyed.find(row.assetId);
+    return record != nullptr ? ListedRecord{record, false} : keyless.find(row);
 }
 
-CPhotoData recordOf(const QueryRow &row)
+/// Nobody could tell the rows apart by what is left of their keys.
+void forgetKeys(const std::vector<CAlbumGroup> &catalogue)
 {
-    CPhotoData photo;
-    const auto text = [&](Column column) { return QString::fromStdString(row.text(column)); };
-    photo.assetId = row.int32(Key);
-    photo.uuid = uuidOf(row, Uuid);
-    photo.fileName = text(FileName);
-    photo.directory = text(Directory);
-    photo.sourceFileName = text(OriginalName);
-    photo.width = row.int32(Width);
-    photo.height = row.int32(Height);
-    photo.fileSize = repairedSize(row.int64(Size));
-    photo.duration = static_cast<float>(row.real(Duration));
-    photo.createdTime = static_cast<double>(row.int64(Created));
-    photo.modifiedTime = static_cast<double>(row.int64(Modified));
-    photo.addedTime = static_cast<double>(row.int64(Added));
-    photo.dateText = dayOf(row);
-    photo.thumbnailIndex = row.int32(ThumbnailIndex);
-    photo.isVideo = row.int32(Kind) != 0;
-    photo.isFavorite = row.int32(Favorite) == FavoriteFlag::IsFavorite;
-    photo.isHidden = row.int32(Hidden) == HiddenFlag::IsHidden;
-    photo.isDeleted = row.int32(TrashedState) == iosphoto::TrashedState::InTrash;
-    photo.isBurst = row.int32(PickType) != BurstPickType::NoBurst;
-    photo.isBurstPick = standsForBurst(row.int32(PickType)) ? 1 : 0;
-    photo.burstUuid = text(BurstUuid);
-    return photo;
+    for (const CAlbumGroup &album : catalogue)
+        for (CPhotoData *const photo : album.photos)
+            photo->assetId = CPhotoData().assetId;
 }
-
-/// The keys of the asset table whose rows no record knows, in lists in JSON of some of them each.
-class UnknownKeys
-{
-public:
-    void add(std::int64_t key)
-    {
-        constexpr int mostOfAList = 100'000;
-        if (count_++ % mostOfAList == 0)
-            lists_.emplace_back();
-        lists_.back() += (lists_.back().empty() ? "[" : ",") + std::to_string(key);
-    }
-
-    template <typename Take>
-    void forEachList(Take take) const
-    {
-        for (const std::string &list : lists_)
-            take(list + "]");
-    }
-
-private:
-    std::vector<std::string> lists_;
-    std::int64_t count_ = 0;
-};
 
 } // namespace
 
@@ -219,43 +88,38 @@ void LeftOutPhotos::add(CPhotoData photo, PhotoReason reason)
     reasons_.push_back(reason);
 }
 
-bool isKnownOfLeftOut(bool CPhotoData::*flag)
-{
-    return flag == &CPhotoData::isFavorite || flag == &CPhotoData::isHidden ||
-           flag == &CPhotoData::isDeleted || flag == &CPhotoData::isBurst;
-}
-
 PhotoAccount accountOfPhotos(const CopyDatabase &database, const ReadingFacts &reading,
                              LeftOutPhotos *photos)
 {
+    const AssetRows rows(database, reading.schema);
+    if (!rows.areKeysKnown())
+        forgetKeys(reading.catalogue);
     PhotoAccount account;
-    UnknownKeys unknown;
-    const ListedKeys keys(reading.catalogue);
-    // An index could be damaged where the table is not.
-    database.forEachRow("select Z_PK from " + assetTableOf(database) + " not indexed",
-                        [&](const QueryRow &row) {
-                            ++account.rows;
-                            if (keys.has(row.int32(0)))
-                                ++account.listed;
-                            else
-                                unknown.add(row.int64(0));
-                        });
-    if (account.rows == account.listed)
+    RowKeys others;
+    const KeyedRecords keyed(reading.catalogue);
+    rows.forEachKey([&](std::int64_t key, bool saysMore) {
+        ++account.rows;
+        if (keyed.isInCameraRoll(key) && !saysMore)
+            ++account.listed;
+        else
+            others.add(key);
+    });
+    if (others.empty())
         return account;
 
-    const ListedUuids uuids(reading.catalogue);
-    const std::string query = queryForKeys(database, reading.schema.numbers);
-    const auto take = [&](const QueryRow &row) {
-        if (uuids.has(uuidOf(row, Uuid), joinedPath(row.text(Directory), row.text(FileName)))) {
+    KeylessRecords keyless(reading.catalogue);
+    rows.forEach(others, [&](const AssetRow &row) {
+        const ListedRecord listed = listedRecordOf(row.record, keyed, keyless);
+        if (listed.record != nullptr && !listed.isRepeated) {
             ++account.listed;
+            addFacts(*listed.record, row.record);
             return;
         }
-        const PhotoReason reason = reasonFor(row, reading);
+        const PhotoReason reason = reasonFor(row, reading, listed.isRepeated);
         account.leaveOut(reason);
         if (photos != nullptr)
-            photos->add(recordOf(row), reason);
-    };
-    unknown.forEachList([&](const std::string &list) { database.forEachRow(query, take, {list}); });
+            photos->add(row.record, reason);
+    });
     return account;
 }
 

@@ -13,8 +13,7 @@
 
 namespace iosphoto::tool {
 
-/// Photos that the catalogue leaves out, as records that hold what their rows say: names, sizes,
-/// dates, and whether they are videos, favorites, hidden, deleted or of a burst.
+/// Photos that the catalogue leaves out, as records that hold what their rows say.
 class LeftOutPhotos
 {
 public:
@@ -29,11 +28,9 @@ private:
     std::vector<PhotoReason> reasons_;
 };
 
-/// What a left-out photo's record says of it, of the flags; it does not know the others.
-bool isKnownOfLeftOut(bool CPhotoData::*flag);
-
-/// Compares the asset table with what the catalogue shows. Throws Failure when the table cannot be
-/// read.
+/// Compares the asset table with what the catalogue shows, and adds to its records what the library
+/// knows of a photo only in the Camera Roll: the flags of what is hidden, in the trash, a frame of
+/// a burst or synced. Throws Failure when the table cannot be read.
 /// @param photos  takes the photos that are left out; may be null
 PhotoAccount accountOfPhotos(const CopyDatabase &database, const ReadingFacts &reading,
                              LeftOutPhotos *photos);

@@ -21,6 +21,7 @@ constexpr Names photoNames[] = {
     {"trashedWithoutDate",  translatable("in the trash without a date")},
     {"withoutFileName",     translatable("without a file name")},
     {"burstFrame",          translatable("frame of a hidden or deleted burst")},
+    {"repeated",            translatable("with the uuid and file of another")},
     {"notRead",             translatable("not read")},
 };
 constexpr Names albumNames[] = {
@@ -30,6 +31,7 @@ constexpr Names albumNames[] = {
     {"system",       translatable("of the system")},
     {"trashed",      translatable("in the trash")},
     {"withoutTitle", translatable("without a title")},
+    {"unknownTitle", translatable("of unknown title")},
     {"empty",        translatable("empty")},
     {"repeated",     translatable("without a uuid of its own")},
     {"notRead",      translatable("not read")},

@@ -19,6 +19,7 @@ enum class PhotoReason {
     TrashedWithoutDate,  ///< the device removes it at a time that nobody knows
     WithoutFileName,
     BurstFrame, ///< one that does not stand for its burst, which is hidden, deleted or not shown
+    Repeated,   ///< with the uuid and path of a row that is shown, without a key to tell them by
     NotRead,    ///< the reading ended before
 };
 constexpr std::size_t photoReasonCount = static_cast<std::size_t>(PhotoReason::NotRead) + 1;
@@ -31,6 +32,7 @@ enum class AlbumReason {
     System, ///< one that the system keeps for itself, such as that of an import
     Trashed,
     WithoutTitle, ///< null, which is another thing than an empty one
+    UnknownTitle, ///< the table has none
     Empty,        ///< a photo stream that shows no photo
     Repeated,     ///< one without a uuid, or with that of another
     NotRead,
@@ -67,6 +69,10 @@ struct RowAccount
         return std::accumulate(leftOut.begin(), leftOut.end(), rows - listed, std::minus<>());
     }
     void leaveOut(Reason reason) { ++leftOut[static_cast<std::size_t>(reason)]; }
+    bool operator==(const RowAccount &other) const
+    {
+        return rows == other.rows && listed == other.listed && leftOut == other.leftOut;
+    }
 };
 
 using PhotoAccount = RowAccount<PhotoReason, photoReasonCount>;

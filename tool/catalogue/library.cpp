@@ -1,6 +1,5 @@
 #include "catalogue/library.h"
 
-#include "catalogue/album_account.h"
 #include "catalogue/catalogue_build.h"
 #include "model/clock.h"
 #include "schema/asset_tables.h"
@@ -17,18 +16,6 @@ bool isWithoutPhotos(const std::vector<CAlbumGroup> &albums)
 {
     return std::all_of(albums.begin(), albums.end(),
                        [](const CAlbumGroup &album) { return album.photos.empty(); });
-}
-
-/// Those that the trash would no longer hold.
-std::int64_t emptiedPhotos(const std::vector<CAlbumGroup> &albums, const Trash &trash)
-{
-    std::int64_t count = 0;
-    for (const CAlbumGroup &album : albums)
-        if (album.albumKind == AlbumKind::RecentlyDeleted)
-            count +=
-                std::count_if(album.photos.begin(), album.photos.end(),
-                              [&](const CPhotoData *photo) { return trash.isEmptiedOf(*photo); });
-    return count;
 }
 
 } // namespace
@@ -57,6 +44,7 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     isArchive_ = source.isArchive();
     isBareStream_ = source.isBareStream();
     identity_ = source.identity();
+    passedOver_ = source.passedOver();
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);
     read(session, copy);
@@ -75,7 +63,7 @@ std::int64_t Library::unreadRows() const
 std::int64_t Library::leftOutOfTrash() const
 {
     if (request_.isCompared)
-        return emptiedPhotos(albums(), trash_);
+        return trash_.emptiedPhotos(albums());
     return account_ ? account_->photos.leftOutFor(PhotoReason::TrashedTooLong) +
                           account_->photos.leftOutFor(PhotoReason::TrashedWithoutDate)
                     : 0;
@@ -111,11 +99,10 @@ void Library::accountFor(const OpenedCopy &copy)
 {
     const CopyDatabase database = copy.connect();
     const ReadingFacts reading = {schema_, albums(), asOf_.time, report_.firstStopped() == nullptr};
+    const bool keepsLeftOut = request_.keepsLeftOut || (request_.comparesLog && log_.isApplied());
     try {
-        Account account;
-        account.photos =
-            accountOfPhotos(database, reading, request_.keepsLeftOut ? &leftOutPhotos_ : nullptr);
-        account.albums = accountOfAlbums(database, reading);
+        const Account account =
+            accountOf(database, reading, keepsLeftOut ? &leftOutPhotos_ : nullptr);
         dates_ = KnownDates(database, albums());
         account_ = account;
     } catch (const Failure &failure) {

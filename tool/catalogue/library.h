@@ -1,9 +1,8 @@
 #ifndef IOSPHOTO_TOOL_LIBRARY_H
 #define IOSPHOTO_TOOL_LIBRARY_H
 
+#include "catalogue/account.h"
 #include "catalogue/known_dates.h"
-#include "catalogue/left_out_photos.h"
-#include "catalogue/left_out_reasons.h"
 #include "catalogue/snapshot_age.h"
 #include "catalogue/trash.h"
 #include "catalogue/without_log.h"
@@ -41,13 +40,6 @@ struct LibraryRequest
     /// Whether it is one of two that are compared: then the trash leaves nothing out, and how late
     /// it is of is found out.
     bool isCompared = false;
-};
-
-/// What became of every row of the tables that a library is made of.
-struct Account
-{
-    PhotoAccount photos;
-    AlbumAccount albums;
 };
 
 /// The time that a source is of: when the backup was made, else when it last changed.
@@ -99,7 +91,7 @@ public:
     std::int64_t unreadRows() const;
     /// How many assets were in the trash for too long; unless it is compared they are left out.
     std::int64_t leftOutOfTrash() const;
-    /// If the request said so.
+    /// If the request said so, or withoutLog() is there to be compared with.
     const LeftOutPhotos &leftOutPhotos() const { return leftOutPhotos_; }
 
     const WriteAheadLog &log() const { return log_; }
@@ -109,6 +101,8 @@ public:
 
     /// What of the source is missing.
     const std::vector<SourceFinding> &missing() const { return missing_; }
+    /// What else was met in the search for it.
+    const std::vector<PassedOverNames> &passedOver() const { return passedOver_; }
     /// How far the database was read.
     const CReadReport &report() const { return report_; }
     /// The most rows that a pass was to read.
@@ -117,7 +111,7 @@ public:
     bool isComplete() const
     {
         return missing_.empty() && report_.firstStopped() == nullptr && uncounted_.empty() &&
-               unreadRows() == 0 && !schema_.gap;
+               unreadRows() == 0 && schema_.gaps.empty();
     }
 
 private:
@@ -143,6 +137,7 @@ private:
     std::string uncounted_;
     LeftOutPhotos leftOutPhotos_;
     std::vector<SourceFinding> missing_;
+    std::vector<PassedOverNames> passedOver_;
     CReadReport report_;
     std::int64_t rowLimit_ = 0;
 };

@@ -5,6 +5,7 @@
 #include "sqlite/copy_database.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -33,21 +34,41 @@ std::optional<std::int64_t> rowsIn(const CopyDatabase &database)
     return count;
 }
 
-/// Counts the photos of a library that was described, and finds what is missing from it. Of an
-/// archive, each library would take a reading from its beginning.
-void look(Session &session, ListedLibrary &library, bool isInArchive)
+/// Counts the photos of a library, and finds what is missing from it.
+void look(Session &session, Place place, ListedLibrary &library)
 {
     LibraryDescription &description = library.description;
-    if (isInArchive || description.isEncrypted == true)
+    const Source source(session, std::move(place));
+    description.findings = source.missing();
+    if (!isSmall(source))
+        return;
+    const OpenedCopy copy(session, source, {});
+    description.findings = copy.missing();
+    library.assetCount = rowsIn(copy.connect());
+}
+
+/// Finds what is missing without copying the database, as each library of an archive would take a
+/// reading from its beginning.
+void lookAtIndex(Session &session, const FileTree &tree, const FoundLibrary &found,
+                 ListedLibrary &library)
+{
+    const auto layout = layoutOf(session, tree, found);
+    layout->open();
+    if (found.kind == SourceKind::Backup)
+        library.description.findings = layout->missing();
+    for (const char *const suffix : {"", "-wal", "-journal"})
+        if (const auto path = layout->locate(std::string(databaseBelowMedia) + suffix))
+            tree.requireCopyable(*path);
+}
+
+/// Does it, and notes why that cannot be done.
+void lookOrSayWhy(ListedLibrary &library, const std::function<void()> &look)
+{
+    LibraryDescription &description = library.description;
+    if (description.isEncrypted == true)
         return;
     try {
-        const Source source(session, description.name);
-        description.findings = source.missing();
-        if (!isSmall(source))
-            return;
-        const OpenedCopy copy(session, source, {});
-        description.findings = copy.missing();
-        library.assetCount = rowsIn(copy.connect());
+        look();
     } catch (const SourceError &error) {
         description.findings.push_back(error.finding());
     } catch (const SchemaError &) {
@@ -58,21 +79,6 @@ void look(Session &session, ListedLibrary &library, bool isInArchive)
     }
 }
 
-/// Only its name, and why, where its records cannot be read.
-LibraryDescription describeOrSayWhy(Session &session, const FileTree &tree,
-                                    const FoundLibrary &library)
-{
-    LibraryDescription unknown = {library.kind, tree.shown(library.path), {}, {}, {}, {}, {}, {}};
-    try {
-        return describe(session, tree, library);
-    } catch (const Failure &failure) {
-        unknown.findings = {{SourceProblem::UnsearchedPlaces, {unknown.name, "1", failure.what()}}};
-    } catch (const SourceError &error) {
-        unknown.findings = {error.finding()};
-    }
-    return unknown;
-}
-
 bool isBefore(const ListedLibrary &one, const ListedLibrary &other)
 {
     const auto order = [](const LibraryDescription &library) {
@@ -81,27 +87,53 @@ bool isBefore(const ListedLibrary &one, const ListedLibrary &other)
     return order(one.description) < order(other.description);
 }
 
+/// Whoever names a single file is told why that is no photo database.
+LibraryList listOne(Session &session, Place place)
+{
+    const std::vector<FoundLibrary> found = {{SourceKind::Database, *place.database}};
+    ListedLibrary library = {describe(session, *place.tree, found).front(), std::nullopt};
+    if (!place.tree->isArchive())
+        library.description.name = place.name;
+    look(session, std::move(place), library);
+    return {{library}, {}, library.description.findings, {}};
+}
+
+LibrarySearch searched(Session &session, const Place &place, std::size_t most)
+{
+    LibrarySearch search = searchLibraries(session, *place.tree, place.top, place.name, most);
+    passOverOtherDatabases(session, *place.tree, search);
+    if (search.libraries.size() > most) {
+        search.libraries.resize(most);
+        search.unsearched.push_back({SourceProblem::EndedList, {place.name, std::to_string(most)}});
+    }
+    return search;
+}
+
 } // namespace
 
-LibraryList listLibraries(Session &session, const std::string &name)
+LibraryList listLibraries(Session &session, const std::string &name, std::size_t most)
 {
-    constexpr std::size_t most = 10'000;
-    const Place place = openPlace(session, name);
+    Place place = openPlace(session, name);
     if (place.folder)
         session.files.protectFolder(*place.folder);
-    LibrarySearch search;
     if (place.database)
-        search.libraries = {{SourceKind::Database, *place.database}};
-    else
-        search = searchLibraries(session, *place.tree, place.top, name, most);
+        return listOne(session, std::move(place));
+    const LibrarySearch search = searched(session, place, most);
     LibraryList list;
     list.unsearched = search.unsearched;
-    for (const FoundLibrary &found : search.libraries) {
-        ListedLibrary library = {describeOrSayWhy(session, *place.tree, found), std::nullopt};
-        look(session, library, place.tree->isArchive());
+    list.passedOver = namesOf(*place.tree, search.passedOver);
+    for (LibraryDescription &description : describe(session, *place.tree, search.libraries))
+        list.libraries.push_back({std::move(description), std::nullopt});
+    for (std::size_t i = 0; i < list.libraries.size(); ++i) {
+        ListedLibrary &library = list.libraries[i];
+        lookOrSayWhy(library, [&] {
+            if (place.tree->isArchive())
+                lookAtIndex(session, *place.tree, search.libraries[i], library);
+            else
+                look(session, openPlace(session, library.description.name), library);
+        });
         const std::vector<SourceFinding> &findings = library.description.findings;
         list.findings.insert(list.findings.end(), findings.begin(), findings.end());
-        list.libraries.push_back(std::move(library));
     }
     std::sort(list.libraries.begin(), list.libraries.end(), isBefore);
     return list;

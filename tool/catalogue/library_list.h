@@ -4,6 +4,7 @@
 #include "input/library_search.h"
 #include "session/session.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -26,12 +27,14 @@ struct LibraryList
     std::vector<ListedLibrary> libraries;
     std::vector<SourceFinding> unsearched; ///< where nobody could look
     std::vector<SourceFinding> findings;   ///< what is missing from the libraries
+    std::vector<PassedOverNames> passedOver;
 
     bool isComplete() const { return unsearched.empty() && findings.empty(); }
 };
 
 /// Throws when there is nothing to look in.
-LibraryList listLibraries(Session &session, const std::string &place);
+/// @param most  the list ends after so many
+LibraryList listLibraries(Session &session, const std::string &place, std::size_t most = 10'000);
 
 } // namespace iosphoto::tool
 

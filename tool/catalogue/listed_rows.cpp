@@ -1,8 +1,7 @@
 #include "catalogue/listed_rows.h"
 
-#include "input/tree/file_tree.h"
-
 #include <algorithm>
+#include <tuple>
 
 namespace iosphoto::tool {
 
@@ -14,56 +13,80 @@ template <typename Take>
 void forEachRecord(const std::vector<CAlbumGroup> &catalogue, Take take)
 {
     for (const CAlbumGroup &album : catalogue)
-        for (const CPhotoData *photo : album.photos)
-            take(*photo);
+        for (CPhotoData *const photo : album.photos)
+            take(photo);
 }
 
-template <typename Value>
-void sortOnce(std::vector<Value> &values)
+bool isBefore(const CPhotoData &left, const CPhotoData &right)
 {
-    std::sort(values.begin(), values.end());
-    values.erase(std::unique(values.begin(), values.end()), values.end());
+    const auto identity = [](const CPhotoData &photo) {
+        return std::tie(photo.uuid, photo.directory, photo.fileName);
+    };
+    return identity(left) < identity(right);
 }
 
 } // namespace
 
-ListedKeys::ListedKeys(const std::vector<CAlbumGroup> &catalogue)
+KeyedRecords::KeyedRecords(const std::vector<CAlbumGroup> &catalogue) : records_(catalogue)
 {
-    std::size_t records = 0;
-    for (const CAlbumGroup &album : catalogue)
-        records += album.photos.size();
-    keys_.reserve(records); // growing would take three times as much for a moment
-    forEachRecord(catalogue, [this](const CPhotoData &photo) {
-        if (photo.assetId != noKey)
-            keys_.push_back(photo.assetId);
+    if (!catalogue.empty())
+        inCameraRoll_ = catalogue.front().photos.size();
+    entries_.reserve(records_.count()); // growing would take three times as much for a moment
+    RecordNumber number = 0;
+    forEachRecord(catalogue, [&](const CPhotoData *photo) {
+        if (photo->assetId != noKey)
+            entries_.push_back({photo->assetId, number});
+        ++number;
     });
-    sortOnce(keys_);
-}
-
-bool ListedKeys::has(std::int32_t key) const
-{
-    return std::binary_search(keys_.begin(), keys_.end(), key);
-}
-
-ListedUuids::ListedUuids(const std::vector<CAlbumGroup> &catalogue)
-{
-    forEachRecord(catalogue, [this](const CPhotoData &photo) {
-        if (photo.assetId != noKey)
-            return;
-        if (photo.uuid.empty())
-            paths_.push_back(
-                joinedPath(photo.directory.toStdString(), photo.fileName.toStdString()));
-        else
-            uuids_.emplace_back(photo.uuid);
+    std::sort(entries_.begin(), entries_.end(), [](const Entry &left, const Entry &right) {
+        return std::tie(left.key, left.number) < std::tie(right.key, right.number);
     });
-    sortOnce(uuids_);
-    sortOnce(paths_);
 }
 
-bool ListedUuids::has(const std::string &uuid, const std::string &path) const
+CPhotoData *KeyedRecords::find(std::int64_t key) const
 {
-    return uuid.empty() ? std::binary_search(paths_.begin(), paths_.end(), path)
-                        : std::binary_search(uuids_.begin(), uuids_.end(), uuid);
+    const Entry *const entry = entryOf(key);
+    return entry != nullptr ? &records_.record(entry->number) : nullptr;
+}
+
+bool KeyedRecords::isInCameraRoll(std::int64_t key) const
+{
+    const Entry *const entry = entryOf(key);
+    return entry != nullptr && entry->number < inCameraRoll_;
+}
+
+const KeyedRecords::Entry *KeyedRecords::entryOf(std::int64_t key) const
+{
+    const auto found = std::lower_bound(
+        entries_.begin(), entries_.end(), key,
+        [](const Entry &entry, std::int64_t wanted) { return entry.key < wanted; });
+    return found != entries_.end() && found->key == key ? &*found : nullptr;
+}
+
+KeylessRecords::KeylessRecords(const std::vector<CAlbumGroup> &catalogue)
+{
+    forEachRecord(catalogue, [this](CPhotoData *photo) {
+        if (photo->assetId == noKey)
+            records_.push_back(photo);
+    });
+    std::stable_sort(
+        records_.begin(), records_.end(),
+        [](const CPhotoData *left, const CPhotoData *right) { return isBefore(*left, *right); });
+    areFound_.resize(records_.size());
+}
+
+ListedRecord KeylessRecords::find(const CPhotoData &row)
+{
+    const auto found = std::lower_bound(records_.begin(), records_.end(), row,
+                                        [](const CPhotoData *record, const CPhotoData &wanted) {
+                                            return isBefore(*record, wanted);
+                                        });
+    if (found == records_.end() || isBefore(row, **found))
+        return {};
+    const auto isFound = areFound_.begin() + (found - records_.begin());
+    const bool isRepeated = *isFound;
+    *isFound = true;
+    return {*found, isRepeated};
 }
 
 } // namespace iosphoto::tool

@@ -13,13 +13,14 @@ struct OrderName
 {
     const char *name;
     PhotoOrder order;
+    const char *field;
 };
 
 constexpr OrderName namedOrders[] = {
-    {"date", PhotoOrder::Date},       {"name", PhotoOrder::Name},
-    {"size", PhotoOrder::Size},       {"duration", PhotoOrder::Duration},
-    {"added", PhotoOrder::Added},     {"modified", PhotoOrder::Modified},
-    {"deleted", PhotoOrder::Deleted},
+    {"date", PhotoOrder::Date, "created"},       {"name", PhotoOrder::Name, "fileName"},
+    {"size", PhotoOrder::Size, "fileSize"},      {"duration", PhotoOrder::Duration, "duration"},
+    {"added", PhotoOrder::Added, "added"},       {"modified", PhotoOrder::Modified, "modified"},
+    {"deleted", PhotoOrder::Deleted, "trashed"},
 };
 
 constexpr double none = -std::numeric_limits<double>::infinity();
@@ -160,6 +161,13 @@ std::optional<PhotoOrder> orderNamed(const std::string &name)
         std::find_if(std::begin(namedOrders), std::end(namedOrders),
                      [&](const OrderName &order) { return name == order.name; });
     return found != std::end(namedOrders) ? std::optional(found->order) : std::nullopt;
+}
+
+const char *fieldOf(PhotoOrder order)
+{
+    return std::find_if(std::begin(namedOrders), std::end(namedOrders),
+                        [&](const OrderName &name) { return name.order == order; })
+        ->field;
 }
 
 std::vector<std::string> orderNames()

@@ -21,6 +21,9 @@ std::optional<PhotoOrder> orderNamed(const std::string &name);
 
 std::vector<std::string> orderNames();
 
+/// The key of the field that photos are sorted by.
+const char *fieldOf(PhotoOrder order);
+
 /// How to sort photos, and how many of them are wanted.
 struct PhotoSorting
 {

@@ -65,18 +65,21 @@ std::set<std::string> comparableUuids(const PhotoFilter &filter)
 
 bool matchesTime(const PhotoFilter &filter, const Library &library, const Asset &asset)
 {
-    if (!filter.since && !filter.until)
+    if (!filter.since && !filter.until && !filter.isUndated)
         return true;
     const auto date = library.dates().created(asset.firstRecord());
     const auto created = date ? unixTimeOf(*date) : std::nullopt;
+    if (filter.isUndated)
+        return !created;
     return created && (!filter.since || !(*created < *filter.since)) &&
            (!filter.until || !(*filter.until < *created));
 }
 
 bool matchesKinds(const PhotoFilter &filter, const Asset &asset)
 {
-    return filter.kinds.empty() || std::any_of(filter.kinds.begin(), filter.kinds.end(),
-                                               [&](const KindTest &test) { return test(asset); });
+    return filter.kinds.empty() ||
+           std::any_of(filter.kinds.begin(), filter.kinds.end(),
+                       [&](const PhotoKind *kind) { return kind->test(asset); });
 }
 
 bool matchesFlags(const PhotoFilter &filter, const Asset &asset)

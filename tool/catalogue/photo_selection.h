@@ -16,7 +16,8 @@ struct PhotoFilter
     std::vector<std::string> names; ///< likewise; patterns with * ? [a-z], whatever case of letters
     std::optional<UnixTime> since;  ///< of its creation
     std::optional<UnixTime> until;
-    std::vector<KindTest> kinds; ///< any of them, if there are some
+    bool isUndated = false; ///< only those of which no time of creation can be compared
+    std::vector<const PhotoKind *> kinds; ///< any of them, if there are some
     bool isDeleted = false;
     std::optional<int> trashedWithinDays; ///< before the library's moment; needs isDeleted
     bool isHidden = false;

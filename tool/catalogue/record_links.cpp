@@ -89,21 +89,72 @@ std::vector<Candidate> candidatesOf(std::uint64_t slice, std::size_t count,
     return candidates;
 }
 
+using Candidates = std::vector<Candidate>::iterator;
+
+/// Links candidates of one asset, which are in the order of their numbers.
+/// @return how many of them have one before them.
+std::size_t linkAsset(Candidates first, Candidates last)
+{
+    for (Candidates here = first; here != last; ++here) {
+        const Candidates next = here + 1;
+        link(*here->record, {here == first, next != last ? next->number : noRecord});
+    }
+    return static_cast<std::size_t>(last - first) - 1;
+}
+
+/// Whether two records of one uuid are of two rows all the same. Not all records know the key, but
+/// all the file.
+bool areOfTwoRows(const Candidate &left, const Candidate &right)
+{
+    constexpr std::int32_t noKey = -1;
+    const CPhotoData &one = *left.record;
+    const CPhotoData &other = *right.record;
+    return one.fileName != other.fileName || one.directory != other.directory ||
+           (one.assetId != other.assetId && one.assetId != noKey && other.assetId != noKey);
+}
+
+/// Links candidates of a uuid that more than one row has, or of none.
+std::size_t linkRows(Candidates first, Candidates last)
+{
+    const auto isBefore = [](const Candidate &left, const Candidate &right) {
+        const auto rank = [](const CPhotoData &record) {
+            return std::tie(record.fileName, record.directory, record.assetId);
+        };
+        return rank(*left.record) < rank(*right.record);
+    };
+    std::sort(first, last, isBefore);
+    std::size_t followers = 0;
+    while (first != last) {
+        const Candidates end = std::adjacent_find(first, last, areOfTwoRows);
+        const Candidates next = end != last ? end + 1 : last;
+        std::sort(first, next, isEarlier);
+        followers += linkAsset(first, next);
+        first = next;
+    }
+    return followers;
+}
+
+/// Links candidates of one uuid or without one, which are in the order of their numbers.
+std::size_t linkUuid(Candidates first, Candidates last)
+{
+    return std::adjacent_find(first, last, areOfTwoRows) == last ? linkAsset(first, last)
+                                                                 : linkRows(first, last);
+}
+
 /// Links candidates whose uuids have the same part, and so are mostly the same, and which are in
 /// the order of their numbers.
 /// @return how many of them have one of the same asset before them.
-std::size_t linkAlike(std::vector<Candidate>::iterator first, std::vector<Candidate>::iterator last)
+std::size_t linkAlike(Candidates first, Candidates last)
 {
     if (!std::is_sorted(first, last, hasSmallerUuid))
         std::stable_sort(first, last, hasSmallerUuid);
     std::size_t followers = 0;
-    bool isFirst = true;
-    for (auto here = first; here != last; ++here) {
-        const auto next = here + 1;
-        const bool isFollowed = next != last && next->record->uuid == here->record->uuid;
-        link(*here->record, {isFirst, isFollowed ? next->number : noRecord});
-        isFirst = !isFollowed;
-        followers += isFollowed ? 1U : 0U;
+    while (first != last) {
+        const Candidates next = std::find_if(first, last, [&](const Candidate &candidate) {
+            return candidate.record->uuid != first->record->uuid;
+        });
+        followers += linkUuid(first, next);
+        first = next;
     }
     return followers;
 }
@@ -131,10 +182,6 @@ std::size_t linkAssets(const std::vector<CAlbumGroup> &catalogue)
     std::array<std::size_t, slices> counts = {};
     forEachRecord(catalogue, [&](CPhotoData &record, RecordNumber /*number*/) {
         ++assets;
-        if (record.uuid.empty()) {
-            link(record, {true, noRecord});
-            return;
-        }
         setNote(record, partOf(record.uuid) | isWaiting);
         ++counts[sliceOf(noteOf(record))];
     });

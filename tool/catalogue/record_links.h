@@ -24,7 +24,8 @@ inline RecordLink linkOf(const CPhotoData &record)
 }
 
 /// Links the records of each asset of a catalogue, which are those of the same uuid, in the order
-/// of their numbers; records without one stand for themselves. To link them again changes nothing.
+/// of their numbers. Where a database has a uuid twice, or none, file and key tell the assets
+/// apart. To link them again changes nothing.
 /// @return how many assets there are.
 std::size_t linkAssets(const std::vector<CAlbumGroup> &catalogue);
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -37,14 +38,24 @@ public:
     RecordNumber count() const { return starts_.back(); }
     Appearance operator[](RecordNumber number) const
     {
-        const auto next = std::upper_bound(starts_.begin(), starts_.end(), number);
-        const auto index = static_cast<std::size_t>(next - starts_.begin() - 1);
-        const CAlbumGroup &album = (*catalogue_)[index];
-        const std::size_t position = number - starts_[index];
-        return {album.photos[position], areShown_ ? &album : nullptr, position};
+        const auto [album, position] = placeOf(number);
+        return {album->photos[position], areShown_ ? album : nullptr, position};
+    }
+    /// To change what it says.
+    CPhotoData &record(RecordNumber number) const
+    {
+        const auto [album, position] = placeOf(number);
+        return *album->photos[position];
     }
 
 private:
+    std::pair<const CAlbumGroup *, std::size_t> placeOf(RecordNumber number) const
+    {
+        const auto next = std::upper_bound(starts_.begin(), starts_.end(), number);
+        const auto index = static_cast<std::size_t>(next - starts_.begin() - 1);
+        return {&(*catalogue_)[index], number - starts_[index]};
+    }
+
     const std::vector<CAlbumGroup> *catalogue_;
     bool areShown_;
     std::vector<RecordNumber> starts_; ///< number of each album's first record; and the end

@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -35,6 +36,8 @@ public:
 
     /// Whether the trash was emptied of a photo that a catalogue shows all the same.
     bool isEmptiedOf(const CPhotoData &photo) const;
+    /// How many photos of a catalogue these are.
+    std::int64_t emptiedPhotos(const std::vector<CAlbumGroup> &catalogue) const;
 
 private:
     struct Date
@@ -43,8 +46,15 @@ private:
         std::int32_t raw; ///< as the library reads it
     };
 
+    /// Null where there is none.
+    const Date *dateOf(const std::string &uuid, std::int32_t key) const;
+
+    /// By uuid and key, as a database may have a uuid twice; ordered: no choice of uuids makes it
+    /// slow.
+    using Dates = std::map<std::pair<std::string, std::int32_t>, Date>;
+
     UnixTime asOf_;
-    std::map<std::string, Date> trashedAt_; // ordered: no choice of uuids makes it slow
+    Dates trashedAt_;
 };
 
 } // namespace iosphoto::tool

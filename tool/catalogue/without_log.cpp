@@ -1,6 +1,7 @@
 #include "catalogue/without_log.h"
 
 #include "catalogue/catalogue_build.h"
+#include "catalogue/left_out_photos.h"
 #include "process/failure.h"
 #include "schema/asset_tables.h"
 
@@ -10,13 +11,13 @@ namespace iosphoto::tool {
 
 namespace {
 
-/// The device to read the database as; nothing where it fits none. It may have the schema of the
+/// What to read the database as; nothing where it fits none. It may have the schema of the
 /// iOS before an update that is in the log still.
-std::optional<Device> fittingDevice(const CopyDatabase &database, const Device &withLog)
+std::optional<ProbedSchema> fittingSchema(const CopyDatabase &database, const Device &withLog)
 {
     for (const Device &wanted : {withLog, Device()}) {
         try {
-            return probe(database, wanted, RecordedDevice()).device;
+            return probe(database, wanted, RecordedDevice());
         } catch (const SchemaError &) { // try the next
         }
     }
@@ -30,10 +31,27 @@ bool hasPhotos(const CatalogueBuild &build)
                        [](const CAlbumGroup &album) { return !album.photos.empty(); });
 }
 
-DatedCatalogue dated(OwnedCatalogue catalogue, const CopyDatabase &database)
+/// With what only the rows tell of its photos.
+DatedCatalogue completed(CatalogueBuild build, const CopyDatabase &database,
+                         const ProbedSchema &schema)
 {
+    OwnedCatalogue catalogue = std::move(build.catalogue);
+    accountOfPhotos(database, {schema, catalogue.albums, beforeAllTrash, build.isComplete()},
+                    nullptr);
     KnownDates dates(database, catalogue.albums);
     return {std::move(catalogue), std::move(dates)};
+}
+
+/// What the trash leaves out counts as left out, though the catalogue to be compared has it.
+void countRows(const Session &session, const OpenedCopy &copy, const CopyDatabase &database,
+               UnixTime asOf, WithoutLog &without)
+{
+    std::optional<CatalogueBuild> build;
+    if (without.trash.emptiedPhotos(without.without.catalogue.albums) > 0)
+        build = buildCatalogue(session, copy.file(), without.schema.device, asOf);
+    const OwnedCatalogue &catalogue = build ? build->catalogue : without.without.catalogue;
+    without.account = accountOf(database, {without.schema, catalogue.albums, asOf, without.isRead},
+                                &without.leftOut);
 }
 
 void readAlone(const Session &session, const OpenedCopy &copy, UnixTime asOf, WithoutLog &without)
@@ -43,13 +61,15 @@ void readAlone(const Session &session, const OpenedCopy &copy, UnixTime asOf, Wi
         without.isRead = true;
         return;
     }
-    const std::optional<Device> device = fittingDevice(database, copy.schema().device);
-    if (!device)
+    const std::optional<ProbedSchema> schema = fittingSchema(database, copy.schema().device);
+    if (!schema)
         return;
-    CatalogueBuild build = buildCatalogue(session, copy.file(), *device, beforeAllTrash);
+    without.schema = *schema;
+    CatalogueBuild build = buildCatalogue(session, copy.file(), schema->device, beforeAllTrash);
     without.isRead = build.isComplete() && (hasPhotos(build) || !areAssetTablesDamaged(database));
-    without.without = dated(std::move(build.catalogue), database);
+    without.without = completed(std::move(build), database, *schema);
     without.trash = Trash(database, asOf);
+    countRows(session, copy, database, asOf, without);
 }
 
 } // namespace
@@ -60,10 +80,9 @@ WithoutLog readWithoutLog(const Session &session, const OpenedCopy &copy, UnixTi
     WithoutLog without;
     try {
         if (trashLeavesOut)
-            without.withLog =
-                dated(buildCatalogue(session, copy.file(), copy.schema().device, beforeAllTrash)
-                          .catalogue,
-                      copy.connect());
+            without.withLog = completed(
+                buildCatalogue(session, copy.file(), copy.schema().device, beforeAllTrash),
+                copy.connect(), copy.schema());
         copy.removeLog();
         readAlone(session, copy, asOf, without);
     } catch (const Failure &) {

@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_WITHOUT_LOG_H
 #define IOSPHOTO_TOOL_WITHOUT_LOG_H
 
+#include "catalogue/account.h"
 #include "catalogue/known_dates.h"
 #include "catalogue/trash.h"
 #include "records/owned_catalogue.h"
@@ -26,6 +27,9 @@ struct WithoutLog
     bool isRead = false;
     DatedCatalogue without; ///< empty where all of the schema is in the log
     Trash trash;
+    ProbedSchema schema;   ///< of no name where all of it is in the log
+    Account account;       ///< as of the library's moment
+    LeftOutPhotos leftOut; ///< likewise
     /// What is to be compared with it, where that is not the library, which leaves some out.
     std::optional<DatedCatalogue> withLog;
 };

@@ -2,6 +2,7 @@
 #include "commands/command.h"
 #include "commands/help.h"
 #include "commands/option_values.h"
+#include "commands/passed_over_words.h"
 #include "commands/problem_words.h"
 #include "commands/row_format_options.h"
 #include "process/failure.h"
@@ -59,6 +60,7 @@ LibraryList listAll(Session &session, const std::vector<std::string> &places)
         append(all.libraries, list.libraries);
         append(all.unsearched, list.unsearched);
         append(all.findings, list.findings);
+        append(all.passedOver, list.passedOver);
     }
     return all;
 }
@@ -68,6 +70,8 @@ void printWarnings(const Terminal &terminal, const LibraryList &list)
     for (const auto &findings : {list.unsearched, list.findings})
         for (const SourceFinding &finding : findings)
             terminal.printWarning(inWords(finding).what());
+    if (const std::string line = inWords(list.passedOver); !line.empty())
+        terminal.printInfo(line);
 }
 
 ExitStatus showBackups(const BackupsRequest &request, Session &session, std::ostream &out)

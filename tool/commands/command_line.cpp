@@ -1,5 +1,6 @@
 #include "commands/command_line.h"
 
+#include "files/standard_input.h"
 #include "text/translate.h"
 
 #include <algorithm>
@@ -53,6 +54,16 @@ bool isSource(const std::string &word)
            std::filesystem::exists(word, ignored);
 }
 
+/// A path in an archive that comes through standard input, as one that does not look like an
+/// option.
+void nameStandardInput(std::string &argument)
+{
+    std::error_code ignored;
+    const std::string input = StandardInput::name;
+    if (argument.rfind(input + "/", 0) == 0 && !std::filesystem::exists(input, ignored))
+        argument.replace(0, input.size(), StandardInput::device);
+}
+
 /// What stands behind "help" as a command that is asked for its help.
 Arguments helpOn(const CLI::App &app, Arguments arguments)
 {
@@ -71,6 +82,7 @@ Arguments completed(const CLI::App &app, Arguments arguments)
 {
     if (arguments.empty())
         return {helpOption};
+    std::for_each(arguments.begin(), arguments.end(), nameStandardInput);
     const auto word = firstWord(app, arguments);
     if (word == arguments.end())
         return arguments;

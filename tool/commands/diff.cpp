@@ -9,6 +9,7 @@
 #include "files/standard_input.h"
 #include "process/failure.h"
 #include "rows/difference_fields.h"
+#include "text/lists.h"
 #include "text/translate.h"
 #include "time/time_text.h"
 
@@ -80,6 +81,34 @@ std::size_t leaveOutOfTheTrash(const Library &before, const Library &after, Phot
     return all - photos.differences.size();
 }
 
+Snapshot snapshotOf(const Library &library, const AssetList &assets)
+{
+    return {assets, library.dates(), library.trash(), library.schema().unknownFields};
+}
+
+bool areAlbumsKnown(const Library &before, const Library &after)
+{
+    return !before.schema().isUnknown("albums") && !after.schema().isUnknown("albums");
+}
+
+void sayWhatIsNotCompared(const Library &before, const Library &after, const Terminal &terminal)
+{
+    std::vector<std::string> unknown = before.schema().unknownFields;
+    for (const std::string &field : after.schema().unknownFields)
+        if (!before.schema().isUnknown(field))
+            unknown.push_back(field);
+    if (!unknown.empty())
+        terminal.printWarning(translate("not compared, as a database lacks columns for them: {0}",
+                                        listForPeople(unknown)));
+    const auto &account = before.account();
+    if (account && after.account() &&
+        (account->photos.leftOut != after.account()->photos.leftOut ||
+         account->albums.leftOut != after.account()->albums.leftOut))
+        terminal.printWarning(translate(
+            "what the catalogues leave out is not compared, and A has other numbers of it "
+            "than B, as iosphoto info shows"));
+}
+
 constexpr UnixTime noTime = {0};
 
 /// Says when the first library is the later one; the times of files change with each copy.
@@ -123,14 +152,17 @@ ExitStatus showDifference(const DiffRequest &request, Session &session, std::ost
     const Library after(session, compared(request.after, request.device, asOf), second);
     const AssetList assetsBefore(before.albums());
     const AssetList assetsAfter(after.albums());
-    LibraryDifference difference = {compareAlbums(before.albums(), after.albums()),
-                                    comparePhotos(assetsBefore, assetsAfter)};
+    LibraryDifference difference = {
+        areAlbumsKnown(before, after) ? compareAlbums(before.albums(), after.albums())
+                                      : std::vector<AlbumDifference>(),
+        comparePhotos(snapshotOf(before, assetsBefore), snapshotOf(after, assetsAfter))};
     const std::size_t leftOut = leaveOutOfTheTrash(before, after, difference.photos);
     printHowItWasRead(session.terminal, before, "A: ");
     printHowItWasRead(session.terminal, after, "B: ");
     if (leftOut > 0)
         session.terminal.printWarning(translate(
             "differences left out, as the photos had been in the trash for 30 days: {0}", leftOut));
+    sayWhatIsNotCompared(before, after, session.terminal);
     checkThatTheyAreRelated(before, after, difference, session.terminal);
     if (difference.photos.inBoth > 0)
         checkTheirOrder(first, second, before, after, session.terminal);
@@ -170,6 +202,9 @@ Command addDiff(CLI::App &app)
     jsonLines->excludes(csv);
     command->footer(helpFooter(
         {translate("What is in the trash is compared however long it has been there."),
+         translate("Compared are the names of albums, which photos they show, and all that photos "
+                   "shows of a photo, but keys of rows, places in the thumbnail cache, and what "
+                   "follows from other fields or photos. What is in no album is counted only."),
          kindsOfTimes(),
          examples({"iosphoto diff May/Photos.sqlite June/Photos.sqlite",
                    "iosphoto diff May/Photos.sqlite June/Photos.sqlite --json"}),

@@ -19,19 +19,37 @@ std::string changeWord(AnyChange change)
     return translateTerm(changeName(change));
 }
 
-std::string fieldWords(ChangedField field, const CPhotoData &before, const CPhotoData &after)
+bool hasNoDate(double time)
 {
-    switch (field) {
-    case ChangedField::Favorite:
+    return time == 0;
+}
+
+/// Empty for a field that is only named.
+std::string fieldWords(const std::string &key, const CPhotoData &before, const CPhotoData &after)
+{
+    if (key == "isFavorite")
         return after.isFavorite ? translate("now a favorite") : translate("no longer a favorite");
-    case ChangedField::Hidden:
+    if (key == "isHidden")
         return after.isHidden ? translate("now hidden") : translate("no longer hidden");
-    case ChangedField::FileName:
+    if (key == "fileName")
         return translate("was named {0}", before.fileName.toStdString());
-    case ChangedField::Created:
-        break;
+    if (key == "directory")
+        return translate("was in {0}", before.directory.toStdString());
+    if (key == "created" && !hasNoDate(before.createdTime) && !hasNoDate(after.createdTime))
+        return translate("has another time of creation");
+    return "";
+}
+
+void addFields(Words &words, const std::vector<const ComparedFact *> &fields,
+               const CPhotoData &before, const CPhotoData &after)
+{
+    Words others;
+    for (const ComparedFact *field : fields) {
+        const std::string text = fieldWords(field->key, before, after);
+        text.empty() ? others.emplace_back(field->key) : words.emplace_back(text);
     }
-    return translate("has another time of creation");
+    if (!others.empty())
+        words.push_back(translate("differs in {0}", listForPeople(others)));
 }
 
 /// What the edit made of a photo that had one before.
@@ -58,8 +76,7 @@ Words details(const PhotoDifference &photo)
         words.push_back(translate("added to {0}", shownName(*album)));
     for (const CAlbumGroup *album : photo.removedFrom)
         words.push_back(translate("removed from {0}", shownName(*album)));
-    for (const ChangedField field : photo.changedFields)
-        words.push_back(fieldWords(field, before, after));
+    addFields(words, photo.changedFields, before, after);
     return words;
 }
 

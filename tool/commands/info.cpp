@@ -20,6 +20,7 @@
 #include "text/translate.h"
 #include "time/time_text.h"
 
+#include <functional>
 #include <memory>
 
 namespace iosphoto::tool {
@@ -43,10 +44,10 @@ std::string withMore(const std::string &what, const std::string &more)
     return more.empty() ? what : what + translate(", ") + more;
 }
 
-std::string schemaText(const Library &library)
+std::string schemaText(const ProbedSchema &schema)
 {
-    const std::optional<std::int64_t> &model = library.schema().metadata.modelVersion;
-    return withMore(library.schema().shownName, model ? translate("model {0}", *model) : "");
+    const std::optional<std::int64_t> &model = schema.metadata.modelVersion;
+    return withMore(schema.shownName, model ? translate("model {0}", *model) : "");
 }
 
 void printFacts(const Library &library, const Summary &summary, const Screen &screen,
@@ -69,7 +70,7 @@ void printFacts(const Library &library, const Summary &summary, const Screen &sc
     add(translate("System"), schema.iosText());
     if (schema.iosOrigin != DeviceOrigin::Schema) // which names it already
         add(translate("Build"), schema.iosBuild);
-    add(translate("Schema"), schemaText(library));
+    add(translate("Schema"), schemaText(schema));
     add(translate("As of"), localTimeText(library.asOf().time));
     add(translate("Albums"), std::to_string(library.albums().size()));
     add(translate("First taken"), localTimeOf(summary.firstCreated));
@@ -100,29 +101,53 @@ void printCounts(const ProbedSchema &schema, const Summary &summary, const Scree
     table.print(out, screen);
 }
 
+/// Adds what became of the rows of a table, and what without the log where that is to be shown.
+template <typename Reason, std::size_t reasons>
+void addRows(TextTable &table, const std::string &what, const ProbedSchema &schema,
+             const RowAccount<Reason, reasons> &account,
+             const RowAccount<Reason, reasons> *withoutLog)
+{
+    using Rows = RowAccount<Reason, reasons>;
+    const auto add = [&](const std::string &row, auto countIn) {
+        std::vector<std::string> cells = {row, countIn(account)};
+        if (withoutLog != nullptr)
+            cells.push_back(countIn(*withoutLog));
+        table.add(cells);
+    };
+    add(what, [](const Rows &of) { return std::to_string(of.rows); });
+    add(translate("- listed"), [](const Rows &of) { return std::to_string(of.listed); });
+    for (std::size_t i = 0; i < reasons; ++i) {
+        const auto reason = Reason(i);
+        const bool isUnknown = schema.isUnknownReason(machineName(reason));
+        const auto count = [&](const Rows &of) { return of.leftOutFor(reason); };
+        if (count(account) == 0 && (withoutLog == nullptr || count(*withoutLog) == 0) && !isUnknown)
+            continue;
+        add(translate("- left out: {0}", translateTerm(words(reason))), [&](const Rows &of) {
+            return isUnknown && count(of) == 0 ? translate("unknown") : std::to_string(count(of));
+        });
+    }
+}
+
 /// Every row of the tables of photos and albums: listed, or left out for a reason.
-void printAccount(const Library &library, const Summary &summary, const Screen &screen,
-                  std::ostream &out)
+/// @param withoutLog  null where that is the same, or not known
+void printAccount(const Library &library, const Account *withoutLog, const Summary &summary,
+                  const Screen &screen, std::ostream &out)
 {
     if (!library.account()) {
         printParagraph(out, screen,
                        translate("The rows of the database could not all be counted."));
         return;
     }
-    TextTable table(
-        {{translate("IN THE DATABASE")}, {translate("COUNT"), TextTable::Align::Right}});
-    const auto addRows = [&](const std::string &what, const auto &account, auto reasonOf) {
-        table.add({what, std::to_string(account.rows)});
-        table.add({translate("- listed"), std::to_string(account.listed)});
-        for (std::size_t i = 0; i < account.leftOut.size(); ++i)
-            if (account.leftOut[i] > 0)
-                table.add({translate("- left out: {0}", translateTerm(words(reasonOf(i)))),
-                           std::to_string(account.leftOut[i])});
-    };
-    addRows(translate("photos"), library.account()->photos,
-            [](std::size_t i) { return PhotoReason(i); });
-    addRows(translate("albums"), library.account()->albums,
-            [](std::size_t i) { return AlbumReason(i); });
+    using Align = TextTable::Align;
+    std::vector<TextTable::Column> columns = {{translate("IN THE DATABASE")},
+                                              {translate("COUNT"), Align::Right}};
+    if (withoutLog != nullptr)
+        columns.push_back({translate("WITHOUT THE LOG"), Align::Right});
+    TextTable table(columns);
+    addRows(table, translate("photos"), library.schema(), library.account()->photos,
+            withoutLog != nullptr ? &withoutLog->photos : nullptr);
+    addRows(table, translate("albums"), library.schema(), library.account()->albums,
+            withoutLog != nullptr ? &withoutLog->albums : nullptr);
     table.print(out, screen);
     if (summary.foldedFrames > 0)
         printParagraph(out, screen,
@@ -131,6 +156,19 @@ void printAccount(const Library &library, const Summary &summary, const Screen &
                                "less, unless --frames asks for all.",
                                "'iosphoto photos' shows one photo of each burst and so {0} frames "
                                "less, unless --frames asks for all."));
+}
+
+/// What the log changes beside photos and albums that could be named.
+std::vector<std::string> namelessChanges(const LogChanges &changes)
+{
+    std::vector<std::string> what;
+    if (changes.isOfOtherSchema())
+        what.push_back(translate("the schema"));
+    if (changes.hasOtherCounts())
+        what.push_back(translate("the numbers of rows in the database"));
+    if (changes.hasOtherLists())
+        what.push_back(translate("the order of albums or photos, or kinds or counts of albums"));
+    return what;
 }
 
 /// Why the log changes nothing that could be listed; empty where it does.
@@ -147,7 +185,13 @@ std::string whyNoLogChanges(const Library &library, const LogChanges *changes)
     case LogState::NoLog:
         return translate("The -wal is no write-ahead log, so nothing of it is shown.");
     case LogState::Damaged:
+        if (!library.log().isApplied())
+            return translate("No commit of the write-ahead log (-wal) is good, so nothing of it is "
+                             "shown.");
+        break;
     case LogState::Good:
+        if (!library.log().isApplied())
+            return translate("The write-ahead log (-wal) holds no commit, so it changes nothing.");
         break;
     }
     if (library.withoutLog() && !library.withoutLog()->isRead)
@@ -155,10 +199,28 @@ std::string whyNoLogChanges(const Library &library, const LogChanges *changes)
                          "database cannot be read.");
     if (changes == nullptr || changes->isNone())
         return translate("The write-ahead log (-wal) changes nothing that is shown.");
-    if (changes->photos().empty() && changes->albums().empty())
-        return translate("The write-ahead log (-wal) changes the order of albums or photos and "
-                         "nothing else that is shown.");
+    if (!changes->hasNames())
+        return translate("The write-ahead log (-wal) changes {0} and nothing else that is shown.",
+                         listForPeople(namelessChanges(*changes)));
     return "";
+}
+
+/// What the database alone says of its schema; empty where that is the same.
+std::string schemaWithoutLog(const Library &library, const LogChanges *changes)
+{
+    if (changes == nullptr || !changes->isOfOtherSchema())
+        return "";
+    const ProbedSchema &schema = library.withoutLog()->schema;
+    if (schema.name.empty())
+        return translate("Without the write-ahead log (-wal) there is no photo library in the "
+                         "database.");
+    const std::string &build = schema.metadata.build;
+    std::string text =
+        withMore(schemaText(schema), build.empty() ? "" : translate("build {0}", build));
+    if (!schema.unknownFields.empty())
+        text =
+            withMore(text, translate("unknown fields: {0}", listForPeople(schema.unknownFields)));
+    return translate("Without the write-ahead log (-wal) the schema is {0}.", text);
 }
 
 /// What differs beyond what the words for the change say.
@@ -177,9 +239,26 @@ std::vector<std::string> cellsOf(const LogChange &change)
             line.name, other.empty() ? line.what : other, change.photo.latest().uuid()};
 }
 
+std::vector<std::string> cellsOf(const LeftOutChange &change)
+{
+    const auto wordsOf = [](PhotoReason reason) { return translateTerm(words(reason)); };
+    if (!change.before)
+        return {translate("left out"), change.path, wordsOf(*change.after), change.uuid};
+    if (!change.after)
+        return {translate("no longer left out"), change.path, wordsOf(*change.before), change.uuid};
+    const std::string what =
+        change.before != change.after
+            ? translate("{0}; without the log: {1}", wordsOf(*change.after),
+                        wordsOf(*change.before))
+            : translate("{0}; differs in {1}", wordsOf(*change.after), listForPeople(change.facts));
+    return {translate("left out"), change.path, what, change.uuid};
+}
+
 void printLog(const Library &library, const LogChanges *changes, const Screen &screen,
               std::ostream &out)
 {
+    if (const std::string schema = schemaWithoutLog(library, changes); !schema.empty())
+        printParagraph(out, screen, schema);
     if (const std::string why = whyNoLogChanges(library, changes); !why.empty()) {
         printParagraph(out, screen, why);
         return;
@@ -195,6 +274,8 @@ void printLog(const Library &library, const LogChanges *changes, const Screen &s
     }
     for (const LogChange &change : changes->photos())
         table.add(cellsOf(change));
+    for (const LeftOutChange &change : changes->leftOut())
+        table.add(cellsOf(change));
     table.print(out, screen);
 }
 
@@ -205,7 +286,9 @@ void printInfo(const Library &library, const Summary &summary, const LogChanges 
     out << '\n';
     printCounts(library.schema(), summary, screen, out);
     out << '\n';
-    printAccount(library, summary, screen, out);
+    const bool isOtherWithoutLog = changes != nullptr && changes->hasOtherCounts();
+    printAccount(library, isOtherWithoutLog ? &library.withoutLog()->account : nullptr, summary,
+                 screen, out);
     out << '\n';
     printLog(library, changes, screen, out);
 }

@@ -30,25 +30,25 @@ Json timeOrNull(const std::optional<CoreDataTime> &time)
     return time ? tool::timeOrNull(*time) : Json();
 }
 
-template <typename Reason, std::size_t count>
-Json leftOut(const RowAccount<Reason, count> &account)
+Json rowsOf(const ProbedSchema &schema, const Account &account)
 {
-    Json counts;
-    for (std::size_t reason = 0; reason < count; ++reason)
-        counts[machineName(Reason(reason))] = account.leftOut[reason];
-    return counts;
+    return {{"assetRows", account.photos.rows},
+            {"listed", account.photos.listed},
+            {"leftOut", leftOutByReason(schema, account.photos)},
+            {"albumRows", account.albums.rows},
+            {"albumsListed", account.albums.listed},
+            {"albumsLeftOut", leftOutByReason(schema, account.albums)}};
 }
 
 Json accountOrNull(const Library &library, const Summary &summary)
 {
     if (!library.account())
         return {};
-    const PhotoAccount &photos = library.account()->photos;
-    const AlbumAccount &albums = library.account()->albums;
-    return {{"assetRows", photos.rows},        {"listed", photos.listed},
-            {"leftOut", leftOut(photos)},      {"foldedBurstFrames", summary.foldedFrames},
-            {"albumRows", albums.rows},        {"albumsListed", albums.listed},
-            {"albumsLeftOut", leftOut(albums)}};
+    const ProbedSchema &schema = library.schema();
+    Json account = rowsOf(schema, *library.account());
+    account["foldedBurstFrames"] =
+        schema.isUnknown("burstFrames") ? Json() : Json(summary.foldedFrames);
+    return account;
 }
 
 Json references(const std::vector<const CAlbumGroup *> &albums)
@@ -74,6 +74,30 @@ void addChanges(Json &changes, const LogChange &logChange)
     }
 }
 
+Json reasonOrNull(const std::optional<PhotoReason> &reason)
+{
+    return reason ? Json(machineName(*reason)) : Json();
+}
+
+Json documentOf(const LeftOutChange &change)
+{
+    return {{"uuid", textOrNull(change.uuid)},
+            {"path", change.path},
+            {"before", reasonOrNull(change.before)},
+            {"after", reasonOrNull(change.after)},
+            {"changedFacts", change.facts}};
+}
+
+/// What the database says and holds without its log.
+Json documentOf(const WithoutLog &without)
+{
+    const StoreMetadata &metadata = without.schema.metadata;
+    return {{"schema", textOrNull(without.schema.name)},
+            {"modelVersion", metadata.modelVersion ? Json(*metadata.modelVersion) : Json()},
+            {"build", textOrNull(metadata.build)},
+            {"account", rowsOf(without.schema, without.account)}};
+}
+
 Json logOrNull(const Library &library, const LogChanges *changes)
 {
     const WriteAheadLog &log = library.log();
@@ -81,19 +105,26 @@ Json logOrNull(const Library &library, const LogChanges *changes)
         return {};
     Json photos = Json::array();
     Json albums = Json::array();
+    Json leftOut = Json::array();
     if (changes != nullptr) {
         for (const LogChange &change : changes->photos())
             addChanges(photos, change);
+        for (const LeftOutChange &change : changes->leftOut())
+            leftOut.push_back(documentOf(change));
         albums = albumChanges(changes->albums());
     }
     return {{"state", machineName(log.state)},
             {"commits", log.commits},
             {"commitsAtLeast", log.commits + log.lostCommits},
             {"hasOpenChange", log.hasOpenChange},
+            {"endsInZeros", log.endsInZeros},
+            {"frames", log.frames},
             {"isCompared", !library.withoutLog() || library.withoutLog()->isRead},
             {"changes", std::move(photos)},
             {"albums", std::move(albums)},
-            {"isInOtherOrder", changes != nullptr && changes->isInOtherOrder()}};
+            {"leftOut", std::move(leftOut)},
+            {"isInOtherOrder", changes != nullptr && changes->hasOtherLists()},
+            {"without", changes != nullptr ? documentOf(*library.withoutLog()) : Json()}};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "commands/library_messages.h"
 
 #include "catalogue/catalogue_build.h"
+#include "commands/passed_over_words.h"
 #include "commands/problem_words.h"
 #include "commands/reading_stop.h"
 #include "sqlite/sqlite_error.h"
@@ -41,7 +42,7 @@ std::string infoOf(const Library &library)
 }
 
 /// What is left out and why; empty if nothing.
-std::string leftOutOf(const Library &library)
+std::string leftOutOf(const Library &library, Shown shown)
 {
     std::vector<std::string> parts;
     const auto add = [&](PhotoReason reason) {
@@ -52,33 +53,52 @@ std::string leftOutOf(const Library &library)
     if (library.account())
         for (std::size_t reason = 0; reason < photoReasonCount; ++reason)
             add(PhotoReason(reason));
-    return parts.empty() ? ""
-                         : translate("left out: {0}; iosphoto photos --left-out lists them",
-                                     listForPeople(parts));
+    if (parts.empty())
+        return "";
+    return shown == Shown::Listed
+               ? translate("left out: {0}; iosphoto photos --left-out lists them",
+                           listForPeople(parts))
+               : translate("left out: {0}", listForPeople(parts));
+}
+
+/// What a good log leaves open: its end may be what a device wrote, or what damage made of it.
+std::vector<SourceProblem> doubtsAbout(const WriteAheadLog &log)
+{
+    std::vector<SourceProblem> doubts;
+    if (log.state != LogState::Good)
+        return doubts;
+    if (log.hasOpenChange)
+        doubts.push_back(SourceProblem::LogEndsInOpenChange);
+    if (log.endsInZeros)
+        doubts.push_back(SourceProblem::LogEndsInZeros);
+    if (log.frames == 0)
+        doubts.push_back(SourceProblem::LogHasNoFrame);
+    return doubts;
 }
 
 } // namespace
 
-void printHowItWasRead(const Terminal &terminal, const Library &library, const std::string &label)
+void printHowItWasRead(const Terminal &terminal, const Library &library, const std::string &label,
+                       Shown shown)
 {
     if (const std::string line = infoOf(library); !line.empty())
         terminal.printInfo(label + line);
-    if (const std::string line = leftOutOf(library); !line.empty())
+    if (const std::string line = inWords(library.passedOver()); !line.empty())
+        terminal.printInfo(label + line);
+    if (const std::string line = leftOutOf(library, shown); !line.empty())
         terminal.printWarning(label + line);
     if (library.schema().warning)
         terminal.printWarning(label + inWords(*library.schema().warning).what());
-    if (library.schema().gap)
-        terminal.printWarning(label + inWords(*library.schema().gap).what());
+    for (const SchemaFinding &gap : library.schema().gaps)
+        terminal.printWarning(label + inWords(gap).what());
     if (library.isBareStream())
         terminal.printWarning(
             label + translate("a write-ahead log (-wal) does not come through standard input, so "
                               "what only that holds is not shown"));
     for (const SourceFinding &finding : library.missing())
         terminal.printWarning(label + inWords(finding).what());
-    if (library.log().state == LogState::Good && library.log().hasOpenChange)
-        terminal.printWarning(
-            label + inWords(SourceFinding{SourceProblem::LogEndsInOpenChange, {library.database()}})
-                        .what());
+    for (const SourceProblem problem : doubtsAbout(library.log()))
+        terminal.printWarning(label + inWords(SourceFinding{problem, {library.database()}}).what());
     for (const std::string &sentence :
          sentencesOf(library.report(), library.database(), library.rowLimit()))
         terminal.printWarning(label + sentence);

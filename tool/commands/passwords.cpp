@@ -67,7 +67,7 @@ void Passwords::addOption(CLI::App &command)
 
 std::optional<Secret> Passwords::passwordOf(const std::string &backup, int attempt)
 {
-    forbidMemoryDumps();
+    guardSecrets();
     load();
     const std::size_t number = numberOf(backup);
     if (given_.empty())

@@ -76,7 +76,7 @@ void addKinds(CLI::App &command, PhotoFilter &filter)
 {
     const auto addKind = [&filter](const std::vector<std::string> &names) {
         for (const std::string &name : names)
-            filter.kinds.push_back(kindOf(name).test);
+            filter.kinds.push_back(&kindOf(name));
     };
     CLI::Option *const kinds = command.add_option_function<std::vector<std::string>>(
         "--kind", addKind,

@@ -1,6 +1,8 @@
 #include "catalogue/album_kinds.h"
+#include "catalogue/asset_matching.h"
 #include "commands/command.h"
 #include "commands/help.h"
+#include "commands/known_fields.h"
 #include "commands/library_messages.h"
 #include "commands/library_options.h"
 #include "commands/option_values.h"
@@ -15,6 +17,10 @@
 #include "text/numbers.h"
 #include "text/printable.h"
 #include "text/translate.h"
+#include "time/time_text.h"
+
+#include <algorithm>
+#include <functional>
 
 namespace iosphoto::tool {
 
@@ -43,11 +49,19 @@ std::vector<std::string> namesOf(const Library &library)
     return names;
 }
 
+bool isWithoutPhotos(const std::vector<const CAlbumGroup *> &albums)
+{
+    return std::all_of(albums.begin(), albums.end(),
+                       [](const CAlbumGroup *album) { return album->photos.empty(); });
+}
+
 /// The albums that fit one name. Throws Failure where there are none.
 std::vector<const CAlbumGroup *> albumsNamed(const std::string &name, const Library &library,
                                              const Terminal &terminal)
 {
     std::vector<const CAlbumGroup *> albums = matchingAlbums(library, name);
+    if (isWithoutPhotos(albums))
+        requireKnown("--album", fieldBehindAlbum(name), library);
     if (albums.empty())
         throw Failure(WrongUsage, translate("no album fits '{0}'; 'iosphoto albums {1}' lists them",
                                             name, library.name()) +
@@ -71,24 +85,54 @@ std::vector<const CAlbumGroup *> albumsOf(const PhotoFilter &filter, const Libra
     return all;
 }
 
-void requireUuids(const PhotoFilter &filter, const std::vector<const AssetList *> &lists,
+/// Why a photo is left out; nothing where none has the uuid.
+std::optional<PhotoReason> reasonFor(const std::string &uuid, const AssetList &leftOut,
+                                     const Library &library)
+{
+    for (const Asset asset : leftOut)
+        if (comparable(asset.uuid()) == comparable(uuid))
+            return library.leftOutPhotos().reasonFor(asset);
+    return std::nullopt;
+}
+
+/// That every uuid that is asked for is one of a photo that the list may have.
+void requireUuids(const PhotoChoice &choice, const AssetList &assets, const AssetList &leftOut,
                   const Library &library)
 {
-    if (const std::string missing = missingUuid(filter, lists); !missing.empty())
-        throw Failure(WrongUsage, translate("no photo of the catalogue has the uuid '{0}'; "
-                                            "'iosphoto photos {1} --frames --fields uuid,path' "
-                                            "lists them",
+    const std::string notListed = missingUuid(choice.filter, {&assets});
+    const std::string missing = missingUuid(choice.filter, {&assets, &leftOut});
+    if (!missing.empty())
+        throw Failure(WrongUsage, translate("no photo of the database has the uuid '{0}'; "
+                                            "'iosphoto photos {1} --frames --with-left-out "
+                                            "--fields uuid,path' lists them",
                                             missing, library.name()));
+    if (choice.shown != Shown::Listed || notListed.empty())
+        return;
+    if (const auto reason = reasonFor(notListed, leftOut, library))
+        throw Failure(WrongUsage,
+                      translate("the photo with the uuid '{0}' is in the database, but left out: "
+                                "{1}; --with-left-out shows it",
+                                notListed, translateTerm(words(*reason))));
 }
 
 /// Whether a photo fulfils --where; empty where that is not given.
-KindTest conditionOf(const PhotosRequest &request, const Library &library, const PhotoRows &rows)
+KindTest conditionOf(const PhotosRequest &request, const Library &library, const PhotoRows &rows,
+                     const Terminal &terminal)
 {
     if (!request.where)
         return {};
     const auto condition = std::make_shared<PhotoCondition>(
         *request.where, withUnknown(photoColumns(), library.schema().unknownFields));
+    for (const Field<PhotoRow> &field : condition->fields())
+        sayThatItIsNull("--where", field.column.key, library, terminal);
     return [condition, &rows](const Asset &photo) { return condition->isMetBy(rows.of(photo)); };
+}
+
+/// How many photos could be chosen.
+std::size_t countOf(Shown shown, const AssetList &assets, const AssetList &leftOut)
+{
+    return (shown == Shown::LeftOut ? 0 : assets.size()) +
+           (shown == Shown::Listed ? 0 : leftOut.size());
 }
 
 /// @param count  of the photos that could have been chosen
@@ -106,6 +150,38 @@ void sayThatThereAreNone(Shown shown, std::size_t size, const Terminal &terminal
                     "none of the {0} photos fits; leave out an option to see more"));
 }
 
+void requireOrder(const PhotoFilter &filter)
+{
+    if (filter.since && filter.until && *filter.until < *filter.since)
+        throw Failure(WrongUsage,
+                      translate("--since ({0}) is later than --until ({1}), so no photo "
+                                "fits both; exchange them",
+                                localTimeText(*filter.since), localTimeText(*filter.until)));
+}
+
+/// Says how many photos a time leaves out for want of one of their own.
+/// @param choose  from the photos of the library
+void sayWhatHasNoTime(PhotoChoice choice,
+                      const std::function<ChosenAssets(const PhotoChoice &)> &choose,
+                      const Terminal &terminal)
+{
+    PhotoFilter &filter = choice.filter;
+    if (!filter.since && !filter.until)
+        return;
+    filter.since.reset();
+    filter.until.reset();
+    filter.isUndated = true;
+    choice.sorting = {};
+    const auto count = static_cast<std::int64_t>(choose(choice).size());
+    if (count > 0)
+        terminal.printWarning(counted(
+            count,
+            "{0} photo is not shown, as it has no time of creation, by which --since and --until "
+            "choose",
+            "{0} photos are not shown, as they have no time of creation, by which --since and "
+            "--until choose"));
+}
+
 FieldTable<PhotoRow> fieldsFor(const PhotoChoice &choice)
 {
     if (choice.shown == Shown::LeftOut)
@@ -120,22 +196,28 @@ ExitStatus showPhotos(PhotosRequest request, Session &session, std::ostream &out
     const auto fields = fieldsToShow(fieldsFor(request.choice), request.format);
     if (request.where)
         PhotoCondition(*request.where, photoColumns()); // a mistake is said before the long reading
+    requireOrder(request.choice.filter);
     const Shown shown = request.choice.shown;
-    request.library.keepsLeftOut = shown != Shown::Listed;
+    // A photo that is asked for by its uuid may be one of them.
+    request.library.keepsLeftOut = shown != Shown::Listed || !request.choice.filter.uuids.empty();
     const Library library(session, request.library);
+    requireKnownFields(request.choice, library);
     const std::vector<const CAlbumGroup *> albums =
         albumsOf(request.choice.filter, library, session.terminal);
     const AssetList assets(library.albums());
     const AssetList leftOut(library.leftOutPhotos().records());
-    requireUuids(request.choice.filter, {&assets, &leftOut}, library);
+    requireUuids(request.choice, assets, leftOut, library);
     const BurstFrames bursts(assets);
     const PhotoRows rows(library, bursts);
-    request.choice.filter.isWanted = conditionOf(request, library, rows);
-    const ChosenAssets photos = choosePhotos(request.choice, albums, library, assets, leftOut);
-    printHowItWasRead(session.terminal, library);
+    request.choice.filter.isWanted = conditionOf(request, library, rows, session.terminal);
+    const auto choose = [&](const PhotoChoice &choice) {
+        return choosePhotos(choice, albums, library, assets, leftOut);
+    };
+    const ChosenAssets photos = choose(request.choice);
+    printHowItWasRead(session.terminal, library, "", shown);
+    sayWhatHasNoTime(request.choice, choose, session.terminal);
     if (photos.empty())
-        sayThatThereAreNone(shown, (shown == Shown::LeftOut ? 0 : assets.size()) + leftOut.size(),
-                            session.terminal);
+        sayThatThereAreNone(shown, countOf(shown, assets, leftOut), session.terminal);
     if (request.format.format == Format::Sqlite) {
         writePhotoDatabase(session.files, request.format.sqliteFile, library, photos, rows);
         out << translate("wrote {0}", printable(request.format.sqliteFile)) << '\n';

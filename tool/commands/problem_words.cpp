@@ -1,6 +1,7 @@
 #include "commands/problem_words.h"
 
 #include "catalogue/library.h"
+#include "commands/passed_over_words.h"
 #include "commands/reading_stop.h"
 #include "files/output_file.h"
 #include "input/library_search.h"
@@ -8,6 +9,7 @@
 #include "rows/photo_condition.h"
 #include "text/did_you_mean.h"
 #include "text/lists.h"
+#include "text/numbers.h"
 #include "text/translate.h"
 #include "time/time_text.h"
 
@@ -51,8 +53,16 @@ constexpr Wording<SourceProblem> sourceWords[] = {
                   "what follows is no whole frame; later changes may be missing; copy it from the "
                   "device or the backup again, its -wal with it")},
     {SourceProblem::LogEndsInOpenChange, Good,
-     translatable("the -wal of '{0}' ends in a change without a commit, as of a device that was "
-                  "still writing, or gave it up; it is left out")},
+     translatable("the -wal of '{0}' ends in a change without a commit, which is left out: either "
+                  "the device was still writing it or gave it up, and nothing is missing, or the "
+                  "log was cut or damaged there, and the change is")},
+    {SourceProblem::LogEndsInZeros, Good,
+     translatable(
+         "the -wal of '{0}' ends in zeros: either a copy was padded with them, and nothing "
+         "is missing, or they replaced changes, and these are")},
+    {SourceProblem::LogHasNoFrame, Good,
+     translatable("the -wal of '{0}' has a header and no change: either none was written yet, and "
+                  "nothing is missing, or the log was cut behind its header, and its changes are")},
     {SourceProblem::TooLarge, CannotAccess,
      translatable("cannot read '{0}': it is larger than {1} bytes, which no such file is; copy the "
                   "whole backup again")},
@@ -65,6 +75,12 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::EndedSearch, Incomplete,
      translatable("the search of '{0}' ended after {1} folders, so photo libraries in the others "
                   "are not known; name a folder further in")},
+    {SourceProblem::EndedList, Incomplete,
+     translatable("the search of '{0}' ended after {1} photo libraries, so others are not known; "
+                  "name a folder further in")},
+    {SourceProblem::TooDeepFolders, Incomplete,
+     translatable("'{0}' has folders more than {1} deep, where photo libraries are not searched "
+                  "for; name a folder further in")},
     {SourceProblem::UnsearchedPlaces, Incomplete,
      translatable("not all of '{0}' was searched for photo libraries, as not everything in it can "
                   "be read (such places: {1}), the first: {2}")},
@@ -203,11 +219,12 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
                   "the Photos.sqlite of a phone or backup")},
     {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of no known schema: no iOS from {1} to {2} has these "
-                  "tables ({3}); look for a newer iosphoto, or send this output of 'iosphoto info' "
-                  "to its makers")},
+                  "tables ({3}); look for a newer iosphoto, or run 'iosphoto info' on it and send "
+                  "what that prints to the makers")},
     {SchemaProblem::NewerSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet ({2}); look "
-                  "for a newer iosphoto, or send this output of 'iosphoto info' to its makers")},
+                  "for a newer iosphoto, or run 'iosphoto info' on it and send what that prints to "
+                  "the makers")},
     {SchemaProblem::OtherDevice, SchemaDoesNotFit,
      translatable("'{0}' is a photo database, but not of iOS {1} and {2}; try --ios {3} --product "
                   "{4}")},
@@ -220,6 +237,31 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
     {SchemaProblem::MissingColumns, Incomplete,
      translatable("'{0}' has no {1}, so these fields are unknown, and albums that are made by them "
                   "may be wrong: {2}; look for a newer iosphoto")},
+    {SchemaProblem::UnknownOrigins, Incomplete,
+     translatable("'{0}' has no {1}, so photos of shared albums, photos referenced elsewhere and "
+                  "photos synced from a computer cannot be told from the user's own, and are "
+                  "listed as those; look for a newer iosphoto")},
+    {SchemaProblem::UnknownTrash, Incomplete,
+     translatable("'{0}' has no {1}, so deleted photos cannot be told from others, and are listed "
+                  "as those, also after 30 days; look for a newer iosphoto")},
+    {SchemaProblem::UnknownTrashDates, Incomplete,
+     translatable("'{0}' has no {1}, so it is not known which photos have been in Recently Deleted "
+                  "for 30 days, and all are listed; look for a newer iosphoto")},
+    {SchemaProblem::UnknownBursts, Incomplete,
+     translatable("'{0}' has no {1}, so the frames of a burst cannot be put together, and each is "
+                  "listed by itself; look for a newer iosphoto")},
+    {SchemaProblem::UnknownTitles, Incomplete,
+     translatable(
+         "'{0}' has no {1}, so the titles of albums are not known, and all albums that "
+         "people or computers made are left out, as are photos that only they show; look for a "
+         "newer iosphoto")},
+    {SchemaProblem::UnknownAlbumKinds, Incomplete,
+     translatable(
+         "'{0}' has no {1}, so albums of the system cannot be told from those of the user, "
+         "and are listed as those; look for a newer iosphoto")},
+    {SchemaProblem::UnknownAlbumTrash, Incomplete,
+     translatable("'{0}' has no {1}, so deleted albums cannot all be told from others, and may be "
+                  "listed as those; look for a newer iosphoto")},
 };
 
 constexpr Wording<OutputProblem> outputWords[] = {
@@ -260,7 +302,7 @@ constexpr bool hasAll(const Wording<Kind> (&wordings)[count], Kind last)
 }
 
 static_assert(hasAll(sourceWords, SourceProblem::IndexIsDamaged));
-static_assert(hasAll(schemaWords, SchemaProblem::MissingColumns));
+static_assert(hasAll(schemaWords, SchemaProblem::UnknownAlbumTrash));
 static_assert(hasAll(outputWords, OutputProblem::Unwritten));
 static_assert(hasAll(conditionWords, ConditionProblem::TooMuchWork));
 
@@ -290,14 +332,29 @@ std::string shownName(const LibraryDescription &library)
     const RecordedDevice device = library.device.value_or(RecordedDevice());
     const std::string ios =
         device.iosVersion.empty() ? "" : translate("iOS {0}", device.iosVersion);
-    const std::string date = library.backupDate ? localTimeText(*library.backupDate) : "";
+    const std::optional<FileFacts> &database = library.database;
+    const std::string size =
+        database ? readableSize(static_cast<std::int64_t>(database->size)) : "";
+    const std::string date = library.backupDate ? localTimeText(*library.backupDate)
+                             : database         ? localTimeText(database->modified)
+                                                : "";
     std::vector<std::string> known;
     for (const std::string &fact :
-         {library.deviceName, device.productType, ios, date, encryptionOf(library)})
+         {library.deviceName, device.productType, ios, size, date, encryptionOf(library)})
         if (!fact.empty())
             known.push_back(fact);
     const std::string name = translate("'{0}'", library.name);
     return known.empty() ? name : translate("{0} ({1})", name, listForPeople(known));
+}
+
+/// Where a search did not look, to the end of another sentence.
+std::string appended(const std::vector<SourceFinding> &unsearched,
+                     const std::vector<PassedOverNames> &passedOver)
+{
+    std::string text;
+    for (const SourceFinding &finding : unsearched)
+        text += translate("; ") + inWords(finding).what();
+    return passedOver.empty() ? text : text + translate("; ") + inWords(passedOver);
 }
 
 Failure inWords(const SeveralLibraries &several)
@@ -312,12 +369,16 @@ Failure inWords(const SeveralLibraries &several)
         several.libraries.begin(),
         several.libraries.begin() + static_cast<std::ptrdiff_t>(std::min(count, mostNames)));
     const std::string names = listForPeople(named, shownName);
-    std::string text = translate(
+    const std::string text = translate(
         "'{0}' holds {1}, which iosphoto backups lists; name one of them: {2}", several.source,
         what, count > mostNames ? translate("{0} and more", names) : names);
-    for (const SourceFinding &finding : several.unsearched)
-        text += translate("; ") + inWords(finding).what();
-    return {WrongUsage, text};
+    return {WrongUsage, text + appended(several.unsearched, several.passedOver)};
+}
+
+Failure inWords(const NoLibraryFound &none)
+{
+    const Failure failure = wordsFor(sourceWords, none.finding);
+    return {failure.status(), failure.what() + appended(none.unsearched, none.passedOver)};
 }
 
 Failure inWords(const UnknownField &field)
@@ -388,6 +449,8 @@ ExitStatus runWithWords(const std::function<ExitStatus()> &command)
         throw inWords(there);
     } catch (const NothingRead &nothing) {
         throw inWords(nothing);
+    } catch (const NoLibraryFound &none) {
+        throw inWords(none);
     } catch (const SeveralLibraries &libraries) {
         throw inWords(libraries);
     } catch (const UnknownField &field) {

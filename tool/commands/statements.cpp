@@ -2,6 +2,7 @@
 #include "commands/help.h"
 #include "commands/library_options.h"
 #include "commands/option_values.h"
+#include "commands/passed_over_words.h"
 #include "commands/problem_words.h"
 #include "commands/row_format_options.h"
 #include "formats/versions.h"
@@ -33,24 +34,27 @@ struct Target
     NumberSource numbers;
     std::string assumption; ///< what was filled in that nobody named; empty if nothing was
     std::optional<SchemaFinding> warning;
-    std::optional<SchemaFinding> gap;
+    std::vector<SchemaFinding> gaps;
     std::vector<std::string> views; ///< that stand in for tables without all columns
     std::vector<SourceFinding> missing;
+    std::vector<PassedOverNames> passedOver; ///< in the search for the library
 
-    bool isComplete() const { return missing.empty() && !gap; }
+    bool isComplete() const { return missing.empty() && gaps.empty(); }
 };
 
 Target readTarget(const StatementsRequest &request, Session &session)
 {
-    const OpenedCopy copy(session, Source(session, request.source), request.device);
+    const Source source(session, request.source);
+    const OpenedCopy copy(session, source, request.device);
     const ProbedSchema &schema = copy.schema();
     Target target = {schema.device,
                      {schema.numbers, true},
                      {},
                      schema.warning,
-                     schema.gap,
+                     schema.gaps,
                      viewsWith(schema.missingColumns),
-                     copy.missing()};
+                     copy.missing(),
+                     source.passedOver()};
     if (schema.isAssumed())
         target.assumption =
             translate("filled in for {0} and {1}", schema.iosText(), schema.productText());
@@ -73,7 +77,7 @@ Target usualTarget(const Device &wanted)
     return {device, {usualEntityNumbers(device.iosVersion), false},
             {},     warningOfNewer(device.iosVersion),
             {},     {},
-            {}};
+            {},     {}};
 }
 
 bool uses(const BuildStatement &statement, const EntityNumberName &name)
@@ -185,10 +189,12 @@ void printHowTheyWereMade(const Terminal &terminal, const Target &target,
     }
     if (!target.assumption.empty())
         terminal.printInfo(target.assumption);
+    if (const std::string line = inWords(target.passedOver); !line.empty())
+        terminal.printInfo(line);
     if (target.warning)
         terminal.printWarning(inWords(*target.warning).what());
-    if (target.gap)
-        terminal.printWarning(inWords(*target.gap).what());
+    for (const SchemaFinding &gap : target.gaps)
+        terminal.printWarning(inWords(gap).what());
     for (const SourceFinding &finding : target.missing)
         terminal.printWarning(inWords(finding).what());
 }

@@ -6,6 +6,8 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -25,6 +27,24 @@ mode_t modeFor(const fs::path &file)
     const mode_t mask = umask(0);
     umask(mask);
     return 0666 & ~mask;
+}
+
+/// Of a name that no user thinks of.
+constexpr const char prefix[] = ".iosphoto-unfinished-";
+
+bool isThere(int file)
+{
+    struct stat facts = {};
+    return fstat(file, &facts) == 0 && facts.st_nlink > 0;
+}
+
+/// Where the locks of all who may write there are seen.
+void removeIfOfTheDead(const fs::path &path)
+{
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file.number() >= 0 && isOurs(file.number(), S_IFREG) && isOnOwnDisk(file.number()) &&
+        lockAsOwner(file.number()))
+        unlink(path.c_str());
 }
 
 } // namespace
@@ -66,11 +86,30 @@ void AtomicFile::finishInFolder()
 
 fs::path AtomicFile::make()
 {
-    std::string name = (file_.parent_path() / ".iosphoto-XXXXXX").string();
-    descriptor_ = mkstemp(name.data());
-    if (descriptor_ < 0)
-        fail(errno);
-    return name;
+    constexpr int attempts = 100;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        std::string name = (file_.parent_path() / prefix).string() + "XXXXXX";
+        Descriptor made(mkstemp(name.data()));
+        if (made.number() < 0)
+            fail(errno);
+        if (isOnOwnDisk(made.number()) && !(lockAsOwner(made.number()) && isThere(made.number())))
+            continue; // another run took it for one that was left
+        descriptor_ = fcntl(made.number(), F_DUPFD_CLOEXEC, 0);
+        if (descriptor_ < 0)
+            fail(errno);
+        lock_ = std::move(made);
+        return name;
+    }
+    fail(EEXIST);
+}
+
+void removeUnfinishedFiles(const fs::path &folder)
+{
+    std::error_code error;
+    for (fs::directory_iterator entry(folder.empty() ? "." : folder, error), end;
+         !error && entry != end; entry.increment(error))
+        if (entry->path().filename().string().compare(0, std::strlen(prefix), prefix) == 0)
+            removeIfOfTheDead(entry->path());
 }
 
 void AtomicFile::throwIf(const std::error_code &error) const

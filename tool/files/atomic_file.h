@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_ATOMIC_FILE_H
 #define IOSPHOTO_TOOL_ATOMIC_FILE_H
 
+#include "files/owner_lock.h"
 #include "process/failure.h"
 #include "process/temporary_path.h"
 
@@ -41,8 +42,12 @@ private:
 
     std::filesystem::path file_;
     int descriptor_ = -1;
+    Descriptor lock_;         // goes after the file
     TemporaryPath temporary_; // behind the descriptor that it sets
 };
+
+/// Removes what runs of this user left in a folder that were killed before they had written a file.
+void removeUnfinishedFiles(const std::filesystem::path &folder);
 
 /// That a file cannot be written, and why.
 Failure cannotWrite(const std::filesystem::path &file, const std::error_code &error);

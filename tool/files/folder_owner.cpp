@@ -1,5 +1,7 @@
 #include "files/folder_owner.h"
 
+#include "files/owner_lock.h"
+
 #include <array>
 #include <cstring>
 #include <dirent.h>
@@ -8,7 +10,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #ifdef __APPLE__
@@ -20,24 +21,6 @@ namespace iosphoto::tool {
 namespace fs = std::filesystem;
 
 namespace {
-
-class Descriptor
-{
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor()
-    {
-        if (number_ >= 0)
-            close(number_);
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    int number() const { return number_; }
-
-private:
-    int number_;
-};
 
 /// Names this start of this machine among all; empty where the system does not tell.
 std::string startOfThisMachine()
@@ -54,24 +37,22 @@ std::string startOfThisMachine()
     return name;
 }
 
-bool isLockedByUs(int file)
-{
-    return flock(file, LOCK_EX | LOCK_NB) == 0;
-}
-
 bool isOursAlone(int file, mode_t kind)
 {
     struct stat facts = {};
     constexpr mode_t othersMay = 077;
-    return fstat(file, &facts) == 0 && (facts.st_mode & S_IFMT) == kind &&
-           facts.st_uid == geteuid() && (facts.st_mode & othersMay) == 0;
+    return isOurs(file, kind) && fstat(file, &facts) == 0 && (facts.st_mode & othersMay) == 0;
 }
 
-bool holds(int file, const std::string &text)
+/// Whether whoever made a mark is dead, once we have locked it. Until it is locked it is empty; and
+/// the lock of another machine may not be seen here.
+bool isOfTheDead(int mark)
 {
     std::array<char, 128> bytes = {};
-    const ssize_t size = pread(file, bytes.data(), bytes.size(), 0);
-    return size > 0 && std::string_view(bytes.data(), static_cast<std::size_t>(size)) == text;
+    const ssize_t size = pread(mark, bytes.data(), bytes.size(), 0);
+    return size > 0 &&
+           (isOnOwnDisk(mark) ||
+            std::string_view(bytes.data(), static_cast<std::size_t>(size)) == startOfThisMachine());
 }
 
 /// Whether nothing but the mark is left. Folders are never entered: private ones have none.
@@ -89,7 +70,7 @@ bool removeAllButTheMark(int folder)
     return isDone;
 }
 
-void removeIfOfTheDead(const fs::path &path, const std::string &start)
+void removeIfOfTheDead(const fs::path &path)
 {
     const Descriptor folder(
         open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
@@ -97,8 +78,8 @@ void removeIfOfTheDead(const fs::path &path, const std::string &start)
         return;
     const Descriptor mark(
         openat(folder.number(), FolderOwner::mark, O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (mark.number() < 0 || !isOursAlone(mark.number(), S_IFREG) || !isLockedByUs(mark.number()) ||
-        !holds(mark.number(), start))
+    if (mark.number() < 0 || !isOursAlone(mark.number(), S_IFREG) || !lockAsOwner(mark.number()) ||
+        !isOfTheDead(mark.number()))
         return;
     // The mark goes last, so that a run that is killed meanwhile leaves it to the next.
     if (removeAllButTheMark(folder.number()) &&
@@ -112,7 +93,7 @@ FolderOwner::FolderOwner(const fs::path &folder)
     : lock_(open((folder / mark).c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR))
 {
     // Written once it is locked: a mark that does not say this belongs to a run that just starts.
-    if (lock_ < 0 || !isLockedByUs(lock_))
+    if (lock_ < 0 || !lockAsOwner(lock_))
         return;
     const std::string start = startOfThisMachine();
     [[maybe_unused]] const ssize_t written = write(lock_, start.data(), start.size());
@@ -126,14 +107,11 @@ FolderOwner::~FolderOwner()
 
 void removeFoldersOfTheDead(const fs::path &parent, const std::string &prefix)
 {
-    const std::string start = startOfThisMachine();
-    if (start.empty())
-        return;
     std::error_code error;
     for (fs::directory_iterator entry(parent, error), end; !error && entry != end;
          entry.increment(error))
         if (entry->path().filename().string().compare(0, prefix.size(), prefix) == 0)
-            removeIfOfTheDead(entry->path(), start);
+            removeIfOfTheDead(entry->path());
 }
 
 } // namespace iosphoto::tool

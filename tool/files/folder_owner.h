@@ -26,8 +26,8 @@ private:
 };
 
 /// Removes the folders in `parent` whose names begin with `prefix` if they are this user's alone
-/// and marked by a run that is dead for sure: one since the last start of this very machine, as
-/// others may share the folder.
+/// and marked by a run that is dead for sure. On a disk that other machines may use too, that is
+/// one since the last start of this very machine.
 void removeFoldersOfTheDead(const std::filesystem::path &parent, const std::string &prefix);
 
 } // namespace iosphoto::tool

@@ -91,6 +91,7 @@ void write(FileUse &files, const fs::path &file, const QByteArray &content, cons
 void writeOutput(FileUse &files, const fs::path &file, const QByteArray &content,
                  const fs::path &source)
 {
+    removeUnfinishedFiles(targetOf(file).parent_path());
     write(files, file, content, source, &AtomicFile::finish);
 }
 
@@ -107,6 +108,7 @@ OutputFolder::OutputFolder(const fs::path &folder) : folder_(folder), changed_({
         throw Failure(CannotAccess, translate("cannot make the folder '{0}': {1}; choose another "
                                               "place for the output",
                                               folder.string(), systemError(error.value())));
+    removeUnfinishedFiles(folder);
 }
 
 void OutputFolder::write(FileUse &files, const std::string &name, const QByteArray &content,

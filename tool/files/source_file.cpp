@@ -38,6 +38,10 @@ Failure mayNotRead(const fs::path &file, const std::string &reason)
 fs::path resolved(const fs::path &path)
 {
     std::error_code error;
+    const fs::file_type type = fs::status(path, error).type(); // as the path of a pipe says nothing
+    if (type == fs::file_type::fifo || type == fs::file_type::socket)
+        throw cannotRead(path, translate("it is a pipe; send it through standard input, and name "
+                                         "that as -"));
     fs::path target = fs::canonical(path, error);
     if (error)
         throw cannotRead(path, translate("{0}; check the path", systemError(error.value())));

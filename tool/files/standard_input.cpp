@@ -6,8 +6,10 @@
 #include "text/system_error.h"
 #include "text/translate.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <ctime>
+#include <iterator>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -35,7 +37,9 @@ bool isSameFile(const struct stat &one, const struct stat &other)
 
 bool isStandardInput(const std::string &name)
 {
-    return name == StandardInput::name || name == StandardInput::device;
+    constexpr const char *names[] = {StandardInput::name, StandardInput::device, "/dev/fd/0",
+                                     "/proc/self/fd/0"};
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
 std::optional<fs::path> redirectedInput()

@@ -2,6 +2,7 @@
 
 #include "input/backup/backup.h"
 #include "input/library_layout.h"
+#include "input/photo_databases.h"
 #include "terminal/busy_line.h"
 #include "text/translate.h"
 
@@ -16,14 +17,44 @@ namespace {
 constexpr const char *mediaPlaces[] = {"", "private/var/mobile/Media", "var/mobile/Media",
                                        "mobile/Media", "Media"};
 
+/// As it is called wherever it lies.
+constexpr const char *databaseName = "Photos.sqlite";
+
 /// Databases of the system with the same name, such as that of photos which others sent.
 bool isOfSystem(const std::string &path)
 {
     return ("/" + path).find("/Library/Photos/Libraries/") != std::string::npos;
 }
 
+bool endsWith(const std::string &text, const std::string &end)
+{
+    return text.size() >= end.size() &&
+           text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+/// By its name, since many files lie in folders.
+bool isCalledDatabase(const std::string &name)
+{
+    // A Mac packs notes of its own on a file as "._" and its name.
+    return endsWith(name, ".sqlite") && name.compare(0, 2, "._") != 0;
+}
+
+bool isCalledArchive(const std::string &name)
+{
+    constexpr const char *ends[] = {".zip",    ".tar",    ".tgz",     ".tbz2",    ".txz",
+                                    ".tar.gz", ".tar.xz", ".tar.bz2", ".tar.zst", ".7z"};
+    return std::any_of(std::begin(ends), std::end(ends),
+                       [&](const char *end) { return endsWith(name, end); });
+}
+
+/// Whether a folder of a backup holds stored files, which are in folders by their first two digits.
+bool isOfStoredFiles(const std::string &name)
+{
+    return name.size() == 2 && name.find_first_not_of("0123456789abcdef") == std::string::npos;
+}
+
 /// Looks into one folder after the other.
-class Search
+class Search : public FolderVisitor
 {
 public:
     Search(const FileTree &tree, std::string top, std::size_t most)
@@ -31,32 +62,54 @@ public:
     {
     }
 
-    /// Whether to look into the folders in this one.
-    bool look(const std::string &folder)
+    bool enter(const std::string &folder) override
     {
-        if (libraries_.size() > most_ || paths_.count(folder) != 0)
+        if (libraries_.size() > most_)
             return false;
-        if (const auto library = libraryAt(folder)) {
-            paths_.insert(library->path);
+        if (isInBackup(folder))
+            return enterInBackup(folder);
+        if (const auto library = libraryAt(folder); library && paths_.insert(library->path).second)
             libraries_.push_back(*library);
-            return library->path != folder;
+        if (paths_.count(folder) == 0)
+            return true;
+        if (!isBackup(tree_, folder)) {
+            meetDatabaseBeside(folder);
+            return false;
         }
-        if (std::string path = joinedPath(folder, "Photos.sqlite"); tree_.find(path))
-            loneDatabases_.push_back(std::move(path));
+        inBackups_.insert(folder);
         return true;
     }
 
-    /// To be called at the end.
-    std::vector<FoundLibrary> libraries() const
+    void meetFile(const std::string &path) override
     {
-        if (!libraries_.empty())
-            return libraries_;
-        std::vector<FoundLibrary> databases;
-        for (const std::string &path :
-             loneDatabases_.empty() ? tree_.loneFiles(top_) : loneDatabases_)
-            if (databases.size() <= most_ && !isOfSystem(path))
-                databases.push_back({SourceKind::Database, path});
-        return databases;
+        const std::string name = nameOf(path);
+        if (isCalledArchive(name))
+            passedOver_[tree_.isArchive() ? PassedOver::PackedArchive : PassedOver::Archive]
+                .push_back(path);
+        else if (isCalledDatabase(name) && isOfSystem(path))
+            passedOver_[PassedOver::SystemDatabase].push_back(path);
+        else if (isCalledDatabase(name))
+            (name == databaseName ? databases_ : otherDatabases_).push_back(path);
+    }
+
+    void meetLink(const std::string &path) override
+    {
+        if (isCalledDatabase(nameOf(path)) && tree_.find(path))
+            meetFile(path);
+        else
+            passedOver_[PassedOver::Link].push_back(path);
+    }
+
+    /// To be called at the end.
+    LibrarySearch result() &&
+    {
+        if (libraries_.empty() && databases_.empty())
+            databases_.swap(otherDatabases_);
+        else if (!otherDatabases_.empty())
+            passedOver_[PassedOver::OtherDatabase] = std::move(otherDatabases_);
+        for (const std::string &path : databases_)
+            libraries_.push_back({SourceKind::Database, path});
+        return {std::move(libraries_), {}, std::move(passedOver_)};
     }
 
 private:
@@ -75,12 +128,40 @@ private:
         return std::nullopt;
     }
 
+    bool isInBackup(const std::string &folder) const
+    {
+        return folder != top_ && inBackups_.count(parentOf(folder)) != 0;
+    }
+
+    /// Looks for libraries that do not belong there.
+    bool enterInBackup(const std::string &folder)
+    {
+        if (paths_.count(parentOf(folder)) != 0 && isOfStoredFiles(nameOf(folder)))
+            return false;
+        const auto library = libraryAt(folder);
+        if (library)
+            passedOver_[PassedOver::NestedLibrary].push_back(library->path);
+        else
+            inBackups_.insert(folder);
+        return !library;
+    }
+
+    /// In a media folder, which is not looked into.
+    void meetDatabaseBeside(const std::string &folder)
+    {
+        if (const std::string path = joinedPath(folder, databaseName); tree_.find(path))
+            meetFile(path);
+    }
+
     const FileTree &tree_;
     std::string top_;
     std::size_t most_;
     std::vector<FoundLibrary> libraries_;
-    std::set<std::string> paths_;            ///< of these
-    std::vector<std::string> loneDatabases_; ///< that lie there without the folders of a phone
+    std::set<std::string> paths_;             ///< of these
+    std::set<std::string> inBackups_;         ///< folders of these and in them
+    std::vector<std::string> databases_;      ///< that lie there without the folders of a phone
+    std::vector<std::string> otherDatabases_; ///< of other names
+    PassedOverPlaces passedOver_;
 };
 
 /// Throws Failure where nothing was found since a folder could not be read.
@@ -99,7 +180,103 @@ std::vector<SourceFinding> findingsOf(const UnsearchedFolders &unsearched, bool 
     if (unsearched.endedAfter)
         findings.push_back(
             {SourceProblem::EndedSearch, {shownName, std::to_string(*unsearched.endedAfter)}});
+    if (unsearched.hasTooDeep)
+        findings.push_back(
+            {SourceProblem::TooDeepFolders, {shownName, std::to_string(deepestFolder)}});
     return findings;
+}
+
+void keepPhotoDatabases(Session &session, const FileTree &tree, LibrarySearch &search)
+{
+    std::vector<std::string> lone;
+    for (const FoundLibrary &library : search.libraries)
+        if (library.kind == SourceKind::Database)
+            lone.push_back(library.path);
+    if (lone.empty())
+        return;
+    const std::vector<std::string> found = photoDatabasesAmong(session, tree, lone);
+    const std::set<std::string> ofPhotos(found.begin(), found.end());
+    std::vector<FoundLibrary> libraries;
+    for (FoundLibrary &library : search.libraries)
+        if (library.kind != SourceKind::Database || ofPhotos.count(library.path) != 0)
+            libraries.push_back(std::move(library));
+        else
+            search.passedOver[PassedOver::NoPhotoDatabase].push_back(library.path);
+    search.libraries = std::move(libraries);
+}
+
+SeveralLibraries several(Session &session, const FileTree &tree, const LibrarySearch &search,
+                         const std::string &shownName)
+{
+    const auto isOfBackup = [](const FoundLibrary &library) {
+        return library.kind == SourceKind::Backup;
+    };
+    return {shownName, std::all_of(search.libraries.begin(), search.libraries.end(), isOfBackup),
+            describe(session, tree, search.libraries), search.unsearched,
+            namesOf(tree, search.passedOver)};
+}
+
+NoLibraryFound none(const FileTree &tree, const LibrarySearch &search, const std::string &shownName)
+{
+    for (const SourceFinding &unsearched : search.unsearched)
+        if (unsearched.kind == SourceProblem::EndedSearch)
+            return {{SourceProblem::NoLibrarySoFar, unsearched.facts},
+                    {},
+                    namesOf(tree, search.passedOver)};
+    return {{SourceProblem::NoLibrary, {shownName, databaseBelowMedia}},
+            search.unsearched,
+            namesOf(tree, search.passedOver)};
+}
+
+/// Whoever names the very folder of a library means that one.
+void keepThatOf(const std::string &folder, LibrarySearch &search)
+{
+    std::vector<FoundLibrary> &all = search.libraries;
+    if (all.empty() || all.front().kind == SourceKind::Database || all.front().path != folder)
+        return;
+    for (auto other = all.begin() + 1; other != all.end(); ++other)
+        search.passedOver[PassedOver::OtherLibrary].push_back(other->path);
+    all.resize(1);
+}
+
+} // namespace
+
+LibrarySearch searchLibraries(Session &session, const FileTree &tree, const std::string &top,
+                              const std::string &shownName, std::size_t most)
+{
+    Search search(tree, top, most);
+    const UnsearchedFolders unsearched = [&] {
+        const BusyLine busy(session.terminal, translate("searching folders"));
+        return tree.searchFolders(top, search);
+    }();
+    LibrarySearch result = std::move(search).result();
+    result.unsearched = findingsOf(unsearched, !result.libraries.empty(), shownName);
+    return result;
+}
+
+void passOverOtherDatabases(Session &session, const FileTree &tree, LibrarySearch &search)
+{
+    keepPhotoDatabases(session, tree, search);
+    const auto others = search.passedOver.find(PassedOver::OtherDatabase);
+    if (!search.libraries.empty() || others == search.passedOver.end())
+        return;
+    for (const std::string &path : others->second)
+        search.libraries.push_back({SourceKind::Database, path});
+    search.passedOver.erase(others);
+    keepPhotoDatabases(session, tree, search);
+}
+
+std::vector<PassedOverNames> namesOf(const FileTree &tree, const PassedOverPlaces &places)
+{
+    constexpr std::size_t mostNames = 3;
+    std::vector<PassedOverNames> all;
+    for (const auto &[reason, paths] : places) {
+        PassedOverNames names = {reason, paths.size(), {}};
+        for (std::size_t i = 0; i < std::min(paths.size(), mostNames); ++i)
+            names.first.push_back(tree.shown(paths[i]));
+        all.push_back(std::move(names));
+    }
+    return all;
 }
 
 std::unique_ptr<LibraryLayout> layoutOf(Session &session, const FileTree &tree,
@@ -116,73 +293,19 @@ std::unique_ptr<LibraryLayout> layoutOf(Session &session, const FileTree &tree,
     return std::make_unique<LoneDatabase>(library.path);
 }
 
-/// Only its name where the rest cannot be had at once.
-LibraryDescription describeShortly(Session &session, const FileTree &tree,
-                                   const FoundLibrary &library)
-{
-    if (!tree.isArchive()) // which would be read from its beginning
-        try {
-            return describe(session, tree, library);
-        } catch (const Failure &) { // who names the library is told
-        }
-    return {library.kind, tree.shown(library.path), {}, {}, {}, {}, {}, {}};
-}
-
-SeveralLibraries several(Session &session, const FileTree &tree, const LibrarySearch &search,
-                         const std::string &shownName)
-{
-    SeveralLibraries several = {shownName, true, {}, search.unsearched};
-    for (const FoundLibrary &library : search.libraries) {
-        several.areBackups = several.areBackups && library.kind == SourceKind::Backup;
-        several.libraries.push_back(describeShortly(session, tree, library));
-    }
-    return several;
-}
-
-} // namespace
-
-LibrarySearch searchLibraries(Session &session, const FileTree &tree, const std::string &top,
-                              const std::string &shownName, std::size_t most)
-{
-    Search search(tree, top, most);
-    const UnsearchedFolders unsearched = [&] {
-        const BusyLine busy(session.terminal, translate("searching folders"));
-        return tree.searchFolders(top,
-                                  [&](const std::string &folder) { return search.look(folder); });
-    }();
-    LibrarySearch result = {search.libraries(), {}};
-    result.unsearched = findingsOf(unsearched, !result.libraries.empty(), shownName);
-    return result;
-}
-
-LibraryDescription describe(Session &session, const FileTree &tree, const FoundLibrary &library)
-{
-    LibraryDescription description = {
-        library.kind, tree.shown(library.path), {}, {}, {}, {}, {}, {}};
-    if (library.kind != SourceKind::Backup)
-        return description;
-    const BackupRecords records(session, tree, library.path, BackupRecords::Extent::Lists);
-    description.device = records.device();
-    description.deviceName = records.identity().name;
-    description.backupDate = records.date();
-    description.isEncrypted = records.isEncrypted();
-    description.isFinished = records.isFinished();
-    description.findings = records.findings();
-    return description;
-}
-
 std::unique_ptr<LibraryLayout> onlyLibrary(Session &session, const FileTree &tree,
-                                           const LibrarySearch &search,
+                                           LibrarySearch &search, const std::string &top,
                                            const std::string &shownName)
 {
+    keepThatOf(top, search);
+    // A single one that is no photo database is told why, when it is read.
+    if (search.libraries.size() > 1 || search.passedOver.count(PassedOver::OtherDatabase) != 0)
+        passOverOtherDatabases(session, tree, search);
     if (search.libraries.size() > 1)
         throw several(session, tree, search, shownName);
-    if (search.libraries.size() == 1)
-        return layoutOf(session, tree, search.libraries.front());
-    for (const SourceFinding &finding : search.unsearched)
-        if (finding.kind == SourceProblem::EndedSearch)
-            throw SourceError(SourceProblem::NoLibrarySoFar, finding.facts);
-    throw SourceError(SourceProblem::NoLibrary, {shownName, databaseBelowMedia});
+    if (search.libraries.empty())
+        throw none(tree, search, shownName);
+    return layoutOf(session, tree, search.libraries.front());
 }
 
 } // namespace iosphoto::tool

@@ -1,42 +1,24 @@
 #ifndef IOSPHOTO_TOOL_LIBRARY_SEARCH_H
 #define IOSPHOTO_TOOL_LIBRARY_SEARCH_H
 
+#include "input/library_description.h"
 #include "input/library_layout.h"
+#include "input/passed_over.h"
 #include "input/tree/file_tree.h"
 #include "session/session.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace iosphoto::tool {
-
-/// A library that was found: its kind and its path in the tree.
-struct FoundLibrary
-{
-    SourceKind kind;
-    std::string path;
-};
 
 /// What a search found, and what it did not look at.
 struct LibrarySearch
 {
     std::vector<FoundLibrary> libraries;
     std::vector<SourceFinding> unsearched;
-};
-
-/// What can be told of a library without opening its database.
-struct LibraryDescription
-{
-    SourceKind kind;
-    std::string name;                     ///< as the command takes it
-    std::optional<RecordedDevice> device; ///< that it says it comes from
-    std::string deviceName;               ///< empty where that is not known
-    std::optional<UnixTime> backupDate;
-    std::optional<bool> isEncrypted; ///< nothing where no record says
-    std::optional<bool> isFinished;  ///< likewise
-    std::vector<SourceFinding> findings;
+    PassedOverPlaces passedOver;
 };
 
 /// That a source holds more than one photo library.
@@ -46,8 +28,17 @@ struct SeveralLibraries
     bool areBackups;
     std::vector<LibraryDescription> libraries; ///< all, or more than `mostCounted`
     std::vector<SourceFinding> unsearched;
+    std::vector<PassedOverNames> passedOver;
 
     static constexpr std::size_t mostCounted = 20;
+};
+
+/// That a source holds none.
+struct NoLibraryFound
+{
+    SourceFinding finding;
+    std::vector<SourceFinding> unsearched;
+    std::vector<PassedOverNames> passedOver;
 };
 
 /// Finds the photo libraries in a folder of a tree, and in those in it. Throws Failure when one
@@ -57,12 +48,19 @@ struct SeveralLibraries
 LibrarySearch searchLibraries(Session &session, const FileTree &tree, const std::string &top,
                               const std::string &shownName, std::size_t most);
 
-LibraryDescription describe(Session &session, const FileTree &tree, const FoundLibrary &library);
+/// Passes over the lone databases that are not of photos.
+void passOverOtherDatabases(Session &session, const FileTree &tree, LibrarySearch &search);
 
-/// The one library of a search. Throws SourceError when there is none, SeveralLibraries when there
-/// are more, and what the layouts throw.
+std::vector<PassedOverNames> namesOf(const FileTree &tree, const PassedOverPlaces &places);
+
+std::unique_ptr<LibraryLayout> layoutOf(Session &session, const FileTree &tree,
+                                        const FoundLibrary &library);
+
+/// The one library of a search, or that which the searched folder itself is: the others are passed
+/// over. Throws NoLibraryFound when there is none, SeveralLibraries when there are more, and what
+/// the layouts throw.
 std::unique_ptr<LibraryLayout> onlyLibrary(Session &session, const FileTree &tree,
-                                           const LibrarySearch &search,
+                                           LibrarySearch &search, const std::string &top,
                                            const std::string &shownName);
 
 } // namespace iosphoto::tool

@@ -23,15 +23,21 @@ bool staysBelowMedia(const std::string &mediaPath)
 } // namespace
 
 Source::Source(Session &session, const std::string &name, Opening opening)
-    : place_(openPlace(session, name))
+    : Source(session, openPlace(session, name), opening)
 {
+}
+
+Source::Source(Session &session, Place place, Opening opening) : place_(std::move(place))
+{
+    const std::string &name = place_.name;
     if (place_.database) {
         layout_ = std::make_unique<LoneDatabase>(*place_.database);
     } else {
-        const LibrarySearch search =
+        LibrarySearch search =
             searchLibraries(session, tree(), place_.top, name, SeveralLibraries::mostCounted);
+        layout_ = onlyLibrary(session, tree(), search, place_.top, name);
         unsearched_ = search.unsearched;
-        layout_ = onlyLibrary(session, tree(), search, name);
+        passedOver_ = namesOf(tree(), search.passedOver);
     }
     if (opening == Opening::AtOnce)
         open();

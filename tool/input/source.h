@@ -2,6 +2,7 @@
 #define IOSPHOTO_TOOL_SOURCE_H
 
 #include "input/library_layout.h"
+#include "input/passed_over.h"
 #include "input/place.h"
 #include "input/tree/file_tree.h"
 #include "session/session.h"
@@ -26,7 +27,10 @@ public:
 
     /// Finds out what it is. Throws when that is nothing to read a library from.
     /// @param opening  later, to have what takes long in the background for a while
+    /// @{
     Source(Session &session, const std::string &name, Opening opening = Opening::AtOnce);
+    Source(Session &session, Place place, Opening opening = Opening::AtOnce);
+    /// @}
 
     /// To be called once, and before all below, when that was to be done later. Throws likewise.
     void open();
@@ -51,6 +55,8 @@ public:
     bool isLastChangeWithoutZone() const;
     /// What should be there and is not, and where nobody looked; mostly nothing.
     std::vector<SourceFinding> missing() const;
+    /// What else was met in the search for the library.
+    const std::vector<PassedOverNames> &passedOver() const { return passedOver_; }
     /// The files on disk that are read to read the library, or would be if they were there, as a
     /// write-ahead log; for an archive the archive.
     std::vector<std::filesystem::path> inputs() const;
@@ -79,6 +85,7 @@ private:
 
     Place place_;
     std::vector<SourceFinding> unsearched_;
+    std::vector<PassedOverNames> passedOver_;
     std::unique_ptr<LibraryLayout> layout_;
     std::string databaseName_;
 };

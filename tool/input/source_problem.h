@@ -16,10 +16,14 @@ enum class SourceProblem {
     LogIsDamaged,           ///< database, the commits that are good, those that there are at least
     LogIsCutShort,          ///< database, the commits that are good
     LogEndsInOpenChange,    ///< database; nothing is missing if the device gave the change up
+    LogEndsInZeros,         ///< database; nothing is missing if a copy was padded
+    LogHasNoFrame,          ///< database; nothing is missing if none was written
     TooLarge,               ///< file, the bytes that it can have
     NoLibrary,              ///< source, path of the database below Media
     NoLibrarySoFar,         ///< source, after how many folders the search ended
     EndedSearch,            ///< source, after how many folders
+    EndedList,              ///< source, after how many libraries
+    TooDeepFolders,         ///< source, how deep the search went
     UnsearchedPlaces,       ///< source, how many, why of the first
     NoSuchEntry,            ///< archive, path in it
     EncryptedArchive,       ///< archive

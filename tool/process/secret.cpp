@@ -3,7 +3,6 @@
 #include <openssl/crypto.h>
 
 #include <algorithm>
-#include <mutex>
 #include <new>
 #include <sys/resource.h>
 #ifdef __linux__
@@ -16,12 +15,6 @@ namespace {
 
 unsigned char *newSecretMemory(std::size_t size)
 {
-    static std::once_flag isMade;
-    std::call_once(isMade, [] {
-        constexpr std::size_t heap = 1 << 18; // more than the largest key bag has keys
-        constexpr std::size_t smallest = 32;
-        CRYPTO_secure_malloc_init(heap, smallest); // without it, usual memory that is wiped
-    });
     void *const memory = OPENSSL_secure_zalloc(std::max<std::size_t>(size, 1));
     if (memory == nullptr)
         throw std::bad_alloc();
@@ -47,8 +40,12 @@ void wipe(void *bytes, std::size_t size)
     OPENSSL_cleanse(bytes, size);
 }
 
-void forbidMemoryDumps()
+void guardSecrets()
 {
+    constexpr std::size_t heap = 1 << 18; // more than the largest key bag has keys
+    constexpr std::size_t smallest = 32;
+    if (CRYPTO_secure_malloc_initialized() == 0)
+        CRYPTO_secure_malloc_init(heap, smallest); // without it, usual memory that is wiped
     const rlimit none = {0, 0};
     setrlimit(RLIMIT_CORE, &none);
 #ifdef __linux__

@@ -32,9 +32,11 @@ Items itemsOf(const std::map<Kind, ListItem> &items, const std::vector<Kind> &ki
     return chosen;
 }
 
-std::optional<Row::Side> sideOf(const std::optional<Asset> &asset, const KnownDates &dates)
+std::optional<Row::Side> sideOf(const std::optional<Asset> &asset, const Library &library)
 {
-    return asset ? std::optional(Row::Side{asset->facts(), dates}) : std::nullopt;
+    return asset ? std::optional(
+                       Row::Side{asset->facts(), library.dates(), library.trash().stayOf(*asset)})
+                 : std::nullopt;
 }
 
 std::vector<Field<Row>> fieldsOfTheChange()
@@ -69,13 +71,37 @@ Value textOn(const Row &row)
     return row.*side ? Value(((row.*side)->facts.*member).toStdString()) : Value();
 }
 
+template <Side side, QString CPhotoData::*member>
+Value knownTextOn(const Row &row)
+{
+    return row.*side ? knownText(((row.*side)->facts.*member).toStdString()) : Value();
+}
+
+template <Side side>
+Value durationOn(const Row &row)
+{
+    return row.*side ? durationValue((row.*side)->facts.duration) : Value();
+}
+
+template <Side side>
+Value burstPickOn(const Row &row)
+{
+    return row.*side ? Value((row.*side)->facts.isBurstPick != 0) : Value();
+}
+
 template <Side side, auto date>
 Value timeOn(const Row &row)
 {
     return row.*side ? timeValue(((row.*side)->dates.*date)((row.*side)->facts)) : Value();
 }
 
-/// The facts that are compared, and the folder.
+template <Side side>
+Value trashedOn(const Row &row)
+{
+    return row.*side && (row.*side)->trash ? Value((row.*side)->trash->trashed) : Value();
+}
+
+/// The facts that are compared: those with which documents began, then the others.
 template <Side side>
 std::vector<Field<Row>> factsOn(const std::string &group)
 {
@@ -92,6 +118,25 @@ std::vector<Field<Row>> factsOn(const std::string &group)
         {{group + ".isFavorite", Type::Flag}, flagOn<side, &Photo::isFavorite>},
         {{group + ".isHidden", Type::Flag}, flagOn<side, &Photo::isHidden>},
         {{group + ".isDeleted", Type::Flag}, flagOn<side, &Photo::isDeleted>},
+        {{group + ".originalFileName", Type::Text}, knownTextOn<side, &Photo::sourceFileName>},
+        {{group + ".duration", Type::Real}, durationOn<side>},
+        {{group + ".added", Type::Time}, timeOn<side, &KnownDates::added>},
+        {{group + ".trashed", Type::Time}, trashedOn<side>},
+        {{group + ".burstUuid", Type::Text}, knownTextOn<side, &Photo::burstUuid>},
+        {{group + ".isBurstPick", Type::Flag}, burstPickOn<side>},
+        {{group + ".isVideo", Type::Flag}, flagOn<side, &Photo::isVideo>},
+        {{group + ".isTimelapse", Type::Flag}, flagOn<side, &Photo::isTimelapse>},
+        {{group + ".isSlomo", Type::Flag}, flagOn<side, &Photo::isSlomo>},
+        {{group + ".isScreenRecording", Type::Flag}, flagOn<side, &Photo::isScreenRecording>},
+        {{group + ".isPanorama", Type::Flag}, flagOn<side, &Photo::isPanorama>},
+        {{group + ".isBurst", Type::Flag}, flagOn<side, &Photo::isBurst>},
+        {{group + ".isScreenshot", Type::Flag}, flagOn<side, &Photo::isScreenshot>},
+        {{group + ".isLivePhoto", Type::Flag}, flagOn<side, &Photo::isLivePhoto>},
+        {{group + ".isSelfie", Type::Flag}, flagOn<side, &Photo::isSelfie>},
+        {{group + ".isPortrait", Type::Flag}, flagOn<side, &Photo::isPortrait>},
+        {{group + ".isAnimated", Type::Flag}, flagOn<side, &Photo::isAnimated>},
+        {{group + ".isRaw", Type::Flag}, flagOn<side, &Photo::isRaw>},
+        {{group + ".isProRes", Type::Flag}, flagOn<side, &Photo::isProRes>},
     };
 }
 
@@ -112,20 +157,19 @@ Json countsOf(const LibraryDifference &difference, const Changes &changes)
 } // namespace
 
 DifferenceRows::DifferenceRows(const Library &before, const Library &after)
-    : datesBefore_(before.dates()), datesAfter_(after.dates()), albumsBefore_(before.albums()),
-      albumsAfter_(after.albums())
+    : before_(before), after_(after), albumsBefore_(before.albums()), albumsAfter_(after.albums())
 {
     for (const Change change : allChanges)
         changes_[change] = itemOf(changeName(change));
-    for (const ChangedField field : allChangedFields)
-        changedFields_[field] = itemOf(fieldName(field));
+    for (const ComparedFact &fact : comparedFacts())
+        changedFields_[&fact] = itemOf(fact.key);
 }
 
 DifferenceRow DifferenceRows::of(const PhotoDifference &photo) const
 {
     return {photo,
-            sideOf(photo.before, datesBefore_),
-            sideOf(photo.after, datesAfter_),
+            sideOf(photo.before, before_),
+            sideOf(photo.after, after_),
             itemsOf(changes_, photo.changes),
             itemsOf(albumsAfter_, photo.addedTo),
             itemsOf(albumsBefore_, photo.removedFrom),

@@ -19,6 +19,7 @@ struct DifferenceRow
     {
         CPhotoData facts;
         const KnownDates &dates;
+        std::optional<TrashStay> trash;
     };
 
     const PhotoDifference &photo;
@@ -40,12 +41,12 @@ public:
     DifferenceRow of(const PhotoDifference &photo) const;
 
 private:
-    const KnownDates &datesBefore_;
-    const KnownDates &datesAfter_;
+    const Library &before_;
+    const Library &after_;
     AlbumItems albumsBefore_;
     AlbumItems albumsAfter_;
     std::map<Change, ListItem> changes_;
-    std::map<ChangedField, ListItem> changedFields_;
+    std::map<const ComparedFact *, ListItem> changedFields_;
 };
 
 /// What is known about a photo that differs.

@@ -5,10 +5,42 @@
 
 namespace iosphoto::tool {
 
+namespace {
+
+template <typename Reason, std::size_t count>
+Json countsByReason(const ProbedSchema &schema, const RowAccount<Reason, count> &account)
+{
+    Json counts;
+    for (std::size_t reason = 0; reason < count; ++reason) {
+        const char *const name = machineName(Reason(reason));
+        const std::int64_t rows = account.leftOut[reason];
+        counts[name] = rows == 0 && schema.isUnknownReason(name) ? Json() : Json(rows);
+    }
+    return counts;
+}
+
+Json columnNames(const std::vector<MissingColumn> &columns)
+{
+    Json names = Json::array();
+    for (const MissingColumn &column : columns)
+        names.push_back(column.name());
+    return names;
+}
+
+Json leftOutOfTrash(const Library &library)
+{
+    return library.schema().isUnknownReason(machineName(PhotoReason::TrashedTooLong))
+               ? Json()
+               : Json(library.leftOutOfTrash());
+}
+
+} // namespace
+
 Json libraryHead(const Library &library)
 {
     const ProbedSchema &schema = library.schema();
     const std::optional<std::int64_t> &model = schema.metadata.modelVersion;
+    const std::optional<Account> &account = library.account();
     return {{"source", library.name()},
             {"sourceBytes", bytesOrNull(library.name())},
             {"sourceKind", machineName(library.kind())},
@@ -24,9 +56,23 @@ Json libraryHead(const Library &library)
             {"modelVersion", model ? Json(*model) : Json()},
             {"asOf", textOrNull(utcTimeText(library.asOf().time))},
             {"assumedTimeZone", textOrNull(library.asOf().assumedZone)},
-            {"leftOut", library.leftOutOfTrash()},
+            {"leftOut", leftOutOfTrash(library)},
+            {"leftOutByReason", account ? leftOutByReason(schema, account->photos) : Json()},
+            {"albumsLeftOutByReason", account ? leftOutByReason(schema, account->albums) : Json()},
             {"isComplete", library.isComplete()},
-            {"unknownFields", schema.unknownFields}};
+            {"missingColumns", columnNames(schema.missingColumns)},
+            {"unknownFields", schema.unknownFields},
+            {"unknownReasons", schema.unknownReasons}};
+}
+
+Json leftOutByReason(const ProbedSchema &schema, const PhotoAccount &account)
+{
+    return countsByReason(schema, account);
+}
+
+Json leftOutByReason(const ProbedSchema &schema, const AlbumAccount &account)
+{
+    return countsByReason(schema, account);
 }
 
 Json sourceNamed(const std::string &key, const Library &library)

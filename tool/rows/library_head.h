@@ -10,7 +10,14 @@ namespace iosphoto::tool {
 /// What every document of a library begins with: the source, and as what and when it was read.
 Json libraryHead(const Library &library);
 
-/// The same for rows of a library.
+/// How many rows of a table are left out, by the reason; null for one that a missing column would
+/// tell.
+/// @{
+Json leftOutByReason(const ProbedSchema &schema, const PhotoAccount &account);
+Json leftOutByReason(const ProbedSchema &schema, const AlbumAccount &account);
+/// @}
+
+/// What documents of the rows of a library begin with.
 /// @param rows  what they are, such as "photos"
 RowsHead rowsHead(const std::string &rows, const Library &library);
 

@@ -95,6 +95,7 @@ FieldTable<ListedLibrary> libraryListFields()
         table.fields.insert(table.fields.end(), part.begin(), part.end());
     table.inTables = {"deviceName",      "productType", "iosVersion", "shownDate",
                       "shownEncryption", "shownPhotos", "path"};
+    table.spare = {"productType", "iosVersion", "shownPhotos", "shownEncryption"};
     return table;
 }
 

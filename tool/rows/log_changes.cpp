@@ -1,12 +1,9 @@
 #include "rows/log_changes.h"
 
-#include "catalogue/photo_kinds.h"
-#include "rows/photo_fields.h"
+#include "rows/fact_comparison.h"
 
 #include <algorithm>
-#include <iterator>
 #include <set>
-#include <tuple>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -23,6 +20,17 @@ const KnownDates &datesWithLog(const Library &library)
 {
     const auto &withLog = library.withoutLog()->withLog;
     return withLog ? withLog->dates : library.dates();
+}
+
+Snapshot snapshotWithoutLog(const AssetList &assets, const Library &library)
+{
+    const WithoutLog &without = *library.withoutLog();
+    return {assets, without.without.dates, without.trash, without.schema.unknownFields};
+}
+
+Snapshot snapshotWithLog(const AssetList &assets, const Library &library)
+{
+    return {assets, datesWithLog(library), library.trash(), library.schema().unknownFields};
 }
 
 /// By what photos are matched between two snapshots as well: their uuids, or else their paths.
@@ -68,87 +76,26 @@ std::vector<AssetMatch> partners(const AssetList &before, const AssetList &after
     return partners;
 }
 
-/// Whether nothing differs that rows are made of, which is quicker to see than by the rows. Not
-/// where a date may be unknown.
-bool haveSameFacts(const CPhotoData &before, const CPhotoData &after)
+/// The stream counts photos that it does not show.
+bool isSameList(const CAlbumGroup &before, const CAlbumGroup &after)
 {
-    if (before.createdTime == 0 || before.modifiedTime == 0 || before.addedTime == 0)
-        return false;
-    const auto facts = [](const CPhotoData &photo) {
-        return std::tie(photo.uuid, photo.assetId, photo.directory, photo.fileName,
-                        photo.sourceFileName, photo.width, photo.height, photo.fileSize,
-                        photo.duration, photo.createdTime, photo.modifiedTime, photo.addedTime,
-                        photo.dateText, photo.thumbnailIndex, photo.burstUuid, photo.burstCount,
-                        photo.isBurstPick);
-    };
-    return facts(before) == facts(after) &&
-           std::all_of(std::begin(traits), std::end(traits),
-                       [&](const Trait &trait) { return before.*trait.flag == after.*trait.flag; });
-}
-
-bool isSameStay(const std::optional<TrashStay> &before, const std::optional<TrashStay> &after)
-{
-    return before.has_value() == after.has_value() &&
-           (!before || (before->trashed == after->trashed && before->goes == after->goes));
-}
-
-/// Finds the facts of a photo that are not the same in two catalogues.
-class FactComparison
-{
-public:
-    struct Side
-    {
-        const AssetList &assets;
-        const Trash &trash;
-        const KnownDates &dates;
-    };
-
-    FactComparison(const Side &before, const Side &after)
-        : before_(before), after_(after), burstsBefore_(before.assets), burstsAfter_(after.assets),
-          fields_(factsOf(photoFields()))
-    {
-    }
-
-    std::vector<std::string> differing(const Asset &before, const Asset &after) const
-    {
-        const PhotoRow old = rowOf(before, before_, burstsBefore_);
-        const PhotoRow now = rowOf(after, after_, burstsAfter_);
-        std::vector<std::string> keys;
-        if (haveSameFacts(old.facts, now.facts) && isSameStay(old.trash, now.trash) &&
-            old.burstFrames == now.burstFrames)
-            return keys;
-        for (const Field<PhotoRow> &field : fields_)
-            if (!(field.value(old) == field.value(now)))
-                keys.push_back(field.column.key);
-        return keys;
-    }
-
-private:
-    /// Without albums, in which indices shift.
-    static PhotoRow rowOf(const Asset &asset, const Side &side, const BurstFrames &bursts)
-    {
-        return {asset, asset.facts(), side.trash.stayOf(asset), bursts.count(asset), {}, side.dates,
-                {}};
-    }
-
-    Side before_;
-    Side after_;
-    BurstFrames burstsBefore_;
-    BurstFrames burstsAfter_;
-    std::vector<Field<PhotoRow>> fields_;
-};
-
-bool isSameOrder(const CAlbumGroup &before, const CAlbumGroup &after)
-{
-    return before.albumKind == after.albumKind && before.albumUuid == after.albumUuid &&
-           before.isSmartAlbum == after.isSmartAlbum &&
+    return before.albumKind == after.albumKind && before.albumCount == after.albumCount &&
+           before.albumUuid == after.albumUuid && before.isSmartAlbum == after.isSmartAlbum &&
            std::equal(
                before.photos.begin(), before.photos.end(), after.photos.begin(), after.photos.end(),
                [](const CPhotoData *old, const CPhotoData *now) { return old->uuid == now->uuid; });
 }
 
+bool isSameSchema(const ProbedSchema &before, const ProbedSchema &after)
+{
+    return before.name == after.name &&
+           before.metadata.modelVersion == after.metadata.modelVersion &&
+           before.metadata.build == after.metadata.build &&
+           before.unknownFields == after.unknownFields;
+}
+
 /// As diff finds them, with the facts that differ.
-std::vector<LogChange> snapshotChanges(const AssetList &before, const AssetList &after,
+std::vector<LogChange> snapshotChanges(const Snapshot &before, const Snapshot &after,
                                        const FactComparison &facts)
 {
     std::vector<LogChange> changes;
@@ -185,13 +132,17 @@ void addOtherChanges(const AssetList &before, const AssetList &after, const Fact
 LogChanges::LogChanges(const Library &library)
     : before_(library.withoutLog()->without.catalogue.albums), after_(albumsWithLog(library)),
       assetsBefore_(before_), assetsAfter_(after_), albums_(compareAlbums(before_, after_)),
-      isInOtherOrder_(
-          !std::equal(before_.begin(), before_.end(), after_.begin(), after_.end(), isSameOrder))
+      hasOtherLists_(
+          !std::equal(before_.begin(), before_.end(), after_.begin(), after_.end(), isSameList)),
+      isOfOtherSchema_(!isSameSchema(library.withoutLog()->schema, library.schema())),
+      hasOtherCounts_(library.account() && !(*library.account() == library.withoutLog()->account)),
+      leftOut_(leftOutChanges(library))
 {
-    const WithoutLog &without = *library.withoutLog();
-    const FactComparison facts({assetsBefore_, without.trash, without.without.dates},
-                               {assetsAfter_, library.trash(), datesWithLog(library)});
-    photos_ = snapshotChanges(assetsBefore_, assetsAfter_, facts);
+    const Snapshot before = snapshotWithoutLog(assetsBefore_, library);
+    const Snapshot after = snapshotWithLog(assetsAfter_, library);
+    const FactComparison facts({assetsBefore_, before.trash, before.dates},
+                               {assetsAfter_, after.trash, after.dates});
+    photos_ = snapshotChanges(before, after, facts);
     addOtherChanges(assetsBefore_, assetsAfter_, facts, photos_);
 }
 

@@ -3,6 +3,7 @@
 
 #include "catalogue/difference.h"
 #include "catalogue/library.h"
+#include "rows/left_out_changes.h"
 
 #include <string>
 #include <vector>
@@ -30,9 +31,21 @@ public:
     /// way that two snapshots would not be told apart by.
     const std::vector<LogChange> &photos() const { return photos_; }
     const std::vector<AlbumDifference> &albums() const { return albums_; }
-    /// Whether albums or their photos stand in another order, or albums are of another kind.
-    bool isInOtherOrder() const { return isInOtherOrder_; }
-    bool isNone() const { return photos_.empty() && albums_.empty() && !isInOtherOrder_; }
+    /// The photos that no album shows.
+    const std::vector<LeftOutChange> &leftOut() const { return leftOut_; }
+    /// Whether albums or their photos stand in another order, or albums are of another kind or
+    /// count.
+    bool hasOtherLists() const { return hasOtherLists_; }
+    bool hasOtherCounts() const { return hasOtherCounts_; } ///< of rows, listed or left out
+    /// Whether the database says otherwise of what made it, or other fields are unknown.
+    bool isOfOtherSchema() const { return isOfOtherSchema_; }
+
+    /// Whether there are photos or albums to name.
+    bool hasNames() const { return !photos_.empty() || !albums_.empty() || !leftOut_.empty(); }
+    bool isNone() const
+    {
+        return !hasNames() && !hasOtherLists_ && !hasOtherCounts_ && !isOfOtherSchema_;
+    }
 
 private:
     const std::vector<CAlbumGroup> &before_;
@@ -41,7 +54,10 @@ private:
     AssetList assetsAfter_;
     std::vector<LogChange> photos_;
     std::vector<AlbumDifference> albums_;
-    bool isInOtherOrder_;
+    bool hasOtherLists_;
+    bool isOfOtherSchema_;
+    bool hasOtherCounts_;
+    std::vector<LeftOutChange> leftOut_;
 };
 
 } // namespace iosphoto::tool

@@ -32,6 +32,9 @@ public:
     PhotoCondition(const PhotoCondition &) = delete;
     PhotoCondition &operator=(const PhotoCondition &) = delete;
 
+    /// The columns that the expression asks for.
+    const std::vector<Field<PhotoRow>> &fields() const { return fields_; }
+
     /// Throws ConditionError when SQLite cannot tell.
     bool isMetBy(const PhotoRow &photo);
 

@@ -9,7 +9,6 @@
 #include "text/translate.h"
 #include "time/time_text.h"
 
-#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -34,14 +33,6 @@ Value number(std::int64_t number)
     return number;
 }
 
-/// The shortest number that the record's can be: 33.4, not 33.400001525878906.
-Value duration(const Row &row)
-{
-    const float seconds = row.facts.duration;
-    return seconds == 0 || !std::isfinite(seconds) ? double(seconds)
-                                                   : std::stod(fmt::format("{}", seconds));
-}
-
 std::vector<Field<Row>> fieldsOfTheFile()
 {
     return {
@@ -62,7 +53,8 @@ std::vector<Field<Row>> fieldsOfTheFile()
         {{"height", Type::Number}, [](const Row &row) { return number(row.facts.height); }},
         {{"fileSize", Type::Bytes, translate("SIZE")},
          [](const Row &row) { return number(row.facts.fileSize); }},
-        {{"duration", Type::Real}, duration},
+        {{"duration", Type::Real},
+         [](const Row &row) { return durationValue(row.facts.duration); }},
     };
 }
 
@@ -112,7 +104,7 @@ template <std::size_t index>
 Value traitOf(const Row &row)
 {
     constexpr auto flag = traits[index].flag;
-    return row.leftOutBecause && !isKnownOfLeftOut(flag) ? Value() : Value(row.facts.*flag);
+    return Value(row.facts.*flag);
 }
 
 template <std::size_t... indices>
@@ -176,6 +168,8 @@ std::string kindsOf(const PhotoRow &row)
 std::vector<Field<Row>> viewsForPeople()
 {
     constexpr bool isFact = false;
+    Column reason("reason", Type::Text, translate("LEFT OUT"));
+    reason.isWhole = true;
     return {
         {{"pixels", Type::Text, translate("PIXELS"), Align::Right},
          [](const Row &row) { return Value(pixelsOf(row.facts)); },
@@ -186,7 +180,7 @@ std::vector<Field<Row>> viewsForPeople()
         {{"kinds", Type::Text, translate("WHAT")},
          [](const Row &row) { return Value(kindsOf(row)); },
          isFact},
-        {{"reason", Type::Text, translate("LEFT OUT")},
+        {reason,
          [](const Row &row) {
              return row.leftOutBecause ? Value(translateTerm(words(*row.leftOutBecause))) : Value();
          },
@@ -230,6 +224,7 @@ FieldTable<PhotoRow> photoFieldsOfLeftOut()
 {
     FieldTable<PhotoRow> table = photoFields();
     table.inTables = {"created", "path", "pixels", "fileSize", "what", "reason"};
+    table.spare = {"pixels", "fileSize", "what", "created"};
     return table;
 }
 
@@ -237,7 +232,7 @@ FieldTable<PhotoRow> photoFieldsWithLeftOut()
 {
     FieldTable<PhotoRow> table = photoFields();
     table.inTables.emplace_back("reason");
-    table.spare.emplace_back("what");
+    table.spare = {"pixels", "fileSize", "what", "created", "albums"};
     return table;
 }
 

@@ -12,7 +12,7 @@
 namespace iosphoto::tool {
 
 /// What the values of a column are. Each may be null besides. A Source is a path that a person
-/// gives to the command, and so is never cut.
+/// gives to the command, and so is cut where nothing else helps.
 enum class Type { Flag, Number, Real, Bytes, Text, Path, Source, Time, List };
 
 using Align = TextTable::Align;
@@ -47,6 +47,7 @@ struct Column
     Type type;
     std::string heading; ///< in tables; the key unless a word of the user's language stands there
     Align align;
+    bool isWhole = false;      ///< whether narrow tables cut other columns rather than this
     std::size_t spareRank = 0; ///< which one narrow tables do without first; 0: none do
 
 private:

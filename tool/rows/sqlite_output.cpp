@@ -52,10 +52,11 @@ SqliteOutput::SqliteOutput(FileUse &files, const fs::path &file, const fs::path 
 {
     const fs::path place = outputPlace(files, file, source);
     requireReplaceable(place);
+    removeUnfinishedFiles(place.parent_path());
     file_ = std::make_unique<AtomicFile>(place);
     sqlite3 *connection = nullptr;
     const int result = sqlite3_open_v2(file_->temporaryName().c_str(), &connection,
-                                       SQLITE_OPEN_READWRITE, nullptr);
+                                       SQLITE_OPEN_READWRITE, "unix-none"); // has a lock
     connection_.reset(connection);
     if (result != SQLITE_OK)
         throw unwritable();

@@ -39,12 +39,14 @@ void TableWriter::begin(const RowsHead & /*head*/, const std::vector<Column> &co
     columns_ = columns;
     std::vector<TextTable::Column> shown;
     shown.reserve(columns.size());
-    for (const Column &column : columns)
+    for (const Column &column : columns) {
+        const bool isSource = column.type == Type::Source;
         shown.push_back({column.heading, column.align,
-                         column.type == Type::Path ? Elide::Left : Elide::Right,
-                         column.align == Align::Left && column.type != Type::Time &&
-                             column.type != Type::Source,
-                         column.type == Type::List, column.spareRank});
+                         column.type == Type::Path || isSource ? Elide::Left : Elide::Right,
+                         column.align == Align::Left && !column.isWhole &&
+                             column.type != Type::Time && !isSource,
+                         column.type == Type::List, column.spareRank, isSource});
+    }
     table_.emplace(std::move(shown));
 }
 

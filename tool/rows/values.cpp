@@ -1,6 +1,16 @@
 #include "rows/values.h"
 
+#include <fmt/format.h>
+
+#include <cmath>
+
 namespace iosphoto::tool {
+
+Value durationValue(float seconds)
+{
+    return seconds == 0 || !std::isfinite(seconds) ? double(seconds)
+                                                   : std::stod(fmt::format("{}", seconds));
+}
 
 Value timeValue(const std::optional<CoreDataTime> &time)
 {

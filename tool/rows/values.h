@@ -34,6 +34,9 @@ inline Value knownText(std::string text)
     return text.empty() ? Value() : Value(std::move(text));
 }
 
+/// The shortest number that a record's seconds can be: 33.4, not 33.400001525878906.
+Value durationValue(float seconds);
+
 /// A time of the database; nothing where there is none, or one beyond all calendars.
 Value timeValue(const std::optional<CoreDataTime> &time);
 

@@ -1,14 +1,8 @@
 #include "schema/asset_tables.h"
 
-namespace iosphoto::tool {
+#include <string>
 
-std::string assetTableOf(const CopyDatabase &database)
-{
-    for (const char *table : {"ZASSET", "ZGENERICASSET"})
-        if (database.hasTable(table))
-            return table;
-    return {};
-}
+namespace iosphoto::tool {
 
 bool areAssetTablesDamaged(const CopyDatabase &database)
 {

@@ -89,6 +89,15 @@ EntityNumbers readEntityNumbers(const CopyDatabase &database)
             lastNumber(database, assetEntityStatement, 1)};
 }
 
+std::string missingForEntityNumbers(const CopyDatabase &database)
+{
+    for (const Statement *const lookup :
+         {&assetEntityStatement, &albumEntityStatement, &photoStreamAlbumEntityStatement})
+        if (const std::string words = database.misfitOf(lookup->text); !words.empty())
+            return words;
+    return "";
+}
+
 std::array<const StatementVariant *, 4> statementsFor(const Device &device)
 {
     const DeviceProfile profile(device.iosVersion, QString::fromStdString(device.productType));

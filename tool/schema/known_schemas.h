@@ -47,6 +47,9 @@ std::optional<SchemaFinding> warningOfNewer(const std::string &iosVersion);
 
 EntityNumbers readEntityNumbers(const CopyDatabase &database);
 
+/// What the entity numbers cannot be read without, in SQLite's words; empty if nothing.
+std::string missingForEntityNumbers(const CopyDatabase &database);
+
 /// The statements of the four passes that the library chooses for a device, in their order.
 std::array<const StatementVariant *, 4> statementsFor(const Device &device);
 

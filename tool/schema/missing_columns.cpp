@@ -59,7 +59,20 @@ void add(const CopyDatabase &database, const MissingColumn &missing)
                                  missing.column->name, missing.column->standIn));
 }
 
+void addOnce(std::vector<std::string> &names, const std::vector<const char *> &more)
+{
+    for (const char *const name : more)
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            names.emplace_back(name);
+}
+
 } // namespace
+
+std::pair<std::size_t, std::size_t> SchemaGaps::loss(const std::string &iosVersion) const
+{
+    return {fieldsLostWith(columns, iosVersion).size() + reasonsLostWith(columns).size(),
+            columns.size()};
+}
 
 SchemaGaps addMissingColumns(const CopyDatabase &database, const EntityNumbers &numbers,
                              const Device &device)
@@ -96,9 +109,28 @@ std::vector<std::string> fieldsLostWith(const std::vector<MissingColumn> &missin
     std::vector<std::string> lost;
     for (const MissingColumn &each : missing)
         if (firstNumber(iosVersion) <= each.column->lastIos)
-            for (const char *const field : each.column->fields)
-                if (std::find(lost.begin(), lost.end(), field) == lost.end())
-                    lost.emplace_back(field);
+            addOnce(lost, each.column->fields);
+    return lost;
+}
+
+bool hasColumnsFor(const CopyDatabase &database, const std::vector<std::string> &fields)
+{
+    const auto tells = [&](const OptionalColumn &column, const std::string &field) {
+        return std::find(column.fields.begin(), column.fields.end(), field) !=
+                   column.fields.end() &&
+               database.hasColumn(nameOf(database, column.table), column.name);
+    };
+    return std::all_of(fields.begin(), fields.end(), [&](const std::string &field) {
+        return std::any_of(optionalColumns().begin(), optionalColumns().end(),
+                           [&](const OptionalColumn &column) { return tells(column, field); });
+    });
+}
+
+std::vector<std::string> reasonsLostWith(const std::vector<MissingColumn> &missing)
+{
+    std::vector<std::string> lost;
+    for (const MissingColumn &each : missing)
+        addOnce(lost, each.column->reasons);
     return lost;
 }
 

@@ -7,6 +7,7 @@
 #include "sqlite/copy_database.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace iosphoto::tool {
@@ -16,6 +17,8 @@ struct MissingColumn
 {
     std::string table; ///< as the database calls it
     const OptionalColumn *column;
+
+    std::string name() const { return table + "." + column->name; } ///< "ZASSET.ZHIDDEN"
 };
 
 /// What keeps the statements of a device from running on a database.
@@ -23,6 +26,9 @@ struct SchemaGaps
 {
     std::vector<MissingColumn> columns; ///< without which it can be read
     std::string essential; ///< what it cannot be read without, in SQLite's words; empty if nothing
+
+    /// How much is lost, to compare: what it cannot tell, then the columns themselves.
+    std::pair<std::size_t, std::size_t> loss(const std::string &iosVersion) const;
 };
 
 /// Adds the columns that are missing to a private copy, each with what stands in for it, until the
@@ -37,6 +43,12 @@ SchemaGaps findGaps(const CopyDatabase &database, const EntityNumbers &numbers,
 /// The keys of the fields that cannot be known of a library of that iOS, each once.
 std::vector<std::string> fieldsLostWith(const std::vector<MissingColumn> &missing,
                                         const std::string &iosVersion);
+
+/// Whether a database has a column for each of the fields, as it may where it has an older schema.
+bool hasColumnsFor(const CopyDatabase &database, const std::vector<std::string> &fields);
+
+/// The names for machines of the reasons to leave a row out that cannot be told, each once.
+std::vector<std::string> reasonsLostWith(const std::vector<MissingColumn> &missing);
 
 } // namespace iosphoto::tool
 

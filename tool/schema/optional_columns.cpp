@@ -7,6 +7,7 @@ namespace iosphoto::tool {
 namespace {
 
 using Table = TableOfColumns;
+using Problem = SchemaProblem;
 
 constexpr int always = 99;
 
@@ -21,13 +22,13 @@ const std::vector<OptionalColumn> columns = {
     {Table::Assets,     "ZDURATION",                 "null", {"duration"}, always},
     {Table::Assets,     "ZMODIFICATIONDATE",         "null", {"modified"}, always},
     {Table::Assets,     "ZADDEDDATE",                "null", {"added", "localDay"}, always},
-    {Table::Assets,     "ZTRASHEDSTATE",             "0",    {"trashed", "goes", "daysLeft", "isDeleted"}, always},
-    {Table::Assets,     "ZTRASHEDDATE",       neverEnding,   {"trashed", "goes", "daysLeft"}, always},
+    {Table::Assets,     "ZTRASHEDSTATE",             "0",    {"trashed", "goes", "daysLeft", "isDeleted"}, always, Problem::UnknownTrash, {"trashedTooLong", "trashedWithoutDate"}},
+    {Table::Assets,     "ZTRASHEDDATE",       neverEnding,   {"trashed", "goes", "daysLeft"}, always, Problem::UnknownTrashDates, {"trashedTooLong", "trashedWithoutDate"}},
     {Table::Assets,     "ZUNIFORMTYPEIDENTIFIER",    "null", {"mediaKind", "isVideo", "isTimelapse", "isSlomo", "isScreenRecording"}, always},
     {Table::Assets,     "ZKINDSUBTYPE",              "null", {"isVideo", "isTimelapse", "isSlomo", "isScreenRecording", "isPanorama", "isScreenshot"}, always},
-    {Table::Assets,     "ZAVALANCHEPICKTYPE",        "null", {"burstUuid", "burstCount", "burstFrames", "isBurstPick", "isBurst"}, always},
-    {Table::Assets,     "ZAVALANCHEUUID",            "null", {"burstUuid", "burstCount", "burstFrames"}, always},
-    {Table::Assets,     "ZSAVEDASSETTYPE",           "3",    {"isScreenshot"}, always}, // of the camera
+    {Table::Assets,     "ZAVALANCHEPICKTYPE",        "null", {"burstUuid", "burstCount", "burstFrames", "isBurstPick", "isBurst"}, always, Problem::UnknownBursts, {"burstFrame"}},
+    {Table::Assets,     "ZAVALANCHEUUID",            "null", {"burstUuid", "burstCount", "burstFrames"}, always, Problem::UnknownBursts},
+    {Table::Assets,     "ZSAVEDASSETTYPE",           "3",    {"isScreenshot"}, always, Problem::UnknownOrigins, {"sharedAlbum", "referencedElsewhere"}}, // of the camera
     {Table::Assets,     "ZFAVORITE",                 "null", {"isFavorite"}, always},
     {Table::Assets,     "ZHASADJUSTMENTS",           "null", {"isEdited"}, always},
     {Table::Assets,     "ZADJUSTMENTSSTATE",         "null", {"isEdited"}, always},
@@ -51,10 +52,10 @@ const std::vector<OptionalColumn> columns = {
     {Table::Attributes, "ZORIGINALWIDTH",            "null", {}, always},
     {Table::Attributes, "ZORIGINALHEIGHT",           "null", {}, always},
     {Table::Attributes, "Z_OPT",                     "null", {}, always},
-    {Table::Albums,     "ZTITLE",                    "null", {"albums"}, always},
-    {Table::Albums,     "ZKIND",                     "2",    {"albums"}, always}, // made on the device
-    {Table::Albums,     "ZTRASHEDSTATE",             "0",    {"albums"}, always},
-    {Table::Albums,     "ZTRASHEDDATE",              "null", {}, always},
+    {Table::Albums,     "ZTITLE",                    "null", {"albums"}, always, Problem::UnknownTitles, {"withoutTitle"}},
+    {Table::Albums,     "ZKIND",                     "2",    {"albums"}, always, Problem::UnknownAlbumKinds, {"shared", "project", "folder", "system"}}, // made on the device
+    {Table::Albums,     "ZTRASHEDSTATE",             "0",    {"albums"}, always, Problem::UnknownAlbumTrash, {"trashed"}},
+    {Table::Albums,     "ZTRASHEDDATE",              "null", {}, always, Problem::UnknownAlbumTrash, {"trashed"}},
     {Table::Albums,     "ZKEYASSET",                 "null", {}, always},
     {Table::Albums,     "ZCACHEDCOUNT",              "null", {}, always},
     {Table::Albums,     "ZCACHEDPHOTOSCOUNT",        "null", {}, always},

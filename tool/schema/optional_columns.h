@@ -2,6 +2,9 @@
 #ifndef IOSPHOTO_TOOL_OPTIONAL_COLUMNS_H
 #define IOSPHOTO_TOOL_OPTIONAL_COLUMNS_H
 
+#include "schema/schema_problem.h"
+
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +22,10 @@ struct OptionalColumn
     const char *standIn;
     std::vector<const char *> fields; ///< the keys of fields that cannot be known without it
     int lastIos;                      ///< in which it decides on them
+    /// What becomes of rows without it that the statements leave out by it.
+    std::optional<SchemaProblem> ofRows = std::nullopt;
+    /// The names for machines of the reasons to leave a row out that it tells.
+    std::vector<const char *> reasons = {};
 };
 
 /// Null for a column that is none of them, as nothing can be read without it.

@@ -1,11 +1,13 @@
 #include "schema/schema_probe.h"
 
 #include "formats/versions.h"
-#include "schema/asset_tables.h"
+#include "input/photo_databases.h"
 #include "text/lists.h"
 #include "text/translate.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <utility>
 
 namespace iosphoto::tool {
 
@@ -13,12 +15,11 @@ namespace {
 
 void requirePhotoDatabase(const CopyDatabase &database)
 {
-    if (database.hasTable("PhotoAlbum") && database.hasTable("PhotoExtras"))
+    if (hasPhotoTablesOfOldIos(database))
         throw SchemaError(SchemaProblem::TooOld,
                           {database.shownName(), std::to_string(oldestSchema().firstIos),
                            std::to_string(newestSchema().lastIos)});
-    if (!database.hasTable("Z_PRIMARYKEY") || !database.hasTable("ZGENERICALBUM") ||
-        !database.hasTable("ZADDITIONALASSETATTRIBUTES") || assetTableOf(database).empty())
+    if (!hasPhotoTables(database))
         throw SchemaError(SchemaProblem::NoPhotoLibrary, {database.shownName()});
 }
 
@@ -50,6 +51,20 @@ bool agree(const std::optional<int> &iosMajor, const KnownSchema *schema)
         return false;
     return schema == nullptr || (*iosMajor >= schema->firstIos && *iosMajor <= schema->lastIos) ||
            (schema == &newestSchema() && *iosMajor > schema->lastIos);
+}
+
+/// The schema by tables and columns, unless the model number tells of a later iOS, of which columns
+/// are missing whose fields the older one does not have: it would pass over them in silence.
+const KnownSchema *schemaOf(const CopyDatabase &database, const ProbedSchema &probed)
+{
+    const KnownSchema *const schema = findSchema(database, probed.numbers);
+    const std::optional<int> model = probed.metadata.iosMajor();
+    if (schema == nullptr || schema == &newestSchema() || !model || *model <= schema->lastIos)
+        return schema;
+    const Device later = {std::to_string(*model), productThatHidesNoAlbum};
+    const SchemaGaps gaps = findGaps(database, probed.numbers, later);
+    const std::vector<std::string> lost = fieldsLostWith(gaps.columns, later.iosVersion);
+    return gaps.essential.empty() && !hasColumnsFor(database, lost) ? nullptr : schema;
 }
 
 std::string modelWords(const StoreMetadata &metadata)
@@ -152,17 +167,18 @@ SchemaError noFit(const CopyDatabase &database, const ProbedSchema &probed,
              std::to_string(newestSchema().lastIos), essential}};
 }
 
-/// The system with whose statements the fewest columns are missing, the newest of these.
+/// The system with whose statements the least is lost, the newest of these.
 std::string nearestIos(const CopyDatabase &database, const ProbedSchema &probed)
 {
     std::string nearest;
-    std::size_t fewest = 0;
+    std::pair<std::size_t, std::size_t> least;
     for (const KnownSchema &schema : knownSchemas()) {
-        const SchemaGaps gaps =
-            findGaps(database, probed.numbers, {schema.iosVersion(), schema.productType});
-        if (gaps.essential.empty() && (nearest.empty() || gaps.columns.size() < fewest)) {
-            nearest = schema.iosVersion();
-            fewest = gaps.columns.size();
+        const std::string ios = schema.iosVersion();
+        const SchemaGaps gaps = findGaps(database, probed.numbers, {ios, schema.productType});
+        const auto loss = gaps.loss(ios);
+        if (gaps.essential.empty() && (nearest.empty() || loss < least)) {
+            nearest = ios;
+            least = loss;
         }
     }
     return nearest;
@@ -171,9 +187,22 @@ std::string nearestIos(const CopyDatabase &database, const ProbedSchema &probed)
 /// "ZASSET.ZHIDDEN, ZASSET.ZFAVORITE"
 std::string columnNames(const std::vector<MissingColumn> &columns)
 {
-    return joinedTexts(columns, ", ", [](const MissingColumn &column) {
-        return column.table + "." + column.column->name;
-    });
+    return joinedTexts(columns, ", ", [](const MissingColumn &column) { return column.name(); });
+}
+
+/// What is unknown without the columns: fields in one line, then what it means for whole rows.
+std::vector<SchemaFinding> findingsOf(const std::vector<MissingColumn> &missing,
+                                      const std::vector<std::string> &unknownFields,
+                                      const std::string &database)
+{
+    std::vector<SchemaFinding> findings;
+    if (!unknownFields.empty())
+        findings.push_back({SchemaProblem::MissingColumns,
+                            {database, columnNames(missing), joinedTexts(unknownFields, ", ")}});
+    for (const MissingColumn &each : missing)
+        if (each.column->ofRows)
+            findings.push_back({*each.column->ofRows, {database, each.name()}});
+    return findings;
 }
 
 /// Reads on without the columns of which no known schema lacks all.
@@ -190,10 +219,8 @@ void fillGaps(const CopyDatabase &database, ProbedSchema &probed, const KnownSch
         throw noFit(database, probed, schema, gaps.essential);
     probed.missingColumns = gaps.columns;
     probed.unknownFields = fieldsLostWith(gaps.columns, probed.device.iosVersion);
-    if (!probed.unknownFields.empty())
-        probed.gap = SchemaFinding{SchemaProblem::MissingColumns,
-                                   {database.shownName(), columnNames(gaps.columns),
-                                    joinedTexts(probed.unknownFields, ", ")}};
+    probed.unknownReasons = reasonsLostWith(gaps.columns);
+    probed.gaps = findingsOf(gaps.columns, probed.unknownFields, database.shownName());
 }
 
 std::string withReason(const std::string &what, const std::string &why)
@@ -214,6 +241,21 @@ bool ProbedSchema::isUnknown(const std::string &field) const
     return std::find(unknownFields.begin(), unknownFields.end(), field) != unknownFields.end();
 }
 
+bool ProbedSchema::isUnknownReason(const std::string &reason) const
+{
+    return std::find(unknownReasons.begin(), unknownReasons.end(), reason) != unknownReasons.end();
+}
+
+std::string ProbedSchema::columnsOf(const std::string &field) const
+{
+    std::vector<MissingColumn> columns;
+    for (const MissingColumn &each : missingColumns)
+        if (const auto lost = fieldsLostWith({each}, device.iosVersion);
+            std::find(lost.begin(), lost.end(), field) != lost.end())
+            columns.push_back(each);
+    return columnNames(columns);
+}
+
 std::string ProbedSchema::iosText() const
 {
     return withReason("iOS " + device.iosVersion, iosWhy);
@@ -231,8 +273,10 @@ ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const Rec
     requirePhotoDatabase(database);
     ProbedSchema probed;
     probed.metadata = readStoreMetadata(database);
+    if (const std::string missing = missingForEntityNumbers(database); !missing.empty())
+        throw noFit(database, probed, nullptr, missing);
     probed.numbers = readEntityNumbers(database);
-    const KnownSchema *const schema = findSchema(database, probed.numbers);
+    const KnownSchema *const schema = schemaOf(database, probed);
     decideIos(probed, wanted, says, schema);
     decideProduct(probed, wanted, says, schema);
     const bool mayBeAMistake = schema != nullptr && probed.iosOrigin == DeviceOrigin::User;

@@ -29,17 +29,21 @@ struct ProbedSchema
     std::string iosWhy;    ///< where the version comes from; empty if the user named it
     std::string deviceWhy; ///< likewise the product type
     std::optional<SchemaFinding> warning; ///< that version and schema disagree
-    std::optional<SchemaFinding> gap;     ///< that fields are unknown
+    std::vector<SchemaFinding> gaps;      ///< what is unknown, as columns are missing
     std::string name;      ///< of the schema, such as "iOS 15 to 17", for machines in English
     std::string shownName; ///< the same for people
     StoreMetadata metadata;
     EntityNumbers numbers;
     std::vector<MissingColumn> missingColumns; ///< that the private copy was given
     std::vector<std::string> unknownFields;    ///< the keys of the fields that are lost with them
+    std::vector<std::string> unknownReasons;   ///< likewise, of reasons to leave a row out
 
     /// Whether the user left anything of the device open.
     bool isAssumed() const { return !(iosWhy.empty() && deviceWhy.empty()); }
     bool isUnknown(const std::string &field) const;
+    bool isUnknownReason(const std::string &reason) const;
+    /// The missing columns without which a field is unknown: "ZASSET.ZHIDDEN, ZASSET.ZFAVORITE".
+    std::string columnsOf(const std::string &field) const;
     std::string iosText() const;     ///< such as "iOS 15.7 (Info.plist)"
     std::string productText() const; ///< such as "iPhone14,2 (hides no album)"
 };

@@ -19,6 +19,17 @@ enum class SchemaProblem {
     ReadLikeNewest, ///< iOS, the newest that is known
     OtherIos,       ///< the schema, iOS, the iOS to try
     MissingColumns, ///< database, the columns, the fields that are unknown for that reason
+
+    /// What cannot be told of rows without a column: the database, its column.
+    /// @{
+    UnknownOrigins,
+    UnknownTrash,
+    UnknownTrashDates,
+    UnknownBursts,
+    UnknownTitles,
+    UnknownAlbumKinds,
+    UnknownAlbumTrash,
+    /// @}
 };
 
 using SchemaFinding = Finding<SchemaProblem>;

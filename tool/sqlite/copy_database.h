@@ -1,6 +1,7 @@
 #ifndef IOSPHOTO_TOOL_COPY_DATABASE_H
 #define IOSPHOTO_TOOL_COPY_DATABASE_H
 
+#include "model/store/row.h"
 #include "model/store/sqlite_handles.h"
 #include "model/store/work_limit.h"
 #include "process/failure.h"
@@ -25,6 +26,7 @@ public:
     std::string text(int column) const; ///< of a blob its bytes
     std::int32_t int32(int column) const { return sqlite3_column_int(statement_, column); }
     std::int64_t int64(int column) const { return sqlite3_column_int64(statement_, column); }
+    Row row() const { return Row(statement_); } ///< as the library reads it
     double real(int column) const { return sqlite3_column_double(statement_, column); }
 
 private:

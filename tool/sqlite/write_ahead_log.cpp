@@ -118,6 +118,7 @@ public:
     /// @param bytes  fewer than those of a frame at the end of a file that is cut off
     void take(std::string_view bytes)
     {
+        ++frames_;
         isGood_ = isGood_ && isNext(bytes);
         if (isGood_)
             count(bytes, commits_);
@@ -128,7 +129,12 @@ public:
     WriteAheadLog result() const
     {
         const bool isDamaged = lostCommits_ > 0 || isTorn_;
-        return {isDamaged ? LogState::Damaged : LogState::Good, commits_, lostCommits_, isOpen_};
+        return {isDamaged ? LogState::Damaged : LogState::Good,
+                commits_,
+                lostCommits_,
+                isOpen_,
+                areZeros_,
+                frames_};
     }
 
 private:
@@ -144,9 +150,15 @@ private:
     }
 
     /// Behind the last good frame are, in a sound log, frames of an earlier log that began at the
-    /// same place, or of a change that was given up. Anything else is damage.
+    /// same place, or of a change that was given up, and zeros up to the end. Anything else is
+    /// damage.
     void takeBehind(std::string_view bytes)
     {
+        const bool wereZeros = areZeros_;
+        areZeros_ = goesOnInZeros(bytes);
+        if (areZeros_)
+            return;
+        isTorn_ = isTorn_ || (wereZeros && !isBehindEarlierLog_);
         if (isOfThisLog(bytes))
             count(bytes, lostCommits_);
         else if (isOfEarlierLog(bytes))
@@ -154,6 +166,13 @@ private:
         else if (!isBehindEarlierLog_)
             isTorn_ = true;
         isTorn_ = isTorn_ || (bytes.size() < frameSize_ && isOfThisLog(bytes));
+    }
+
+    /// A frame that is cut off may begin with zeros too: those of its page number, which is not 0.
+    bool goesOnInZeros(std::string_view bytes) const
+    {
+        return bytes.find_first_not_of('\0') == std::string_view::npos &&
+               (areZeros_ || bytes.size() >= frame::commit);
     }
 
     /// SQLite counts the first salt up by one whenever it begins a log anew.
@@ -190,7 +209,9 @@ private:
     bool isGood_ = true;              ///< all so far
     bool isOpen_ = false;             ///< the last of this log ends no commit
     bool isTorn_ = false;             ///< this log goes on in what is no frame, or half of one
+    bool areZeros_ = false;           ///< the last frame
     bool isBehindEarlierLog_ = false; ///< which this one did not overwrite, so it ends before
+    std::int64_t frames_ = 0;
     std::int64_t commits_ = 0;
     std::int64_t lostCommits_ = 0;
 };

@@ -25,6 +25,8 @@ struct WriteAheadLog
     std::int64_t commits = 0;     ///< that SQLite applies
     std::int64_t lostCommits = 0; ///< that are seen behind the first frame that is not good
     bool hasOpenChange = false;   ///< whether it ends in a change of which no commit is seen
+    bool endsInZeros = false; ///< frames, or a part of one, that a copy may have been padded with
+    std::int64_t frames = 0;  ///< whole or not, whatever they hold
 
     bool isApplied() const { return commits > 0; }
 };

@@ -37,22 +37,30 @@ ColumnWidths withoutSpare(const std::vector<ColumnNeeds> &columns, std::size_t l
     return widths;
 }
 
+/// Nothing where the columns do not become so narrow.
+std::optional<ColumnWidths> narrowed(ColumnWidths widths, const std::vector<ColumnNeeds> &columns,
+                                     std::size_t room)
+{
+    while (lineWidth(widths) > room)
+        if (!narrow(widths, columns))
+            return std::nullopt;
+    return widths;
+}
+
 } // namespace
 
 std::optional<ColumnWidths> widthsThatFit(const std::vector<ColumnNeeds> &columns, std::size_t room)
 {
     std::size_t mostRank = 0;
-    for (const ColumnNeeds &column : columns)
+    std::vector<ColumnNeeds> atLast = columns;
+    for (ColumnNeeds &column : atLast) {
         mostRank = std::max(mostRank, column.spareRank);
-    for (std::size_t rank = 0; rank <= mostRank; ++rank) {
-        ColumnWidths widths = withoutSpare(columns, rank);
-        bool isNarrower = true;
-        while (isNarrower && lineWidth(widths) > room)
-            isNarrower = narrow(widths, columns);
-        if (isNarrower)
-            return widths;
+        column.least = column.lastLeast;
     }
-    return std::nullopt;
+    for (std::size_t rank = 0; rank <= mostRank; ++rank)
+        if (auto widths = narrowed(withoutSpare(columns, rank), columns, room))
+            return widths;
+    return narrowed(withoutSpare(columns, mostRank), atLast, room);
 }
 
 ColumnWidths wholeWidths(const std::vector<ColumnNeeds> &columns)

@@ -10,9 +10,10 @@ namespace iosphoto::tool {
 /// What a column of a table takes, as far as that decides which columns fit into a line.
 struct ColumnNeeds
 {
-    std::size_t width;         ///< of its widest cell
-    std::size_t least;         ///< below which it is of no use
-    std::size_t spareRank = 0; ///< the lower ones are left out first; 0: never
+    std::size_t width;             ///< of its widest cell
+    std::size_t least;             ///< below which it is of no use
+    std::size_t spareRank = 0;     ///< the lower ones are left out first; 0: never
+    std::size_t lastLeast = least; ///< the same where leaving out others does not help
 };
 
 constexpr std::size_t columnGap = 2;

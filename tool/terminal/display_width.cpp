@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
+#include <utility>
 
 namespace iosphoto::tool {
 
@@ -45,18 +46,38 @@ std::size_t widthWith(std::size_t before, utf8proc_int32_t codePoint)
     return std::max<std::size_t>(before, isMark(codePoint) ? 0 : 1);
 }
 
+/// The length of an escape such as "\\u001b" that printable() made, which is never cut; 0 for
+/// another text.
+std::size_t escapeLength(std::string_view text)
+{
+    constexpr std::pair<std::string_view, std::size_t> digitsOf[] = {
+        {"\\u", 4}, {"\\U", 8}, {"\\n", 0}, {"\\r", 0}, {"\\t", 0}};
+    for (const auto &[begin, digits] : digitsOf) {
+        const std::string_view number = text.substr(std::min(begin.size(), text.size()), digits);
+        if (text.substr(0, begin.size()) == begin && number.size() == digits &&
+            number.find_first_not_of("0123456789abcdef") == std::string_view::npos)
+            return begin.size() + digits;
+    }
+    return 0;
+}
+
 std::vector<Cluster> clustersOf(const std::string &text)
 {
     std::vector<Cluster> clusters;
     utf8proc_int32_t before = 0;
     utf8proc_int32_t state = 0;
     std::size_t offset = 0;
+    std::size_t endOfEscape = 0;
     forEachCodePoint(text, [&](utf8proc_int32_t codePoint, std::size_t length) {
-        if (clusters.empty() || utf8proc_grapheme_break_stateful(before, codePoint, &state))
+        const bool isInEscape = offset < endOfEscape;
+        if (!isInEscape && codePoint == '\\')
+            endOfEscape = offset + escapeLength(std::string_view(text).substr(offset));
+        const bool isBreak = utf8proc_grapheme_break_stateful(before, codePoint, &state);
+        if (clusters.empty() || (isBreak && !isInEscape))
             clusters.push_back({std::string_view(text).substr(offset, 0), 0});
         Cluster &cluster = clusters.back();
         cluster.bytes = {cluster.bytes.data(), cluster.bytes.size() + length};
-        cluster.width = widthWith(cluster.width, codePoint);
+        cluster.width = isInEscape ? cluster.width + 1 : widthWith(cluster.width, codePoint);
         before = codePoint;
         offset += length;
     });

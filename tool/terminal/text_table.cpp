@@ -92,8 +92,9 @@ std::vector<ColumnNeeds> TextTable::needs() const
         const Column &column = columns_[i];
         const std::size_t least = leastWidth(displayWidth(column.heading), column.elide);
         const bool isCut = column.isCut && column.spareRank == 0;
-        needs.push_back(
-            {widths_[i], isCut ? std::min(widths_[i], least) : widths_[i], column.spareRank});
+        const std::size_t cut = std::min(widths_[i], least);
+        needs.push_back({widths_[i], isCut ? cut : widths_[i], column.spareRank,
+                         isCut || column.isCutLast ? cut : widths_[i]});
     }
     return needs;
 }
@@ -133,10 +134,14 @@ void TextTable::printWhatIsLeftOut(std::ostream &out, const Screen &screen,
             leftOut.push_back(columns_[i].heading);
     if (leftOut.empty())
         return;
+    std::string text =
+        translate("columns for which the terminal is too narrow: {0}", listForPeople(leftOut));
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (columns_[i].isCutLast && widths[i] < widths_[i])
+            text += translate("; ") +
+                    translate("{0} is cut, and whole in --csv and --json", columns_[i].heading);
     out << '\n';
-    printParagraph(
-        out, screen,
-        translate("columns for which the terminal is too narrow: {0}", listForPeople(leftOut)));
+    printParagraph(out, screen, text);
 }
 
 std::string TextTable::line(const Row &row, const ColumnWidths &widths) const

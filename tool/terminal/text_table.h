@@ -25,6 +25,7 @@ public:
         bool isCut = align == Align::Left; ///< where there is little room; numbers never are
         bool isList = false;               ///< its cells are those of cellOfItems()
         std::size_t spareRank = 0; ///< which one narrow terminals do without first; 0: none do
+        bool isCutLast = false;    ///< only where leaving out others does not help, as is then said
     };
 
     explicit TextTable(std::vector<Column> columns);

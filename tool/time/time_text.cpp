@@ -84,8 +84,10 @@ std::string utcOffsetNow()
 
 std::string timeZoneName()
 {
-    const std::string name = QTimeZone::systemTimeZoneId().toStdString();
-    return name.empty() ? utcOffsetNow() : name;
+    const QByteArray name = QTimeZone::systemTimeZoneId();
+    if (QTimeZone(name).isValid())
+        return name.toStdString();
+    return zoneText(QDateTime::currentDateTime().offsetFromUtc()); // whatever TZ says
 }
 
 } // namespace iosphoto::tool

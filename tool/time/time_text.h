@@ -31,7 +31,8 @@ std::string utcOffset(int seconds);
 /// The offset of local time from UTC at this moment, as "+02:00".
 std::string utcOffsetNow();
 
-/// The name of the time zone that is set, such as "Europe/Berlin"; its offset where it has none.
+/// The name of the time zone that is set, such as "Europe/Berlin"; its offset, or "UTC",
+/// where it has none that is known.
 std::string timeZoneName();
 
 } // namespace iosphoto::tool

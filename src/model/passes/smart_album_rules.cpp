@@ -5,7 +5,9 @@
 #include "model/trash.h"
 #include "records/record_ownership.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace iosphoto {
 
@@ -76,8 +78,9 @@ std::vector<CAlbumGroup *> smartAlbums(std::vector<CAlbumGroup> &albums, const P
 bool isVideoType(const char *uniformTypeIdentifier)
 {
     return uniformTypeIdentifier != nullptr &&
-           (std::strcmp(uniformTypeIdentifier, "com.apple.quicktime-movie") == 0 ||
-            std::strcmp(uniformTypeIdentifier, "public.mpeg-4") == 0);
+           std::any_of(std::begin(videoTypes), std::end(videoTypes), [&](const char *type) {
+               return std::strcmp(uniformTypeIdentifier, type) == 0;
+           });
 }
 
 } // namespace

@@ -28,6 +28,9 @@ public:
     /// @return false when it has been in the trash too long and is to be forgotten.
     bool sort(CPhotoData &photo, const Row &row) const;
 
+    /// Whether a row looks like that of a screenshot.
+    bool isScreenshot(const Row &row) const;
+
 private:
     /// The albums that take copies under one rule.
     struct Target
@@ -53,8 +56,6 @@ private:
     void sortPortrait(CPhotoData &photo, const Row &row) const;
     void sortSelfie(CPhotoData &photo, const Row &row) const;
     void sortFavorite(CPhotoData &photo, const Row &row) const;
-
-    bool isScreenshot(const Row &row) const;
 
     const DeviceProfile device_;
     std::uint32_t now_;

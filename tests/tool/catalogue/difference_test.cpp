@@ -13,10 +13,10 @@ using namespace iosphoto::tool;
 namespace {
 
 /// A library with a Camera Roll and, where it is asked for, albums of the table.
-class Snapshot
+class MadeSnapshot
 {
 public:
-    Snapshot() { catalogue_.add(AlbumKind::CameraRoll, plain, "Camera Roll"); }
+    MadeSnapshot() { catalogue_.add(AlbumKind::CameraRoll, plain, "Camera Roll"); }
 
     CPhotoData &photo(const std::string &uuid, const std::string &file = "IMG.JPG")
     {
@@ -39,18 +39,29 @@ private:
     HandMadeCatalogue catalogue_;
 };
 
-/// A comparison with the lists that it refers to.
-struct Compared : LibraryDifference
+/// What a comparison refers to.
+struct Lists
 {
-    Compared(const Snapshot &before, const Snapshot &after)
+    Lists(const MadeSnapshot &before, const MadeSnapshot &after)
         : first(before.albums()), second(after.albums())
     {
-        albums = compareAlbums(before.albums(), after.albums());
-        photos = comparePhotos(first, second);
     }
 
     AssetList first;
     AssetList second;
+    KnownDates dates;
+    Trash trash;
+    std::vector<std::string> unknown;
+};
+
+struct Compared : Lists, LibraryDifference
+{
+    Compared(const MadeSnapshot &before, const MadeSnapshot &after)
+        : Lists(before, after), LibraryDifference{compareAlbums(before.albums(), after.albums()),
+                                                  comparePhotos({first, dates, trash, unknown},
+                                                                {second, dates, trash, unknown})}
+    {
+    }
 };
 
 } // namespace
@@ -58,8 +69,8 @@ struct Compared : LibraryDifference
 class Difference : public testing::Test
 {
 protected:
-    Snapshot before_;
-    Snapshot after_;
+    MadeSnapshot before_;
+    MadeSnapshot after_;
 };
 
 TEST_F(Difference, OfEmptyLibrariesIsNone)
@@ -96,6 +107,7 @@ TEST_F(Difference, RecordsOfOnePathWithoutUuidAreOnePhoto)
     before_.show("", "TRIP");
     before_.photo("");
     after_.photo("");
+    after_.show("", "TRIP");
     const Compared difference(before_, after_);
     EXPECT_TRUE(difference.photos.differences.empty());
     EXPECT_EQ(difference.photos.inBoth, 1U);
@@ -108,8 +120,9 @@ TEST_F(Difference, FactsComeFromAllRecordsOfAPhoto)
     after_.photo("A").isFavorite = true;
     const Compared difference(before_, after_);
     ASSERT_EQ(difference.photos.differences.size(), 1U);
-    EXPECT_EQ(difference.photos.differences[0].changedFields,
-              std::vector<ChangedField>{ChangedField::Favorite});
+    const auto fields = difference.photos.differences[0].changedFields;
+    ASSERT_EQ(fields.size(), 1U);
+    EXPECT_STREQ(fields[0]->key, "isFavorite");
 }
 
 TEST_F(Difference, FractionsOfSecondsDoNotCount)

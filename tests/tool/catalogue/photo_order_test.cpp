@@ -23,6 +23,7 @@ protected:
         for (int i = 0; i < photos; ++i) {
             const int value = i * i % 97 / (i < photos / 2 ? 1 : 20);
             CPhotoData &photo = HandMadeCatalogue::addPhoto(album, std::to_string(value));
+            photo.assetId = i;
             photo.createdTime = i % 50 == 7 ? std::nan("") : value;
             photo.fileSize = value;
         }

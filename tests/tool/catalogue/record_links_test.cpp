@@ -56,11 +56,29 @@ TEST_F(RecordLinks, LeadThroughTheRecordsOfOneUuidInTheirOrder)
     EXPECT_THAT(assets(), ElementsAre(Numbers{0, 2, 5}, Numbers{1, 4}, Numbers{3})); // once more
 }
 
-TEST_F(RecordLinks, LeadFromNoRecordWithoutAUuid)
+TEST_F(RecordLinks, LeadToTheRecordsOfTheSameFileWithoutAUuid)
 {
+    addAlbum({"", "A", ""});
     addAlbum({"", "A"});
-    addAlbum({"", "A"});
-    EXPECT_THAT(assets(), ElementsAre(Numbers{0}, Numbers{1, 3}, Numbers{2}));
+    catalogue_.albums[0].photos[2]->fileName = "OTHER.JPG";
+    EXPECT_THAT(assets(), ElementsAre(Numbers{0, 3}, Numbers{1, 4}, Numbers{2}));
+}
+
+TEST_F(RecordLinks, KeepApartRowsOfOneUuid)
+{
+    addAlbum({"A", "A", "A"});
+    addAlbum({"A", "A", "A"});
+    const auto set = [&](std::size_t album, std::size_t photo, const char *directory, int key) {
+        catalogue_.albums[album].photos[photo]->directory = directory;
+        catalogue_.albums[album].photos[photo]->assetId = key;
+    };
+    set(0, 0, "ONE", 7);
+    set(0, 1, "TWO", 5);
+    set(0, 2, "TWO", 6);
+    set(1, 0, "TWO", 6);
+    set(1, 1, "ONE", -1);
+    set(1, 2, "TWO", -1);
+    EXPECT_THAT(assets(), ElementsAre(Numbers{0, 4}, Numbers{1, 5}, Numbers{2, 3}));
 }
 
 TEST_F(RecordLinks, KeepApartWhatDiffersInTheMiddleAlone)

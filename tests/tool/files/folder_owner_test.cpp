@@ -1,5 +1,6 @@
 #include "files/folder_owner.h"
 
+#include "support/network_disk.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +29,17 @@ protected:
     {
         fs::path folder = makeFolder(name);
         const FolderOwner owner(folder);
+        return folder;
+    }
+
+    /// One that says that it was made since another start, of this machine or another.
+    fs::path makeFolderOfAnotherStart(const std::string &name) const
+    {
+        fs::path folder = makeLeftFolder(name);
+        std::string start = readFile(folder / FolderOwner::mark);
+        EXPECT_FALSE(start.empty());
+        start.front() = start.front() == '0' ? '1' : '0';
+        writeFile(folder / FolderOwner::mark, start);
         return folder;
     }
 
@@ -65,15 +77,23 @@ TEST_F(FolderOwnerTest, WhatNobodyMarkedStays)
     EXPECT_TRUE(fs::exists(folder / "Photos.sqlite"));
 }
 
-TEST_F(FolderOwnerTest, WhatAnotherMachineMarkedStays)
+TEST_F(FolderOwnerTest, WhatTheDeadLeftBeforeTheMachineWasStartedAnewIsRemoved)
 {
-    const fs::path folder = makeLeftFolder("ours-1");
-    std::string start = readFile(folder / FolderOwner::mark);
-    ASSERT_FALSE(start.empty());
-    start.front() = start.front() == '0' ? '1' : '0';
-    writeFile(folder / FolderOwner::mark, start);
+    makeFolderOfAnotherStart("ours-1");
     clean();
-    EXPECT_TRUE(fs::exists(folder / "Photos.sqlite"));
+    EXPECT_TRUE(fs::is_empty(folder_.path()));
+}
+
+TEST_F(FolderOwnerTest, WhatAnotherMachineMayHaveMarkedStays)
+{
+    if (!NetworkDisk::isPossible())
+        GTEST_SKIP() << "calls cannot be replaced here";
+    const NetworkDisk disk;
+    const fs::path other = makeFolderOfAnotherStart("ours-1");
+    const fs::path own = makeLeftFolder("ours-2");
+    clean();
+    EXPECT_TRUE(fs::exists(other / "Photos.sqlite"));
+    EXPECT_FALSE(fs::exists(own));
 }
 
 TEST_F(FolderOwnerTest, WhatHasAnotherNameStays)

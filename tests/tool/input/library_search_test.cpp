@@ -6,10 +6,10 @@
 using namespace iosphoto::test;
 using iosphoto::tool::FolderTree;
 using iosphoto::tool::LibrarySearch;
+using iosphoto::tool::NoLibraryFound;
 using iosphoto::tool::onlyLibrary;
 using iosphoto::tool::searchLibraries;
 using iosphoto::tool::Session;
-using iosphoto::tool::SourceError;
 using iosphoto::tool::SourceProblem;
 
 namespace fs = std::filesystem;
@@ -26,10 +26,7 @@ protected:
 
     LibrarySearch search() { return searchLibraries(session_, tree_, "", "disk", 20); }
     /// Throws what says that there is not one library.
-    void require(const LibrarySearch &search)
-    {
-        (void)onlyLibrary(session_, tree_, search, "disk");
-    }
+    void require(LibrarySearch search) { (void)onlyLibrary(session_, tree_, search, "", "disk"); }
 
     Session session_;
     const FolderTree tree_{folder_.path(), 5};
@@ -61,8 +58,8 @@ TEST_F(BoundedSearch, ThatFoundNothingSaysHowFarItCame)
     try {
         require(search());
         FAIL() << "a library was found";
-    } catch (const SourceError &error) {
-        EXPECT_EQ(error.finding().kind, SourceProblem::NoLibrarySoFar);
-        EXPECT_EQ(error.finding().facts, (std::vector<std::string>{"disk", "5"}));
+    } catch (const NoLibraryFound &none) {
+        EXPECT_EQ(none.finding.kind, SourceProblem::NoLibrarySoFar);
+        EXPECT_EQ(none.finding.facts, (std::vector<std::string>{"disk", "5"}));
     }
 }

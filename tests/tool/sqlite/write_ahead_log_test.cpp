@@ -15,13 +15,14 @@ namespace iosphoto::tool {
 static bool operator==(const WriteAheadLog &left, const WriteAheadLog &right)
 {
     return left.state == right.state && left.commits == right.commits &&
-           left.lostCommits == right.lostCommits && left.hasOpenChange == right.hasOpenChange;
+           left.lostCommits == right.lostCommits && left.hasOpenChange == right.hasOpenChange &&
+           left.endsInZeros == right.endsInZeros;
 }
 
 static std::ostream &operator<<(std::ostream &out, const WriteAheadLog &log)
 {
     return out << machineName(log.state) << ", " << log.commits << " and " << log.lostCommits
-               << (log.hasOpenChange ? ", open" : "");
+               << (log.hasOpenChange ? ", open" : "") << (log.endsInZeros ? ", zeros" : "");
 }
 
 } // namespace iosphoto::tool
@@ -113,11 +114,36 @@ TEST_F(ToolWriteAheadLog, EndThatIsCutOffIsDamage)
     EXPECT_EQ(read(log_ + "x").state, LogState::Damaged);
 }
 
-TEST_F(ToolWriteAheadLog, EndThatIsBlankIsDamage)
+TEST_F(ToolWriteAheadLog, ZerosUpToTheEndMayBePaddingAndAreNoDamage)
 {
+    const WriteAheadLog padded = {LogState::Good, 4, 0, false, true};
+    for (const std::size_t zeros : {std::size_t(4), std::size_t(100), frameSize - 1, frameSize,
+                                    frameSize + 1, 3 * frameSize, 3 * frameSize + 100})
+        EXPECT_EQ(read(log_ + std::string(zeros, '\0')), padded) << zeros;
+    EXPECT_EQ(read(log_ + std::string(3, '\0')).state, LogState::Damaged)
+        << "a page number may begin so";
     std::string log = log_;
     log.replace(at(2), std::string::npos, log.size() - at(2), '\0');
-    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 2, 0}));
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Good, 2, 0, false, true}));
+}
+
+TEST_F(ToolWriteAheadLog, ZerosBeforeTheEndAreDamage)
+{
+    const std::string hole(frameSize, '\0');
+    EXPECT_EQ(read(log_.substr(0, at(2)) + hole + log_.substr(at(3))),
+              (WriteAheadLog{LogState::Damaged, 2, 1}));
+    EXPECT_EQ(read(log_.substr(0, at(2)) + hole + log_.substr(at(3), frameSize)),
+              (WriteAheadLog{LogState::Damaged, 2, 0, true}));
+    EXPECT_EQ(read(log_ + hole + "no frame").state, LogState::Damaged);
+    EXPECT_EQ(read(log_ + "no frame" + std::string(frameSize - 8, '\0') + hole),
+              (WriteAheadLog{LogState::Damaged, 4, 0, false, true}));
+}
+
+TEST_F(ToolWriteAheadLog, CountsItsFrames)
+{
+    EXPECT_EQ(read(log_).frames, static_cast<std::int64_t>(frames()));
+    EXPECT_EQ(read(log_.substr(0, at(1) + 1)).frames, 2);
+    EXPECT_EQ(read(log_.substr(0, headerSize)).frames, 0);
 }
 
 TEST_F(ToolWriteAheadLog, EndThatIsNoFramesIsDamage)

@@ -35,3 +35,12 @@ TEST(ColumnLayout, IsNoneWhereTheOthersDoNotFit)
     EXPECT_EQ(widthsThatFit(columns, 17), (ColumnWidths{5, 10, leftOut, leftOut}));
     EXPECT_EQ(widthsThatFit(columns, 16), std::nullopt);
 }
+
+TEST(ColumnLayout, CutsTheLastColumnsWhereLeavingOutOthersDoesNotHelp)
+{
+    const std::vector<ColumnNeeds> withPath = {{5, 5}, {7, 7, 1}, {30, 30, 0, 10}};
+    EXPECT_EQ(widthsThatFit(withPath, 37), (ColumnWidths{5, leftOut, 30}));
+    EXPECT_EQ(widthsThatFit(withPath, 36), (ColumnWidths{5, leftOut, 29}));
+    EXPECT_EQ(widthsThatFit(withPath, 17), (ColumnWidths{5, leftOut, 10}));
+    EXPECT_EQ(widthsThatFit(withPath, 16), std::nullopt);
+}

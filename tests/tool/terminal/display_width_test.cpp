@@ -77,6 +77,17 @@ TEST(Shortened, CutsNoCharacter)
     EXPECT_EQ(elided("🇩🇪🇫🇷", 3), "🇩🇪…");
 }
 
+TEST(Shortened, CutsNoEscape)
+{
+    EXPECT_EQ(elided("ab\\u001bcd", 8), "ab…");
+    EXPECT_EQ(elided("ab\\u001bcd", 9), "ab\\u001b…");
+    EXPECT_EQ(elided("ab\\U000e0001cd", 12), "ab…");
+    EXPECT_EQ(elided("a\\nbc", 3), "a…");
+    EXPECT_EQ(elided("ab\\u001bcd", 8, Elide::Left), "…cd");
+    EXPECT_EQ(elided("ab\\users", 5), "ab\\u…") << "it is none";
+    EXPECT_EQ(displayWidth("ä\\u001b"), 7U);
+}
+
 TEST(Shortened, KeepsTheEndWhereThatTellsMore)
 {
     EXPECT_EQ(elided("DCIM/IMG_0001.JPG", 9, Elide::Left), "…0001.JPG");

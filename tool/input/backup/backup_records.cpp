@@ -12,7 +12,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char *listNames[] = {backupInfo, backupManifest, backupStatus};
 constexpr const char *database = backupIndexNames[0];
 constexpr const char *mbdb = backupIndexNames[1];
 constexpr const char *indexNames[] = {database, "Manifest.db-wal", "Manifest.db-journal", mbdb};
@@ -53,7 +52,8 @@ DeviceIdentity identityIn(const PropertyList &info, const PropertyList &manifest
 
 BackupRecords::BackupRecords(Session &session, const FileTree &tree, std::string folder,
                              Extent extent)
-    : tree_(tree), folder_(std::move(folder)), names_(std::begin(listNames), std::end(listNames))
+    : tree_(tree), folder_(std::move(folder)),
+      names_(std::begin(backupPropertyLists), std::end(backupPropertyLists))
 {
     if (extent == Extent::ListsAndIndex)
         names_.insert(names_.end(), std::begin(indexNames), std::end(indexNames));

@@ -16,6 +16,7 @@ constexpr const char *backupIndexNames[] = {"Manifest.db", "Manifest.mbdb"};
 constexpr const char *backupInfo = "Info.plist";
 constexpr const char *backupManifest = "Manifest.plist";
 constexpr const char *backupStatus = "Status.plist";
+constexpr const char *backupPropertyLists[] = {backupInfo, backupManifest, backupStatus};
 
 /// The property lists of a backup and its index, copied, and what the lists say. An encrypted
 /// backup has them too.

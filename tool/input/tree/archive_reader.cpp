@@ -117,6 +117,11 @@ bool ArchiveReader::isFile() const
     return archive_entry_filetype(entry_) == AE_IFREG || isHardLink();
 }
 
+bool ArchiveReader::isLink() const
+{
+    return archive_entry_filetype(entry_) == AE_IFLNK && !isHardLink();
+}
+
 bool ArchiveReader::isHardLink() const
 {
     return archive_entry_hardlink(entry_) != nullptr;

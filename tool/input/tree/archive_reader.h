@@ -53,6 +53,7 @@ public:
     /// The path of the entry, as pathInArchive() makes it.
     std::string path() const;
     bool isFile() const;
+    bool isLink() const; ///< to a path, which may be anywhere
     /// Whether the content is that of another entry.
     bool isHardLink() const;
     bool isEncrypted() const;

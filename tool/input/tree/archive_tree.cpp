@@ -14,19 +14,20 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// No phone has paths beyond these, and the folders of one that is far beyond fill the memory.
-bool isOfAPhone(const std::string &path)
+/// No path on a disk is longer.
+constexpr std::size_t longestPath = 4096;
+
+bool isTooDeep(const std::string &path)
 {
-    constexpr std::size_t longest = 4096;
-    constexpr std::ptrdiff_t deepest = 64;
-    return !path.empty() && path.size() <= longest &&
-           std::count(path.begin(), path.end(), '/') < deepest;
+    return path.size() > longestPath || std::count(path.begin(), path.end(), '/') > deepestFolder;
 }
 
-std::string parentOf(const std::string &path)
+void addFoldersAround(const std::string &path, std::set<std::string> &folders)
 {
-    const std::size_t slash = path.rfind('/');
-    return slash != std::string::npos ? path.substr(0, slash) : "";
+    for (std::size_t slash = path.rfind('/');
+         slash != std::string::npos && folders.insert(path.substr(0, slash)).second;
+         slash = path.rfind('/', slash - 1)) {
+    }
 }
 
 } // namespace
@@ -38,8 +39,16 @@ ArchiveTree::ArchiveTree(fs::path archive, std::string shownName)
     while (reader.next()) {
         isZip_ = reader.isZip();
         const std::string path = reader.path();
-        if (!isOfAPhone(path) || !reader.isFile())
+        if (path.empty() || !(reader.isFile() || reader.isLink()))
             continue;
+        if (isTooDeep(path)) {
+            hasTooDeep_ = true;
+            continue;
+        }
+        if (reader.isLink()) {
+            links_.push_back(path);
+            continue;
+        }
         const Entry entry = {{reader.size().value_or(0), {reader.modified()}},
                              reader.isHardLink(),
                              reader.isEncrypted(),
@@ -55,37 +64,28 @@ std::optional<FileFacts> ArchiveTree::find(const std::string &path) const
     return found != entries_.end() ? std::make_optional(found->second.facts) : std::nullopt;
 }
 
-UnsearchedFolders
-ArchiveTree::searchFolders(const std::string &top,
-                           const std::function<bool(const std::string &)> &look) const
+UnsearchedFolders ArchiveTree::searchFolders(const std::string &top, FolderVisitor &visitor) const
 {
     std::set<std::string> folders = {top};
     for (const auto &[path, entry] : entries_)
-        for (std::size_t slash = path.rfind('/');
-             slash != std::string::npos && folders.insert(path.substr(0, slash)).second;
-             slash = path.rfind('/', slash - 1)) {
-        }
-    std::set<std::string> passedOver;
+        addFoldersAround(path, folders);
+    for (const std::string &path : links_)
+        addFoldersAround(path, folders);
+    std::set<std::string> entered;
     for (const std::string &folder : folders) {
-        const std::string parent = parentOf(folder);
-        const bool isToBePassed = folder != top && passedOver.count(parent) != 0;
-        if (isInside(folder, top) && (isToBePassed || !look(folder)))
-            passedOver.insert(folder);
+        const bool isToBeSeen = folder == top || entered.count(parentOf(folder)) != 0;
+        if (isInside(folder, top) && isToBeSeen && visitor.enter(folder))
+            entered.insert(folder);
     }
-    return {};
-}
-
-std::vector<std::string> ArchiveTree::loneFiles(const std::string &top) const
-{
-    std::vector<std::string> files;
-    for (const auto &[path, entry] : entries_) {
-        const fs::path name = fs::path(path).filename();
-        // A Mac packs notes of its own on a file as "._" and its name.
-        if (name.extension() == ".sqlite" && name.string().compare(0, 2, "._") != 0 &&
-            isInside(path, top))
-            files.push_back(path);
-    }
-    return files;
+    for (const auto &[path, entry] : entries_)
+        if (entered.count(parentOf(path)) != 0)
+            visitor.meetFile(path);
+    for (const std::string &path : links_)
+        if (entered.count(parentOf(path)) != 0)
+            visitor.meetLink(path);
+    UnsearchedFolders unsearched;
+    unsearched.hasTooDeep = hasTooDeep_;
+    return unsearched;
 }
 
 bool ArchiveTree::hasFolder(const std::string &path) const
@@ -112,6 +112,12 @@ void ArchiveTree::requirePlain(const std::string &path, const Entry &entry) cons
         throw SourceError(SourceProblem::LinkedEntry, {shown(path)});
     if (entry.isTwice)
         throw SourceError(SourceProblem::RepeatedEntry, {shown(path)});
+}
+
+void ArchiveTree::requireCopyable(const std::string &path) const
+{
+    if (const auto found = entries_.find(path); found != entries_.end())
+        requirePlain(path, found->second);
 }
 
 void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const

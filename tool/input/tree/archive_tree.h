@@ -17,11 +17,9 @@ public:
     ArchiveTree(std::filesystem::path archive, std::string shownName);
 
     std::optional<FileFacts> find(const std::string &path) const override;
-    UnsearchedFolders
-    searchFolders(const std::string &top,
-                  const std::function<bool(const std::string &)> &look) const override;
-    std::vector<std::string> loneFiles(const std::string &top) const override;
+    UnsearchedFolders searchFolders(const std::string &top, FolderVisitor &visitor) const override;
     void copyOut(const std::vector<FileToCopy> &files) const override;
+    void requireCopyable(const std::string &path) const override;
     std::filesystem::path onDisk(const std::string & /*path*/) const override { return archive_; }
     std::string shown(const std::string &path) const override;
     bool isArchive() const override { return true; }
@@ -52,6 +50,8 @@ private:
     std::filesystem::path archive_;
     std::string shownName_;
     bool isZip_ = false;
+    bool hasTooDeep_ = false;        ///< entries that are passed over
+    std::vector<std::string> links_; ///< that are too
     FileStamp state_;
     std::map<std::string, Entry> entries_;
 };

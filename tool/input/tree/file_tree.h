@@ -5,9 +5,9 @@
 #include "process/failure.h"
 #include "time/epochs.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <limits>
 #include <optional>
 #include <string>
@@ -35,6 +35,28 @@ struct UnsearchedFolders
 {
     std::vector<Failure> unreadable;       ///< why, of each
     std::optional<std::size_t> endedAfter; ///< so many folders, though there are more
+    bool hasTooDeep = false;               ///< whether there are folders below the deepest
+};
+
+/// Folders within folders that a tree has, at most: more than any phone, and few enough that
+/// made-up ones do not fill the memory.
+constexpr std::ptrdiff_t deepestFolder = 64;
+
+/// Is shown what a search of folders meets.
+class FolderVisitor
+{
+public:
+    FolderVisitor() = default;
+    virtual ~FolderVisitor() = default;
+    FolderVisitor(const FolderVisitor &) = delete;
+    FolderVisitor &operator=(const FolderVisitor &) = delete;
+
+    /// A folder, after those around it. Returns whether to look into it.
+    virtual bool enter(const std::string &folder) = 0;
+    /// A file in a folder that was entered.
+    virtual void meetFile(const std::string &path) = 0;
+    /// A link there, which is not followed.
+    virtual void meetLink(const std::string &path) = 0;
 };
 
 /// Files in folders, on disk or in an archive. Paths begin at the top of the tree, without a slash;
@@ -50,20 +72,17 @@ public:
     /// The regular file of that path, if there is one.
     virtual std::optional<FileFacts> find(const std::string &path) const = 0;
 
-    /// Hands a folder and those in it to `look`, parents first, and goes into those for which it
-    /// returns true. Links are not followed.
-    virtual UnsearchedFolders
-    searchFolders(const std::string &top,
-                  const std::function<bool(const std::string &)> &look) const = 0;
-
-    /// The files in a folder that may be a lone database of any name. None on disk, where it can be
-    /// named.
-    virtual std::vector<std::string> loneFiles(const std::string &top) const = 0;
+    /// Shows a folder to a visitor, and what is in it.
+    virtual UnsearchedFolders searchFolders(const std::string &top,
+                                            FolderVisitor &visitor) const = 0;
 
     /// Copies files that belong together, as they are at one moment and for the owner's eyes only.
     /// Those that are not there are passed over. Throws SourceError when one is larger than it can
     /// be.
     virtual void copyOut(const std::vector<FileToCopy> &files) const = 0;
+
+    /// Throws SourceError where copyOut() would, as far as that is known before: mostly it is not.
+    virtual void requireCopyable(const std::string & /*path*/) const {}
 
     /// The file on disk that is read for that path.
     virtual std::filesystem::path onDisk(const std::string &path) const = 0;
@@ -90,6 +109,19 @@ inline bool isInside(const std::string &path, const std::string &folder)
 {
     return folder.empty() || path == folder ||
            path.compare(0, folder.size() + 1, folder + "/") == 0;
+}
+
+/// The folder around a path; empty at the top.
+inline std::string parentOf(const std::string &path)
+{
+    const std::size_t slash = path.rfind('/');
+    return slash != std::string::npos ? path.substr(0, slash) : "";
+}
+
+/// The last name of a path.
+inline std::string nameOf(const std::string &path)
+{
+    return path.substr(path.rfind('/') + 1);
 }
 
 /// `folder` and `name` with a slash in between, where one is needed.

@@ -30,31 +30,54 @@ OpenFolder openFolder(const fs::path &folder)
     return {opened, closedir};
 }
 
-/// A link leads to a folder that has its own place.
-bool isFolder(DIR *parent, const dirent &entry)
+/// The names in a folder, in order.
+struct Entries
+{
+    std::vector<std::string> folders;
+    std::vector<std::string> files;
+    std::vector<std::string> links; ///< to anything: to look where would change their access times
+};
+
+mode_t kindOf(DIR *parent, const dirent &entry)
 {
     if (entry.d_type != DT_UNKNOWN)
-        return entry.d_type == DT_DIR;
+        return DTTOIF(entry.d_type);
     struct stat facts = {};
-    return fstatat(dirfd(parent), entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0 &&
-           S_ISDIR(facts.st_mode);
+    const bool isThere = fstatat(dirfd(parent), entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0;
+    return isThere ? facts.st_mode & S_IFMT : 0;
 }
 
-std::vector<std::string> foldersIn(const fs::path &folder)
+void add(Entries &entries, const std::string &name, mode_t kind)
 {
-    std::vector<std::string> names;
+    if (kind == S_IFDIR)
+        entries.folders.push_back(name);
+    else if (kind == S_IFREG)
+        entries.files.push_back(name);
+    else if (kind == S_IFLNK)
+        entries.links.push_back(name);
+}
+
+Entries entriesOf(const fs::path &folder)
+{
+    Entries entries;
     const OpenFolder opened = openFolder(folder);
     errno = 0;
     while (const dirent *const entry = readdir(opened.get())) {
         const std::string name = entry->d_name;
-        if (name != "." && name != ".." && isFolder(opened.get(), *entry))
-            names.push_back(name);
+        if (name != "." && name != "..")
+            add(entries, name, kindOf(opened.get(), *entry));
         errno = 0;
     }
     if (errno != 0)
         throw mayNotRead(folder, systemError(errno));
-    std::sort(names.begin(), names.end());
-    return names;
+    for (std::vector<std::string> *const names : {&entries.folders, &entries.files, &entries.links})
+        std::sort(names->begin(), names->end());
+    return entries;
+}
+
+bool isDeepest(const std::string &folder)
+{
+    return std::count(folder.begin(), folder.end(), '/') + 1 >= deepestFolder;
 }
 
 } // namespace
@@ -78,9 +101,12 @@ std::optional<FileFacts> FolderTree::find(const std::string &path) const
     throw mayNotRead(file, systemError(errno));
 }
 
-UnsearchedFolders
-FolderTree::searchFolders(const std::string &top,
-                          const std::function<bool(const std::string &)> &look) const
+std::string FolderTree::shown(const std::string &path) const
+{
+    return path.empty() ? shownTop_ : (fs::path(shownTop_) / path).string();
+}
+
+UnsearchedFolders FolderTree::searchFolders(const std::string &top, FolderVisitor &visitor) const
 {
     UnsearchedFolders unsearched;
     std::deque<std::string> waiting = {top};
@@ -92,10 +118,18 @@ FolderTree::searchFolders(const std::string &top,
         const std::string folder = std::move(waiting.front());
         waiting.pop_front();
         try {
-            if (!look(folder))
+            if (!visitor.enter(folder))
                 continue;
-            for (const std::string &name : foldersIn(onDisk(folder)))
-                waiting.push_back(joinedPath(folder, name));
+            const Entries entries = entriesOf(onDisk(folder));
+            for (const std::string &name : entries.files)
+                visitor.meetFile(joinedPath(folder, name));
+            for (const std::string &name : entries.links)
+                visitor.meetLink(joinedPath(folder, name));
+            const bool goesDown = !isDeepest(folder);
+            for (const std::string &name : entries.folders)
+                if (goesDown)
+                    waiting.push_back(joinedPath(folder, name));
+            unsearched.hasTooDeep |= !goesDown && !entries.folders.empty();
         } catch (const Failure &failure) {
             unsearched.unreadable.push_back(failure);
         }

@@ -1,0 +1,31 @@
+#ifndef IOSPHOTO_TOOL_ACCOUNT_H
+#define IOSPHOTO_TOOL_ACCOUNT_H
+
+#include "catalogue/album_account.h"
+#include "catalogue/left_out_photos.h"
+
+namespace iosphoto::tool {
+
+/// What became of every row of the tables that a library is made of.
+struct Account
+{
+    PhotoAccount photos;
+    AlbumAccount albums;
+
+    bool operator==(const Account &other) const
+    {
+        return photos == other.photos && albums == other.albums;
+    }
+};
+
+/// Throws Failure when the tables cannot be read.
+/// @param leftOut  takes the photos that are left out; may be null
+inline Account accountOf(const CopyDatabase &database, const ReadingFacts &reading,
+                         LeftOutPhotos *leftOut)
+{
+    return {accountOfPhotos(database, reading, leftOut), accountOfAlbums(database, reading)};
+}
+
+} // namespace iosphoto::tool
+
+#endif // IOSPHOTO_TOOL_ACCOUNT_H
