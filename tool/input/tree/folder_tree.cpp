@@ -41,7 +41,7 @@ struct Entries
 mode_t kindOf(DIR *parent, const dirent &entry)
 {
     if (entry.d_type != DT_UNKNOWN)
-        return DTTOIF(entry.d_type);
+        return static_cast<mode_t>(DTTOIF(entry.d_type));
     struct stat facts = {};
     const bool isThere = fstatat(dirfd(parent), entry.d_name, &facts, AT_SYMLINK_NOFOLLOW) == 0;
     return isThere ? facts.st_mode & S_IFMT : 0;
