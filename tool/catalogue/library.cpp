@@ -44,6 +44,7 @@ Library::Library(Session &session, const LibraryRequest &request, const Source &
     isArchive_ = source.isArchive();
     isBareStream_ = source.isBareStream();
     identity_ = source.identity();
+    encryption_ = source.encryption();
     passedOver_ = source.passedOver();
     asOf_ = request.asOf.value_or(ownTimeOf(source));
     inspect(copy);

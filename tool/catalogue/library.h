@@ -76,6 +76,8 @@ public:
     bool isArchive() const { return isArchive_; }
     bool isBareStream() const { return isBareStream_; }
     const DeviceIdentity &identity() const { return identity_; }
+    /// Of an encrypted backup.
+    const std::optional<BackupEncryption> &encryption() const { return encryption_; }
     const Device &device() const { return schema_.device; }
     const ProbedSchema &schema() const { return schema_; }
     const std::vector<CAlbumGroup> &albums() const { return catalogue_.albums; }
@@ -125,6 +127,7 @@ private:
     bool isArchive_ = false;
     bool isBareStream_ = false;
     DeviceIdentity identity_;
+    std::optional<BackupEncryption> encryption_;
     ProbedSchema schema_;
     Moment asOf_ = {};
     Trash trash_;

@@ -20,6 +20,8 @@
 #include "text/translate.h"
 #include "time/time_text.h"
 
+#include <fmt/format.h>
+
 #include <functional>
 #include <memory>
 
@@ -50,6 +52,20 @@ std::string schemaText(const ProbedSchema &schema)
     return withMore(schema.shownName, model ? translate("model {0}", *model) : "");
 }
 
+/// Empty for what is not encrypted.
+std::string encryptionText(const std::optional<BackupEncryption> &encryption)
+{
+    if (!encryption)
+        return "";
+    const std::string rounds = translate("yes; {0} rounds make the key of the password",
+                                         grouped(static_cast<std::int64_t>(encryption->rounds)));
+    const std::set<std::uint32_t> &classes = encryption->classesOfDevice;
+    return classes.empty()
+               ? rounds
+               : rounds + translate("; the keys of protection classes {0} never leave the device",
+                                    fmt::format("{}", fmt::join(classes, ", ")));
+}
+
 void printFacts(const Library &library, const Summary &summary, const Screen &screen,
                 std::ostream &out)
 {
@@ -63,6 +79,7 @@ void printFacts(const Library &library, const Summary &summary, const Screen &sc
     const ProbedSchema &schema = library.schema();
     add(translate("Name"), library.identity().name);
     add(translate("Serial"), library.identity().serialNumber);
+    add(translate("Encrypted"), encryptionText(library.encryption()));
     add(translate("Device"), schema.productOrigin == DeviceOrigin::Assumption
                                  ? translate("not recorded; read like {0}, which hides no album",
                                              schema.device.productType)

@@ -127,6 +127,14 @@ Json logOrNull(const Library &library, const LogChanges *changes)
             {"without", changes != nullptr ? documentOf(*library.withoutLog()) : Json()}};
 }
 
+Json encryptionOrNull(const Library &library)
+{
+    if (!library.encryption())
+        return {};
+    return {{"rounds", library.encryption()->rounds},
+            {"classesOfDevice", library.encryption()->classesOfDevice}};
+}
+
 } // namespace
 
 const char *logChangeName(Change change)
@@ -139,6 +147,7 @@ Json infoDocument(const Library &library, const Summary &summary, const LogChang
     Json document = libraryHead(library);
     document["deviceName"] = textOrNull(library.identity().name);
     document["serialNumber"] = textOrNull(library.identity().serialNumber);
+    document["encryption"] = encryptionOrNull(library);
     document["isOfMac"] = library.schema().metadata.isOfMac();
     document["albumCount"] = library.albums().size();
     document["photoCount"] = summary.all.count;

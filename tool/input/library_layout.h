@@ -4,8 +4,10 @@
 #include "input/source_problem.h"
 #include "time/epochs.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -26,6 +28,14 @@ struct DeviceIdentity
 {
     std::string name; ///< that its owner gave it
     std::string serialNumber;
+};
+
+/// How a backup is encrypted.
+struct BackupEncryption
+{
+    std::uint64_t rounds; ///< that make its key of the password
+    /// The protection classes whose keys never leave the device, so that no password opens them.
+    std::set<std::uint32_t> classesOfDevice;
 };
 
 enum class SourceKind { Database, MediaFolder, Backup };
@@ -75,6 +85,7 @@ public:
     virtual std::optional<RecordedDevice> device() const { return std::nullopt; }
     virtual DeviceIdentity identity() const { return {}; }
     virtual std::optional<UnixTime> backupDate() const { return std::nullopt; }
+    virtual std::optional<BackupEncryption> encryption() const { return std::nullopt; }
 
     /// What should be there and is not; mostly nothing.
     virtual std::vector<SourceFinding> missing() const { return {}; }

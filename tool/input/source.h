@@ -45,6 +45,7 @@ public:
     /// The device that the source says it comes from.
     std::optional<RecordedDevice> device() const { return layout_->device(); }
     DeviceIdentity identity() const { return layout_->identity(); }
+    std::optional<BackupEncryption> encryption() const { return layout_->encryption(); }
     std::optional<UnixTime> backupDate() const { return layout_->backupDate(); }
 
     /// The database as messages name it; in an archive its path there follows that of the archive.

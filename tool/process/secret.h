@@ -39,8 +39,9 @@ private:
 /// Overwrites bytes that a secret was copied from, even where nobody reads them any more.
 void wipe(void *bytes, std::size_t size);
 
-/// Reserves memory for secrets that stays out of swap, and keeps the process from leaving its own on
-/// disk when it crashes, and others from reading it. To be called before the first secret is there.
+/// Reserves memory for secrets that stays out of swap, and keeps the process from leaving its own
+/// on disk when it crashes, and others from reading it. To be called before the first secret is
+/// there.
 void guardSecrets();
 
 } // namespace iosphoto::tool

@@ -9,8 +9,8 @@
 namespace iosphoto::tool {
 
 /// Asks the person at the terminal, whatever the standard streams are, for a line that does not
-/// appear while it is typed. Nothing when there is no terminal, when another command has it, or when
-/// the person ends the input.
+/// appear while it is typed. Nothing when there is no terminal, when another command has it, or
+/// when the person ends the input.
 std::optional<Secret> askForSecret(const std::string &question);
 
 /// Lets a terminal show again what is typed, where that was being hidden. For an interruption,

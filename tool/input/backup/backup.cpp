@@ -41,12 +41,13 @@ Backup::Backup(Session &session, const FileTree &tree, std::string folder)
 void Backup::beginUnlocking(Session &session)
 {
     const PropertyList manifest(records_.copyOf(backupManifest));
-    const auto keyBag = manifest.data({"BackupKeyBag"});
-    if (!keyBag)
+    const auto bytes = manifest.data({"BackupKeyBag"});
+    if (!bytes)
         throw SourceError(SourceProblem::BackupWithoutKeyBag,
                           {tree_.shown(folder_), backupManifest});
-    unlocking_ = std::make_unique<Unlocking>(
-        session, KeyBag(*keyBag, records_.shown(backupManifest)), tree_.shown(folder_));
+    KeyBag keyBag(*bytes, records_.shown(backupManifest));
+    encryption_ = {keyBag.rounds(), keyBag.classesOfDevice()};
+    unlocking_ = std::make_unique<Unlocking>(session, std::move(keyBag), tree_.shown(folder_));
 }
 
 void Backup::open()

@@ -31,6 +31,7 @@ public:
     std::optional<RecordedDevice> device() const override { return records_.device(); }
     DeviceIdentity identity() const override { return records_.identity(); }
     std::optional<UnixTime> backupDate() const override { return records_.date(); }
+    std::optional<BackupEncryption> encryption() const override { return encryption_; }
     std::vector<SourceFinding> missing() const override { return missing_; }
     std::vector<std::string> records() const override { return records_.files(); }
     std::optional<SourceFinding> decrypt(const std::string &mediaPath,
@@ -55,6 +56,7 @@ private:
     const FileTree &tree_;
     std::string folder_;
     BackupRecords records_;
+    std::optional<BackupEncryption> encryption_;
     std::unique_ptr<Unlocking> unlocking_;           ///< of an encrypted backup
     std::optional<ClassKeys> keys_;                  ///< likewise, once it is open
     std::string indexName_;                          ///< empty when there is none

@@ -22,8 +22,8 @@ public:
     EncryptedIndex(const ClassKeys &keys, const PropertyList &manifest,
                    const std::string &shownName);
 
-    /// Decrypts a private copy of the index in its place, where it is encrypted, and says whether it
-    /// was. Throws SourceError when it is damaged.
+    /// Decrypts a private copy of the index in its place, where it is encrypted, and says whether
+    /// it was. Throws SourceError when it is damaged.
     bool decrypt(const std::filesystem::path &copy, const std::string &shownName) const;
 
     /// A record of a file, decrypted where that is needed and can be done.

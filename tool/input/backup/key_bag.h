@@ -62,6 +62,9 @@ public:
     /// How long it takes to try a password.
     std::uint64_t rounds() const;
 
+    /// As ClassKeys have them.
+    const std::set<std::uint32_t> &classesOfDevice() const { return ofDevice_; }
+
     /// The keys; nothing when the password is wrong. May take seconds, and any thread.
     std::optional<ClassKeys> unlock(const Secret &password) const;
 
