@@ -152,6 +152,7 @@ std::map<std::string, std::size_t> BackupBuilder::listed() const
 void BackupBuilder::writeDb() const
 {
     const fs::path index = folder_ / "Manifest.db";
+    fs::remove(index); // of a backup that was written there before
     {
         const SqliteConnection connection = openDatabase(index);
         execute(connection, "pragma synchronous = off");
