@@ -164,6 +164,17 @@ TEST_F(Lab, ReadsWhatFailedOnceItIsMendedAndWhatIsNew)
     EXPECT_THAT(shell(blocksOf("sh").at(2)).out, IsEmpty());
 }
 
+TEST_F(Lab, ReadsEncryptedBackupsOnceTheirPasswordsAreThere)
+{
+    NEEDS("parallel");
+    readAll();
+    fs::create_directory(folder_ / "passwords");
+    writeFile(folder_ / "passwords/locked", EncryptionOptions().password);
+    EXPECT_EQ(resume(), 0);
+    EXPECT_EQ(linesOfFile("out/locked.jsonl").size(), 1);
+    EXPECT_THAT(linesOfFile("out/locked.err"), IsEmpty());
+}
+
 TEST_F(Lab, ListsWhatDidNotGoWell)
 {
     NEEDS("parallel");

@@ -1,3 +1,5 @@
+#include "support/archive_builder.h"
+#include "support/backup_builder.h"
 #include "support/database.h"
 #include "support/real_libraries.h"
 #include "support/run_tool.h"
@@ -121,6 +123,43 @@ TEST_P(ToolOnRealLibrary, DoesNotDifferFromItself)
                                  "--product", "iPhone14,2"});
     EXPECT_EQ(run.out, "no difference\n");
     EXPECT_EQ(run.status, 0);
+}
+
+TEST_P(ToolOnRealLibrary, ReadsItsEncryptedBackupAsThePlainOne)
+{
+    const auto write = [&](const std::string &name, bool isEncrypted) {
+        BackupOptions options;
+        options.iosVersion = GetParam().iosVersion;
+        options.isEncrypted = isEncrypted;
+        BackupBuilder backup(folder_ / name / "backup", options);
+        backup.add(mediaDatabase, readFile(database()));
+        backup.add(mediaLog, readFile(database() + "-wal"));
+        backup.finish();
+        return packed(folder_ / name, folder_ / name / "packed", zip);
+    };
+    const std::filesystem::path plain = write("plain", false);
+    const std::filesystem::path encrypted = write("encrypted", true);
+    const auto outputOf = [](std::vector<std::string> command,
+                             const std::filesystem::path &source) {
+        command.push_back(source);
+        ToolRun run = runTool(command, {{"IOSPHOTO_BACKUP_PASSWORD", "correct horse"}});
+        EXPECT_NE(run.out, "");
+        for (std::size_t at = 0; (at = run.out.find(source, at)) != std::string::npos;)
+            run.out.replace(at, source.string().size(), "SOURCE");
+        return run.out;
+    };
+    for (const auto &command :
+         std::vector<std::vector<std::string>>{{"albums"},
+                                               {"albums", "--json"},
+                                               {"albums", "--csv"},
+                                               {"photos"},
+                                               {"photos", "--json", "--with-left-out"},
+                                               {"photos", "--jsonl", "--frames"},
+                                               {"statements"}})
+        for (const char *part : {"", "/backup"})
+            EXPECT_EQ(outputOf(command, encrypted.string() + part),
+                      outputOf(command, plain.string() + part));
+    EXPECT_EQ(outputOf({"diff", plain.string()}, encrypted), "no difference\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(Generations, ToolOnRealLibrary, testing::ValuesIn(realLibraries),
