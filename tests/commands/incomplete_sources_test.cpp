@@ -129,7 +129,7 @@ TEST_F(ToolIncompleteLog, ThatIsCutShortBeforeAnyMarkIsNotSaidToHaveMore)
 {
     const ToolRun run = runWith(log_.substr(0, headerSize + 3 * frameSize + 3));
     EXPECT_EQ(run.error,
-              damaged("3 of at least 3, and what follows is no whole frame; later changes may "
+              damaged("3 of at least 3, and what follows is no sound frame; later changes may "
                       "be missing"));
     EXPECT_EQ(run.status, 1);
 }

@@ -50,7 +50,7 @@ constexpr Wording<SourceProblem> sourceWords[] = {
          "with it")},
     {SourceProblem::LogIsCutShort, Incomplete,
      translatable("the -wal of '{0}' is damaged: it is good up to commit {1} of at least {1}, and "
-                  "what follows is no whole frame; later changes may be missing; copy it from the "
+                  "what follows is no sound frame; later changes may be missing; copy it from the "
                   "device or the backup again, its -wal with it")},
     {SourceProblem::LogEndsInOpenChange, Good,
      translatable("the -wal of '{0}' ends in a change without a commit, which is left out: either "

@@ -51,6 +51,13 @@ public:
         isSwapped_ ? addWords<true>(bytes) : addWords<false>(bytes);
     }
 
+    /// Goes on from a sum that is stored.
+    void goOnFrom(std::string_view bytes, std::size_t at)
+    {
+        first_ = bigEndian(bytes, at);
+        second_ = bigEndian(bytes, at + 4);
+    }
+
     bool isAt(std::string_view bytes, std::size_t at) const
     {
         return bigEndian(bytes, at) == first_ && bigEndian(bytes, at + 4) == second_;
@@ -128,7 +135,7 @@ public:
 
     WriteAheadLog result() const
     {
-        const bool isDamaged = lostCommits_ > 0 || isTorn_;
+        const bool isDamaged = lostCommits_ > 0 || isTorn_ || leftOver_ == 1;
         return {isDamaged ? LogState::Damaged : LogState::Good,
                 commits_,
                 lostCommits_,
@@ -142,7 +149,7 @@ private:
     bool isNext(std::string_view bytes)
     {
         if (bytes.size() < frameSize_ || bigEndian(bytes, frame::pageNumber) == 0 ||
-            bytes.substr(frame::salts, 2 * saltSize) != salts_)
+            !hasSalts(bytes))
             return false;
         sum_.add(bytes.substr(0, frame::salts));
         sum_.add(bytes.substr(frame::size));
@@ -160,12 +167,31 @@ private:
             return;
         isTorn_ = isTorn_ || (wereZeros && !isBehindEarlierLog_);
         if (isOfThisLog(bytes))
-            count(bytes, lostCommits_);
+            takeLeftOver(bytes);
         else if (isOfEarlierLog(bytes))
             isBehindEarlierLog_ = true;
         else if (!isBehindEarlierLog_)
             isTorn_ = true;
-        isTorn_ = isTorn_ || (bytes.size() < frameSize_ && isOfThisLog(bytes));
+    }
+
+    /// A change that was given up is overwritten from its first frame on. What is left of it are
+    /// whole frames, and the sum of each but the first goes on from the one stored before it. One
+    /// alone cannot be told from a damaged frame.
+    void takeLeftOver(std::string_view bytes)
+    {
+        count(bytes, lostCommits_);
+        const bool goesOn = leftOver_ > 0 && isNext(bytes);
+        const bool mayBeLeft = bytes.size() == frameSize_ && hasSalts(bytes) && frames_ > 1 &&
+                               !isBehindEarlierLog_ && (goesOn || leftOver_ != 1);
+        isTorn_ = isTorn_ || !mayBeLeft;
+        leftOver_ = goesOn ? leftOver_ + 1 : 1;
+        if (mayBeLeft)
+            sum_.goOnFrom(bytes, frame::sum);
+    }
+
+    bool hasSalts(std::string_view bytes) const
+    {
+        return bytes.substr(frame::salts, 2 * saltSize) == salts_;
     }
 
     /// A frame that is cut off may begin with zeros too: those of its page number, which is not 0.
@@ -211,6 +237,7 @@ private:
     bool isTorn_ = false;             ///< this log goes on in what is no frame, or half of one
     bool areZeros_ = false;           ///< the last frame
     bool isBehindEarlierLog_ = false; ///< which this one did not overwrite, so it ends before
+    std::int64_t leftOver_ = 0; ///< frames in a row that go on from each other, of no good change
     std::int64_t frames_ = 0;
     std::int64_t commits_ = 0;
     std::int64_t lostCommits_ = 0;
