@@ -207,6 +207,17 @@ TEST_F(ToolIncompleteLog, HeaderAloneIsSaid)
     EXPECT_EQ(run.status, 0);
 }
 
+TEST_F(ToolIncompleteLog, WithADamagedHeaderIsSaidToHoldCommits)
+{
+    const ToolRun run = runWith(changed(headerSize - 1));
+    EXPECT_THAT(run.out, HasSubstr("IMG_0001.JPG"));
+    EXPECT_EQ(run.error, "iosphoto: the -wal of '" + copy_ +
+                             "' has a damaged header, so none of its commits (at least 4) is "
+                             "applied, and their changes are missing; copy it from the device or "
+                             "the backup again, its -wal with it\n");
+    EXPECT_EQ(run.status, 1);
+}
+
 TEST_F(ToolIncompleteLog, WithoutAGoodCommitChangesNothing)
 {
     const ToolRun run = runWith(changed(headerSize + 500), "info");

@@ -43,6 +43,11 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::LogIsNoLog, Incomplete,
      translatable("the -wal of '{0}' is no write-ahead log, so changes that it was to hold are "
                   "missing; copy it from the device or the backup again, its -wal with it")},
+    {SourceProblem::LogHeaderIsDamaged, Incomplete,
+     translatable(
+         "the -wal of '{0}' has a damaged header, so none of its commits (at least {1}) is "
+         "applied, and their changes are missing; copy it from the device or the backup "
+         "again, its -wal with it")},
     {SourceProblem::LogIsDamaged, Incomplete,
      translatable(
          "the -wal of '{0}' is damaged: it is good up to commit {1} of at least {2}; "

@@ -83,10 +83,32 @@ TEST_F(ToolWriteAheadLog, IsGoodToItsEnd)
     EXPECT_EQ(read(log_.substr(0, headerSize)), (WriteAheadLog{LogState::Good, 0, 0, false}));
 }
 
-TEST_F(ToolWriteAheadLog, IsKnownByItsHeader)
+TEST_F(ToolWriteAheadLog, WithADamagedHeaderIsKnownByItsFrames)
 {
-    for (std::size_t byte = 0; byte < headerSize; ++byte)
-        EXPECT_EQ(read(changed(byte)), (WriteAheadLog{LogState::NoLog})) << byte;
+    const std::size_t one = at(1);
+    for (std::size_t byte = 0; byte < headerSize; ++byte) {
+        const WriteAheadLog damaged = read(changed(byte));
+        EXPECT_EQ(damaged, (WriteAheadLog{LogState::Damaged, 0, 4})) << byte;
+        EXPECT_TRUE(damaged.isHeaderDamaged);
+        EXPECT_EQ(damaged.frames, static_cast<std::int64_t>(frames()));
+        EXPECT_EQ(read(changed(byte).substr(0, one)), (WriteAheadLog{LogState::Damaged, 0, 1}))
+            << byte;
+    }
+    EXPECT_EQ(read(std::string(headerSize, 'x') + log_.substr(headerSize)),
+              (WriteAheadLog{LogState::Damaged, 0, 4}));
+    EXPECT_FALSE(read(changed(at(0) + 100)).isHeaderDamaged);
+    EXPECT_FALSE(read(log_).isHeaderDamaged);
+}
+
+TEST_F(ToolWriteAheadLog, IsKnownByItsHeaderOrItsFrames)
+{
+    EXPECT_EQ(read(changed(24).substr(0, headerSize)), (WriteAheadLog{LogState::Damaged}));
+    EXPECT_EQ(read(changed(0).substr(0, headerSize)), (WriteAheadLog{LogState::NoLog}));
+    for (const char byte : {'\0', 'x'}) {
+        EXPECT_EQ(read(std::string(log_.size(), byte)), (WriteAheadLog{LogState::NoLog}));
+        EXPECT_EQ(read(changed(0).substr(0, headerSize) + std::string(log_.size(), byte)),
+                  (WriteAheadLog{LogState::NoLog}));
+    }
     EXPECT_EQ(read(log_.substr(0, headerSize - 1)), (WriteAheadLog{LogState::NoLog}));
     EXPECT_EQ(read(""), (WriteAheadLog{LogState::Empty}));
     EXPECT_EQ(readWriteAheadLog(folder_ / "missing"), (WriteAheadLog{LogState::Missing}));
