@@ -29,11 +29,12 @@ TEST_F(ToolSourceSearch, FindsALoneDatabaseAtAnyDepth)
     expectWhole(albums(folder_ / "case"));
 }
 
-TEST_F(ToolSourceSearch, DoesNotLookIntoWhatItFound)
+TEST_F(ToolSourceSearch, DoesNotLookIntoThePhotoDataThatItFound)
 {
-    putMedia(putMedia(folder_ / "Media") / "DCIM/100APPLE");
-    expectWhole(albums(folder_ / "Media"));
-    expectWhole(albums(packed(folder_ / "Media", folder_ / "media", tar)));
+    putMedia(putMedia(folder_ / "Media") / "PhotoData/old");
+    const ToolRun run = albums(folder_ / "Media");
+    expectWhole(run);
+    EXPECT_THAT(run.error, testing::Not(HasSubstr("passed over")));
 }
 
 TEST_F(ToolSourceSearch, FollowsNoLinks)
@@ -138,6 +139,21 @@ TEST_P(ToolSearchOfEveryTree, TakesTheFolderOfALibraryForThatOne)
     const ToolRun run = albums(all);
     expectWhole(run);
     EXPECT_THAT(run.error, HasSubstr("1 other photo library: " + quoted(all / "Photos.sqlite")));
+}
+
+TEST_P(ToolSearchOfEveryTree, FindsLibrariesInAMediaFolder)
+{
+    putMedia(putMedia(folder_ / "case/phoneA/Media") / "phoneB/Media");
+    writeBackup(folder_ / "case/phoneA/Media/0001", library_);
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectFailure(run, quoted(all) + " holds 3 photo libraries, which iosphoto backups lists; ", 2);
+    EXPECT_THAT(run.error,
+                testing::AllOf(HasSubstr(quoted(all / "phoneA/Media/phoneB/Media") + " ("),
+                               HasSubstr(quoted(all / "phoneA/Media/0001") + " (")));
+    const ToolRun first = albums(all / "phoneA/Media");
+    expectWhole(first);
+    EXPECT_THAT(first.error, HasSubstr("2 other photo libraries: "));
 }
 
 TEST_P(ToolSearchOfEveryTree, TakesNoDatabaseWithoutPhotosForALibrary)

@@ -68,15 +68,12 @@ public:
             return false;
         if (isInBackup(folder))
             return enterInBackup(folder);
+        if (isPhotoDataOfLibrary(folder))
+            return false;
         if (const auto library = libraryAt(folder); library && paths_.insert(library->path).second)
             libraries_.push_back(*library);
-        if (paths_.count(folder) == 0)
-            return true;
-        if (!isBackup(tree_, folder)) {
-            meetDatabaseBeside(folder);
-            return false;
-        }
-        inBackups_.insert(folder);
+        if (paths_.count(folder) != 0 && isBackup(tree_, folder))
+            inBackups_.insert(folder);
         return true;
     }
 
@@ -133,6 +130,13 @@ private:
         return folder != top_ && inBackups_.count(parentOf(folder)) != 0;
     }
 
+    /// Whether a folder is that in a media folder which holds its database.
+    bool isPhotoDataOfLibrary(const std::string &folder) const
+    {
+        return nameOf(folder) == parentOf(databaseBelowMedia) &&
+               paths_.count(parentOf(folder)) != 0;
+    }
+
     /// Looks for libraries that do not belong there.
     bool enterInBackup(const std::string &folder)
     {
@@ -144,13 +148,6 @@ private:
         else
             inBackups_.insert(folder);
         return !library;
-    }
-
-    /// In a media folder, which is not looked into.
-    void meetDatabaseBeside(const std::string &folder)
-    {
-        if (const std::string path = joinedPath(folder, databaseName); tree_.find(path))
-            meetFile(path);
     }
 
     const FileTree &tree_;
