@@ -190,6 +190,32 @@ TEST_P(ToolSearchOfEveryTree, NamesLibrariesInABackup)
     expectWhole(albums(all / "0001/old/0002"));
 }
 
+TEST_P(ToolSearchOfEveryTree, FindsABackupAroundPhotoData)
+{
+    BackupOptions options;
+    options.isEncrypted = true;
+    writeBackup(folder_ / "case/0001", library_, options);
+    putMedia(folder_ / "case/0001");
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectFailure(run, quoted(all) + " holds 2 photo libraries, which iosphoto backups lists; ", 2);
+    EXPECT_THAT(run.error, testing::AllOf(HasSubstr(quoted(all / "0001") + " ("),
+                                          HasSubstr(quoted(all / "0001" / mediaDatabase) + " (")));
+    expectFailure(albums(all / "0001"), quoted(all / "0001") + " is an encrypted backup", 6);
+    expectWhole(albums(all / "0001" / mediaDatabase));
+}
+
+TEST_P(ToolSearchOfEveryTree, FindsABackupAroundAMediaFolder)
+{
+    writeBackup(folder_ / "case", library_);
+    putMedia(folder_ / "case/Media");
+    const fs::path all = theCase();
+    const ToolRun run = runTool({"info", all.string(), "--json"});
+    EXPECT_THAT(run.out, HasSubstr("\"backup\""));
+    EXPECT_THAT(run.error,
+                HasSubstr("1 photo library in a backup: " + quoted(all / "Media") + "\n"));
+}
+
 TEST_P(ToolSearchOfEveryTree, SaysThatFoldersAreTooDeep)
 {
     std::string deep;

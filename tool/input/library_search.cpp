@@ -70,9 +70,10 @@ public:
             return enterInBackup(folder);
         if (isPhotoDataOfLibrary(folder))
             return false;
-        if (const auto library = libraryAt(folder); library && paths_.insert(library->path).second)
+        const auto library = libraryAt(folder);
+        if (library && paths_.insert(library->path).second)
             libraries_.push_back(*library);
-        if (paths_.count(folder) != 0 && isBackup(tree_, folder))
+        if (library && library->kind == SourceKind::Backup)
             inBackups_.insert(folder);
         return true;
     }
@@ -112,6 +113,9 @@ public:
 private:
     std::optional<FoundLibrary> libraryAt(const std::string &folder) const
     {
+        // First, as a media folder in it is found all the same, when that is looked into.
+        if (isBackup(tree_, folder))
+            return FoundLibrary{SourceKind::Backup, folder};
         for (const char *const place : mediaPlaces) {
             const std::string media = joinedPath(folder, place);
             const std::string database = joinedPath(media, databaseBelowMedia);
@@ -120,8 +124,6 @@ private:
             if (folder != top_) // below, each place is a folder that is looked into
                 break;
         }
-        if (isBackup(tree_, folder))
-            return FoundLibrary{SourceKind::Backup, folder};
         return std::nullopt;
     }
 
