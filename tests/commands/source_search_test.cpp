@@ -63,13 +63,30 @@ TEST_F(ToolSourceSearch, NamesLinksInAnArchive)
                                      quoted(archive / "b/Photos.sqlite") + "\n"));
 }
 
-TEST_F(ToolSourceSearch, TakesALinkToADatabaseForThatOne)
+TEST_F(ToolSourceSearch, FollowsNoLinkThatIsCalledAsALibraryIs)
 {
-    putMedia(folder_ / "elsewhere", "a.sqlite");
-    fs::create_directories(folder_ / "case");
-    fs::create_symlink(folder_ / "elsewhere/a.sqlite", folder_ / "case/Photos.sqlite");
-    fs::create_symlink(folder_ / "elsewhere/a.sqlite-wal", folder_ / "case/Photos.sqlite-wal");
-    expectWhole(albums(folder_ / "case"));
+    putMedia(folder_ / "elsewhere");
+    fs::create_directories(folder_ / "case/a");
+    fs::create_symlink(folder_ / "elsewhere" / mediaDatabase, folder_ / "case/Photos.sqlite");
+    fs::create_directory_symlink(folder_ / "elsewhere/PhotoData", folder_ / "case/a/PhotoData");
+    const ToolRun run = albums(folder_ / "case");
+    expectFailure(run, quoted(folder_ / "case") + " holds no photo library", 4);
+    EXPECT_THAT(run.error,
+                HasSubstr("2 links, which are not followed: " +
+                          quoted(folder_ / "case/Photos.sqlite") + ", " +
+                          quoted(folder_ / "case/a/PhotoData") + "\n"));
+    expectFailure(albums(folder_ / "case/a"), quoted(folder_ / "case/a") + " holds no", 4);
+}
+
+TEST_F(ToolSourceSearch, FollowsALinkThatIsNamed)
+{
+    putMedia(folder_ / "elsewhere");
+    fs::create_directories(folder_ / "case/a");
+    fs::create_symlink(folder_ / "elsewhere" / mediaDatabase, folder_ / "case/Photos.sqlite");
+    fs::create_directory_symlink(folder_ / "elsewhere/PhotoData", folder_ / "case/a/PhotoData");
+    fs::create_directory_symlink(folder_ / "elsewhere", folder_ / "case/phone");
+    for (const char *const link : {"Photos.sqlite", "a/PhotoData", "phone"})
+        expectWhole(albums(folder_ / "case" / link));
 }
 
 TEST_F(ToolSourceSearch, NamesWhatItPassesOverInOneLineThatQuietHides)

@@ -92,10 +92,7 @@ public:
 
     void meetLink(const std::string &path) override
     {
-        if (isCalledDatabase(nameOf(path)) && tree_.find(path))
-            meetFile(path);
-        else
-            passedOver_[PassedOver::Link].push_back(path);
+        passedOver_[PassedOver::Link].push_back(path);
     }
 
     /// To be called at the end.
@@ -119,12 +116,21 @@ private:
         for (const char *const place : mediaPlaces) {
             const std::string media = joinedPath(folder, place);
             const std::string database = joinedPath(media, databaseBelowMedia);
-            if (tree_.find(database) && !isOfSystem(database))
+            if (!isOfSystem(database) && isThere(database, folder))
                 return FoundLibrary{SourceKind::MediaFolder, media};
             if (folder != top_) // below, each place is a folder that is looked into
                 break;
         }
         return std::nullopt;
+    }
+
+    /// Whether there is a file that no link in the folder leads to.
+    bool isThere(const std::string &path, const std::string &folder) const
+    {
+        for (std::string part = path; part.size() > folder.size(); part = parentOf(part))
+            if (tree_.isLink(part))
+                return false;
+        return tree_.find(path).has_value();
     }
 
     bool isInBackup(const std::string &folder) const
