@@ -248,6 +248,18 @@ TEST_P(ToolSearchOfEveryTree, SaysThatFoldersAreTooDeep)
     EXPECT_EQ(run.status, 1);
 }
 
+TEST_P(ToolSearchOfEveryTree, SaysNothingOfFoldersThatAreTooDeepElsewhere)
+{
+    std::string deep = "b/";
+    for (int i = 0; i < 64; ++i)
+        deep += "a/";
+    putMedia(folder_ / "case/a/Media");
+    putMedia(folder_ / "case" / deep / "Media");
+    const ToolRun run = albums(theCase() / "a");
+    expectWhole(run);
+    EXPECT_THAT(run.error, testing::Not(HasSubstr("deep")));
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, ToolSearchOfEveryTree, testing::Values("", "zip", "tar.gz"));
 
 TEST_F(ToolSourceSearch, SaysWhatCannotBeReadBesideALibrary)

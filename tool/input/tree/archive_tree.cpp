@@ -42,7 +42,7 @@ ArchiveTree::ArchiveTree(fs::path archive, std::string shownName)
         if (path.empty() || !(reader.isFile() || reader.isLink()))
             continue;
         if (isTooDeep(path)) {
-            hasTooDeep_ = true;
+            tooDeep_.push_back(path.substr(0, longestPath));
             continue;
         }
         if (reader.isLink()) {
@@ -84,7 +84,9 @@ UnsearchedFolders ArchiveTree::searchFolders(const std::string &top, FolderVisit
         if (entered.count(parentOf(path)) != 0)
             visitor.meetLink(path);
     UnsearchedFolders unsearched;
-    unsearched.hasTooDeep = hasTooDeep_;
+    unsearched.hasTooDeep =
+        std::any_of(tooDeep_.begin(), tooDeep_.end(),
+                    [&](const std::string &path) { return isInside(path, top); });
     return unsearched;
 }
 
