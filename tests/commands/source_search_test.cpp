@@ -71,10 +71,9 @@ TEST_F(ToolSourceSearch, FollowsNoLinkThatIsCalledAsALibraryIs)
     fs::create_directory_symlink(folder_ / "elsewhere/PhotoData", folder_ / "case/a/PhotoData");
     const ToolRun run = albums(folder_ / "case");
     expectFailure(run, quoted(folder_ / "case") + " holds no photo library", 4);
-    EXPECT_THAT(run.error,
-                HasSubstr("2 links, which are not followed: " +
-                          quoted(folder_ / "case/Photos.sqlite") + ", " +
-                          quoted(folder_ / "case/a/PhotoData") + "\n"));
+    EXPECT_THAT(run.error, HasSubstr("2 links, which are not followed: " +
+                                     quoted(folder_ / "case/Photos.sqlite") + ", " +
+                                     quoted(folder_ / "case/a/PhotoData") + "\n"));
     expectFailure(albums(folder_ / "case/a"), quoted(folder_ / "case/a") + " holds no", 4);
 }
 
