@@ -35,7 +35,7 @@ void addFoldersAround(const std::string &path, std::set<std::string> &folders)
 ArchiveTree::ArchiveTree(fs::path archive, std::string shownName)
     : archive_(std::move(archive)), shownName_(std::move(shownName)), state_(archive_)
 {
-    ArchiveReader reader(archive_);
+    ArchiveReader reader(archive_, shownName_);
     while (reader.next()) {
         isZip_ = reader.isZip();
         const std::string path = reader.path();
@@ -145,7 +145,7 @@ void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
 
 void ArchiveTree::extract(std::map<std::string, Target> targets) const
 {
-    ArchiveReader reader(archive_);
+    ArchiveReader reader(archive_, shownName_);
     while (!targets.empty() && reader.next()) {
         const auto wanted = targets.find(reader.path());
         if (wanted == targets.end() || !reader.isFile())
