@@ -9,6 +9,7 @@
 #include "commands/library_options.h"
 #include "commands/option_values.h"
 #include "commands/row_format_options.h"
+#include "input/library_layout.h"
 #include "rows/log_changes.h"
 #include "terminal/busy_line.h"
 #include "terminal/paragraph.h"
@@ -20,6 +21,7 @@
 #include "text/translate.h"
 #include "time/time_text.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -210,11 +212,23 @@ std::string changesOnly(const WriteAheadLog &log, const std::string &what)
                            what);
 }
 
+/// Whether a backup lists a log and does not hold it.
+bool isLogMissingFromBackup(const Library &library)
+{
+    const std::vector<SourceFinding> &missing = library.missing();
+    return std::any_of(missing.begin(), missing.end(), [](const SourceFinding &finding) {
+        return finding.kind == SourceProblem::BackupWithoutLog &&
+               finding.facts.back() == std::string(databaseBelowMedia) + "-wal";
+    });
+}
+
 /// Why the log changes nothing that could be listed; empty where it does, or its damage says why.
 std::string whyNoLogChanges(const Library &library, const LogChanges *changes)
 {
     switch (library.log().state) {
     case LogState::Missing:
+        if (isLogMissingFromBackup(library))
+            return translate("The write-ahead log (-wal) is missing from the backup.");
         return library.isBareStream()
                    ? translate("Whether there is a write-ahead log (-wal) is not known: none comes "
                                "through standard input.")
