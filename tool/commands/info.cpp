@@ -9,6 +9,7 @@
 #include "commands/library_options.h"
 #include "commands/option_values.h"
 #include "commands/row_format_options.h"
+#include "commands/unknown_schema_output.h"
 #include "input/library_layout.h"
 #include "rows/log_changes.h"
 #include "terminal/busy_line.h"
@@ -360,9 +361,23 @@ std::unique_ptr<const LogChanges> logChangesOf(const Library &library, const Ter
     return std::make_unique<const LogChanges>(library);
 }
 
+/// Of a database that fits no known schema it prints what its makers need to know before it fails.
+std::unique_ptr<const Library> openOrDescribe(Session &session, const InfoRequest &request,
+                                              std::ostream &out)
+{
+    try {
+        return std::make_unique<const Library>(session, request.library);
+    } catch (const UnknownSchemaError &error) {
+        print(error.schema(), request.format, session.terminal.screenOf(out), out);
+        out.flush(); // before the line that says why
+        throw;
+    }
+}
+
 ExitStatus showInfo(const InfoRequest &request, Session &session, std::ostream &out)
 {
-    const Library library(session, request.library);
+    const auto opened = openOrDescribe(session, request, out);
+    const Library &library = *opened;
     printHowItWasRead(session.terminal, library);
     const Summary summary = summaryOf(AssetList(library.albums()), library.dates());
     const std::unique_ptr<const LogChanges> changes = logChangesOf(library, session.terminal);

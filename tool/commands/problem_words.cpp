@@ -179,7 +179,8 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
                   "the Photos.sqlite of a phone or backup")},
     {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of no known schema: no iOS from {1} to {2} has these "
-                  "tables ({3}); look for a newer iosphoto, or run 'iosphoto info' on it and send "
+                  "tables and columns ({3}); look for a newer iosphoto, or run 'iosphoto info' on "
+                  "it and send "
                   "what that prints to the makers")},
     {SchemaProblem::NewerSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet ({2}); look "
