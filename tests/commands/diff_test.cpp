@@ -122,8 +122,9 @@ TEST(ToolDiff, PhotoThatLeavesTheCameraRollIsMoved)
     for (const Value &savedAs : {Value(4), Value(2), Value(nullptr)}) {
         TwoSnapshots phone;
         phone.before.asset("IMG_0001.JPG").in(phone.before.album("Trip"));
-        phone.after.asset("IMG_0001.JPG").in(phone.after.album("Trip")).set("ZSAVEDASSETTYPE",
-                                                                           savedAs);
+        phone.after.asset("IMG_0001.JPG")
+            .in(phone.after.album("Trip"))
+            .set("ZSAVEDASSETTYPE", savedAs);
         EXPECT_EQ(rowsAndSummary(phone.diff()), "moved   DCIM/100APPLE/IMG_0001.JPG  removed from "
                                                 "Camera Roll\n\n1 moved\n");
     }
@@ -155,8 +156,10 @@ TEST(ToolDiff, PhotoThatStandsForABurstNoMoreIsNoMove)
         const AlbumRow trip = library->album("Trip");
         const int pickType = library == &phone.before ? 16 : 2;
         for (const auto &[file, type] : {std::pair("A.JPG", pickType), std::pair("B.JPG", 16)})
-            library->asset(file).in(trip).set("ZAVALANCHEUUID", "BURST").set("ZAVALANCHEPICKTYPE",
-                                                                            type);
+            library->asset(file)
+                .in(trip)
+                .set("ZAVALANCHEUUID", "BURST")
+                .set("ZAVALANCHEPICKTYPE", type);
     }
     EXPECT_EQ(rowsAndSummary(phone.diff()),
               "changed  DCIM/100APPLE/A.JPG  differs in isBurstPick\n\n1 changed\n");

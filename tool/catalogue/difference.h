@@ -28,11 +28,11 @@ const char *changeName(Change change);
 /// A photo that is not the same in both snapshots.
 struct PhotoDifference
 {
-    std::optional<Asset> before;                  ///< nothing for a new one
-    std::optional<Asset> after;                   ///< nothing for one that is gone
-    std::vector<Change> changes;                  ///< at least one, each once and in order
-    std::vector<const CAlbumGroup *> addedTo;     ///< albums of the second snapshot
-    std::vector<const CAlbumGroup *> removedFrom; ///< likewise, of the first
+    std::optional<Asset> before;                     ///< nothing for a new one
+    std::optional<Asset> after;                      ///< nothing for one that is gone
+    std::vector<Change> changes;                     ///< at least one, each once and in order
+    std::vector<const CAlbumGroup *> addedTo;        ///< albums of the second snapshot
+    std::vector<const CAlbumGroup *> removedFrom;    ///< likewise, of the first
     std::vector<const ComparedFact *> changedFields; ///< those that no other change says
 
     /// The photo as it is now, or as it was when it is gone.
@@ -49,8 +49,8 @@ public:
     const Snapshot &before() const { return before_; }
     const Snapshot &after() const { return after_; }
     /// The trash takes a photo out of its albums and gives it back to them; that is not reported as
-    /// a move. Nor is that hidden photos and frames of bursts are not in the Camera Roll, or what is
-    /// in an album that has no title in one of the snapshots, as that is not read.
+    /// a move. Nor is that hidden photos and frames of bursts are not in the Camera Roll, or what
+    /// is in an album that has no title in one of the snapshots, as that is not read.
     PhotoDifference compare(const Asset &before, const Asset &after) const;
 
 private:
