@@ -130,16 +130,6 @@ TEST(ToolDiff, PhotoThatLeavesTheCameraRollIsMoved)
     }
 }
 
-TEST(ToolDiff, PhotoOfTheDeviceThatAComputerHasSyncedSinceIsMoved)
-{
-    TwoSnapshots phone;
-    phone.before.asset("IMG_0001.JPG");
-    phone.after.asset("IMG_0001.JPG").set("ZSAVEDASSETTYPE", 256);
-    EXPECT_EQ(rowsAndSummary(phone.diff()),
-              "moved   DCIM/100APPLE/IMG_0001.JPG  added to Photo Library, removed from Camera "
-              "Roll\n\n1 moved\n");
-}
-
 TEST(ToolDiff, HiddenPhotoOfAnAlbumThatIsNotInTheCameraRollIsNoMove)
 {
     TwoSnapshots phone;
