@@ -64,6 +64,10 @@ void addFrame(LibraryBuilder &library, const char *name, int pickType, bool isHi
         .set("ZHIDDEN", isHidden ? 1 : 0);
 }
 
+constexpr char untitledLine[] =
+    "iosphoto: the catalogue does not read the contents of albums without a title: photos that are "
+    "not shown in such albums: 2; albums: 1\n";
+
 struct Reason
 {
     const char *name;
@@ -341,14 +345,14 @@ TEST(LeftOutPhotos, AreChosenByWhatTheirRowsSay)
     EXPECT_EQ(selfies("--with-left-out"), "fileName\nA.JPG\nB.JPG\n");
 }
 
-TEST(LeftOutPhotos, AreVideosAlsoWhereTheKindIsNotTold)
+TEST(LeftOutPhotos, AreOfUnknownKindWhereItIsNotTold)
 {
     LibraryBuilder library(ios15);
     library.asset("A.MOV").video().set("ZDURATION", 2.5).set("ZSAVEDASSETTYPE", 4);
     library.execute("alter table ZASSET drop column ZKIND");
     EXPECT_EQ(
         runOn(library, "photos", {"--left-out", "--csv", "--fields", "fileName,mediaKind"}).out,
-        "fileName,mediaKind\r\nA.MOV,video\r\n");
+        "fileName,mediaKind\r\nA.MOV,\r\n");
 }
 
 TEST(CountsByReason, AreThoseOfTheAccountInTheHeadOfAllDocuments)
@@ -385,3 +389,20 @@ TEST_P(AccountOfRealLibrary, Balances)
 
 INSTANTIATE_TEST_SUITE_P(Libraries, AccountOfRealLibrary, testing::ValuesIn(realLibraries),
                          [](const auto &test) { return std::string(test.param.name); });
+
+TEST(ToolAccount, ContentsOfUntitledAlbumsAreCounted)
+{
+    LibraryBuilder library(ios15);
+    const AlbumRow untitled = library.album("");
+    library.album("");
+    library.asset("A.JPG").in(untitled);
+    library.asset("B.JPG").in(untitled).in(library.album("Trip"));
+    library.asset("C.JPG").in(untitled).trashedAt(1);
+    for (const char *const command : {"info", "albums", "photos"})
+        EXPECT_THAT(runTool(commandOn(library, command, {"--quiet"})).error,
+                    HasSubstr(untitledLine))
+            << command;
+    const json account = accountOf(library);
+    EXPECT_EQ(account["untitledAlbums"], 1);
+    EXPECT_EQ(account["photosOfUntitledAlbums"], 2);
+}

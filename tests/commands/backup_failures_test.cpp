@@ -105,6 +105,16 @@ TEST_F(ToolBrokenBackup, WithoutTheStoredLog)
     EXPECT_EQ(run.status, 1);
 }
 
+TEST_F(ToolBrokenBackup, WithoutTheStoredLogIsNotSaidToHaveHadNone)
+{
+    BackupOptions options;
+    options.notStored = {mediaLog};
+    writeBackup(backup_, library_, options);
+    EXPECT_THAT(runTool({"info", backup_.string()}).out,
+                testing::AllOf(HasSubstr("The write-ahead log (-wal) is missing from the backup."),
+                               testing::Not(HasSubstr("There is no write-ahead log"))));
+}
+
 TEST_F(ToolBrokenBackup, LogThatIsNotListedIsNotTaken)
 {
     BackupOptions options;

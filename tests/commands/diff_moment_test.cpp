@@ -196,6 +196,42 @@ TEST_F(ToolDiffOrder, IsToldByAChange)
     expectThatTheSecondIsLater();
 }
 
+TEST_F(ToolDiffOrder, IsToldByAPhotoThatWasTrashed)
+{
+    phone_.after.execute("update ZASSET set ZTRASHEDSTATE = 1, ZTRASHEDDATE = 650000000 "
+                         "where ZFILENAME = 'IMG_0002.JPG'");
+    expectThatTheSecondIsLater();
+}
+
+TEST_F(ToolDiffOrder, DatesThatCannotBeDoNotHideAChange)
+{
+    const std::int64_t inTwoDays = TwoSnapshots::justNow() + 2 * day;
+    for (const std::int64_t date : {inTwoDays, std::int64_t(123456789012345)}) {
+        for (LibraryBuilder *library : {&phone_.before, &phone_.after})
+            library->execute("update ZASSET set ZMODIFICATIONDATE = " + std::to_string(date) +
+                             " where ZFILENAME = 'IMG_0001.JPG'");
+        phone_.after.execute("update ZASSET set ZMODIFICATIONDATE = 650000000 "
+                             "where ZFILENAME = 'IMG_0002.JPG'");
+        expectThatTheSecondIsLater();
+    }
+}
+
+TEST_F(ToolDiffOrder, DateThatAnUndoneEditTookAwayDoesNotMakeTheFirstLater)
+{
+    phone_.before.execute("update ZASSET set Z_OPT = 2, ZMODIFICATIONDATE = 650000100 "
+                          "where ZFILENAME = 'IMG_0002.JPG'");
+    phone_.after.execute("update ZASSET set Z_OPT = 3, ZMODIFICATIONDATE = 650000000 "
+                         "where ZFILENAME = 'IMG_0002.JPG'");
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(saidOfTheOtherWayRound(), "") << "the dates do not agree";
+}
+
+TEST_F(ToolDiffOrder, IsToldByRowsThatWereWrittenMoreOften)
+{
+    phone_.after.execute("update ZASSET set Z_OPT = 3, ZFAVORITE = 1 where Z_PK = 1");
+    expectThatTheSecondIsLater();
+}
+
 TEST_F(ToolDiffOrder, WithoutACounterIsToldByKeysAndDatesTogether)
 {
     count(phone_.before, 0);

@@ -128,7 +128,8 @@ TEST_F(ToolDiffOutput, JsonIsOneDocument)
                                              {"edited", 1},
                                              {"moved", 1},
                                              {"changed", 1}}));
-    EXPECT_EQ(document["albumCounts"], (json{{"new", 0}, {"gone", 0}, {"renamed", 1}}));
+    EXPECT_EQ(document["albumCounts"],
+              (json{{"new", 0}, {"gone", 0}, {"renamed", 1}, {"changed", 0}}));
     EXPECT_EQ(document["albums"], (json::array({{{"change", "renamed"},
                                                  {"before", trip(2, "Trip")},
                                                  {"after", trip(3, "Line\n🎉")}}})));

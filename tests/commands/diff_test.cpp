@@ -117,6 +117,67 @@ TEST(ToolDiff, TrashThatTakesAPhotoOutOfItsAlbumsIsNoMove)
     EXPECT_EQ(rowsAndSummary(phone.diff()), "trashed  DCIM/100APPLE/IMG_0001.JPG\n\n1 trashed\n");
 }
 
+TEST(ToolDiff, PhotoThatLeavesTheCameraRollIsMoved)
+{
+    for (const Value &savedAs : {Value(4), Value(2), Value(nullptr)}) {
+        TwoSnapshots phone;
+        phone.before.asset("IMG_0001.JPG").in(phone.before.album("Trip"));
+        phone.after.asset("IMG_0001.JPG")
+            .in(phone.after.album("Trip"))
+            .set("ZSAVEDASSETTYPE", savedAs);
+        EXPECT_EQ(rowsAndSummary(phone.diff()), "moved   DCIM/100APPLE/IMG_0001.JPG  removed from "
+                                                "Camera Roll\n\n1 moved\n");
+    }
+}
+
+TEST(ToolDiff, HiddenPhotoOfAnAlbumThatIsNotInTheCameraRollIsNoMove)
+{
+    TwoSnapshots phone;
+    phone.before.asset("IMG_0001.JPG").in(phone.before.album("Trip"));
+    phone.after.asset("IMG_0001.JPG").in(phone.after.album("Trip")).set("ZHIDDEN", 1);
+    EXPECT_EQ(rowsAndSummary(phone.diff()),
+              "changed  DCIM/100APPLE/IMG_0001.JPG  now hidden\n\n1 changed\n");
+}
+
+TEST(ToolDiff, PhotoThatStandsForABurstNoMoreIsNoMove)
+{
+    TwoSnapshots phone;
+    for (LibraryBuilder *library : {&phone.before, &phone.after}) {
+        const AlbumRow trip = library->album("Trip");
+        const int pickType = library == &phone.before ? 16 : 2;
+        for (const auto &[file, type] : {std::pair("A.JPG", pickType), std::pair("B.JPG", 16)})
+            library->asset(file)
+                .in(trip)
+                .set("ZAVALANCHEUUID", "BURST")
+                .set("ZAVALANCHEPICKTYPE", type);
+    }
+    EXPECT_EQ(rowsAndSummary(phone.diff()),
+              "changed  DCIM/100APPLE/A.JPG  differs in isBurstPick\n\n1 changed\n");
+}
+
+TEST(ToolDiff, AlbumOfAnotherKindIsChanged)
+{
+    TwoSnapshots phone;
+    phone.before.album("Trip");
+    phone.after.album("Trip").set("ZKIND", 3);
+    EXPECT_EQ(rowsAndSummary(phone.diff()),
+              "album changed  Trip  is of another kind\n\nalbums: 1 changed\n");
+}
+
+TEST(ToolDiff, PhotosOfAnAlbumThatLostItsTitleAreNotSaidToBeGoneFromIt)
+{
+    TwoSnapshots phone;
+    for (LibraryBuilder *library : {&phone.before, &phone.after}) {
+        const bool isBefore = library == &phone.before;
+        library->asset("IMG_0001.JPG")
+            .in(library->album(isBefore ? "Trip" : ""))
+            .in(library->album(isBefore ? "" : "Party"));
+    }
+    EXPECT_EQ(rowsAndSummary(phone.diff()), "album renamed  Untitled album  was named Trip\n"
+                                            "album renamed  Party           was named Untitled "
+                                            "album\n\nalbums: 2 renamed\n");
+}
+
 TEST(ToolDiff, AlbumsThatAreNewGoneAndRenamed)
 {
     TwoSnapshots phone;

@@ -129,7 +129,7 @@ TEST_F(ToolIncompleteLog, ThatIsCutShortBeforeAnyMarkIsNotSaidToHaveMore)
 {
     const ToolRun run = runWith(log_.substr(0, headerSize + 3 * frameSize + 3));
     EXPECT_EQ(run.error,
-              damaged("3 of at least 3, and what follows is no whole frame; later changes may "
+              damaged("3 of at least 3, and what follows is no sound frame; later changes may "
                       "be missing"));
     EXPECT_EQ(run.status, 1);
 }
@@ -197,8 +197,8 @@ TEST_F(ToolIncompleteLog, ZerosAtItsEndAreSaidAndAreNoDamage)
 TEST_F(ToolIncompleteLog, HeaderAloneIsSaid)
 {
     const ToolRun run = runWith(log_.substr(0, headerSize), "info", {"--quiet"});
-    EXPECT_THAT(run.out, HasSubstr("\n\nThe write-ahead log (-wal) holds no commit, so it changes "
-                                   "nothing.\n"));
+    EXPECT_THAT(run.out, HasSubstr("\n\nNo commit is seen in the write-ahead log (-wal): none was "
+                                   "written, or it was cut or damaged. Nothing of it is shown.\n"));
     EXPECT_EQ(run.error,
               "iosphoto: the -wal of '" + copy_ +
                   "' has a header and no change: either none was written yet, and nothing "
@@ -207,13 +207,53 @@ TEST_F(ToolIncompleteLog, HeaderAloneIsSaid)
     EXPECT_EQ(run.status, 0);
 }
 
+TEST_F(ToolIncompleteLog, WithADamagedHeaderIsSaidToHoldCommits)
+{
+    const ToolRun run = runWith(changed(headerSize - 1));
+    EXPECT_THAT(run.out, HasSubstr("IMG_0001.JPG"));
+    EXPECT_EQ(run.error, "iosphoto: the -wal of '" + copy_ +
+                             "' has a damaged header, so none of its commits (at least 4) is "
+                             "applied, and their changes are missing; copy it from the device or "
+                             "the backup again, its -wal with it\n");
+    EXPECT_EQ(run.status, 1);
+}
+
 TEST_F(ToolIncompleteLog, WithoutAGoodCommitChangesNothing)
 {
     const ToolRun run = runWith(changed(headerSize + 500), "info");
     EXPECT_THAT(run.out,
-                HasSubstr("\n\nNo commit of the write-ahead log (-wal) is good, so nothing "
-                          "of it is shown.\n"));
+                HasSubstr("\n\nThe write-ahead log (-wal) is damaged: no commit of it is good, so "
+                          "nothing of it is shown.\n"));
     EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(
+        runWith(changed(headerSize - 1), "info").out,
+        HasSubstr("\n\nThe write-ahead log (-wal) has a damaged header, so nothing of it is "
+                  "shown.\n"));
+}
+
+TEST_F(ToolIncompleteLog, IsSaidToBeDamagedBesideWhatItChanges)
+{
+    const std::string out = runWith(changed(headerSize + 2 * frameSize + 500), "info").out;
+    EXPECT_THAT(out,
+                HasSubstr("\n\nThe write-ahead log (-wal) is damaged: it is good up to commit 2 "
+                          "of at least 4.\nIN THE LOG ONLY "));
+}
+
+TEST_F(ToolIncompleteLog, ChangesNothingAsFarAsItIsGood)
+{
+    library_.execute("pragma wal_checkpoint(truncate); create table other (a)");
+    const std::string log = readFile(library_.path() + "-wal");
+    const auto shown = [&](const std::string &bytes) {
+        const std::string out = runWith(bytes, "info").out;
+        return out.substr(out.rfind("\n\n") + 2);
+    };
+    const std::string goodPart =
+        "As far as it is good, the write-ahead log (-wal) changes nothing that is shown.\n";
+    EXPECT_EQ(shown(log), "The write-ahead log (-wal) changes nothing that is shown.\n");
+    EXPECT_EQ(shown(log + std::string(frameSize, '\0')), goodPart);
+    EXPECT_EQ(shown(log + log.substr(headerSize)),
+              "The write-ahead log (-wal) is damaged: it is good up to commit 1 of at least 2.\n" +
+                  goodPart);
 }
 
 TEST_F(ToolIncompleteLog, ThatWasBegunAnewIsComplete)

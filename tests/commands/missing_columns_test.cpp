@@ -59,6 +59,9 @@ void fill(LibraryBuilder &library)
     setIfThere(library.cameraRollAsset("LIVE.JPG"), "ZVIDEOCPDURATIONTIMESCALE", 600);
     setIfThere(library.cameraRollAsset("SCREEN.PNG"), "ZKINDSUBTYPE", 10);
     setIfThere(library.cameraRollAsset("SLOW.MOV").video(), "ZKINDSUBTYPE", 101);
+    library.cameraRollAsset("OTHER.AVI")
+        .set("ZUNIFORMTYPEIDENTIFIER", "public.avi")
+        .set("ZKIND", 1);
     setIfThere(library.cameraRollAsset("EDITED.JPG"), "ZHASADJUSTMENTS", 1);
     setIfThere(library.cameraRollAsset("EDITED18.JPG"), "ZADJUSTMENTSSTATE", 2);
     setIfThere(library.cameraRollAsset("PORTRAIT.JPG"), "ZDEPTHTYPE", 1);
@@ -320,7 +323,7 @@ TEST_P(EssentialColumn, ThatIsMissingIsNamed)
     EXPECT_THAT(run.error, HasSubstr(GetParam()));
     EXPECT_THAT(run.error, HasSubstr("; look for a newer iosphoto, or run 'iosphoto info' on it "
                                      "and send what that prints to the makers\n"));
-    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.out, HasSubstr(std::string("ZASSET.") + GetParam()));
     EXPECT_EQ(run.status, 5);
 }
 

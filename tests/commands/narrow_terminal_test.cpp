@@ -171,8 +171,11 @@ TEST(TerminalOf80Columns, KeepsTheReasonsOfWhatIsLeftOutWhole)
 {
     LibraryBuilder library(ios15);
     fillWithWideCells(library);
-    const char *const longest = "of a kind that the catalogue does not take";
-    library.asset("IMG_WITH_A_RATHER_LONG_NAME_4000.HEIC").set("Z_ENT", 99);
+    const char *const longest = "hidden or deleted frame of a burst";
+    library.asset("IMG_WITH_A_RATHER_LONG_NAME_4000.HEIC")
+        .set("ZAVALANCHEUUID", "BURST")
+        .set("ZAVALANCHEPICKTYPE", 2)
+        .set("ZHIDDEN", 1);
     for (const char *option : {"--left-out", "--with-left-out"}) {
         const std::string out = shownAt80(library, {"photos", option});
         EXPECT_THAT(out, HasSubstr(longest));

@@ -29,11 +29,12 @@ TEST_F(ToolSourceSearch, FindsALoneDatabaseAtAnyDepth)
     expectWhole(albums(folder_ / "case"));
 }
 
-TEST_F(ToolSourceSearch, DoesNotLookIntoWhatItFound)
+TEST_F(ToolSourceSearch, DoesNotLookIntoThePhotoDataThatItFound)
 {
-    putMedia(putMedia(folder_ / "Media") / "DCIM/100APPLE");
-    expectWhole(albums(folder_ / "Media"));
-    expectWhole(albums(packed(folder_ / "Media", folder_ / "media", tar)));
+    putMedia(putMedia(folder_ / "Media") / "PhotoData/old");
+    const ToolRun run = albums(folder_ / "Media");
+    expectWhole(run);
+    EXPECT_THAT(run.error, testing::Not(HasSubstr("passed over")));
 }
 
 TEST_F(ToolSourceSearch, FollowsNoLinks)
@@ -62,13 +63,29 @@ TEST_F(ToolSourceSearch, NamesLinksInAnArchive)
                                      quoted(archive / "b/Photos.sqlite") + "\n"));
 }
 
-TEST_F(ToolSourceSearch, TakesALinkToADatabaseForThatOne)
+TEST_F(ToolSourceSearch, FollowsNoLinkThatIsCalledAsALibraryIs)
 {
-    putMedia(folder_ / "elsewhere", "a.sqlite");
-    fs::create_directories(folder_ / "case");
-    fs::create_symlink(folder_ / "elsewhere/a.sqlite", folder_ / "case/Photos.sqlite");
-    fs::create_symlink(folder_ / "elsewhere/a.sqlite-wal", folder_ / "case/Photos.sqlite-wal");
-    expectWhole(albums(folder_ / "case"));
+    putMedia(folder_ / "elsewhere");
+    fs::create_directories(folder_ / "case/a");
+    fs::create_symlink(folder_ / "elsewhere" / mediaDatabase, folder_ / "case/Photos.sqlite");
+    fs::create_directory_symlink(folder_ / "elsewhere/PhotoData", folder_ / "case/a/PhotoData");
+    const ToolRun run = albums(folder_ / "case");
+    expectFailure(run, quoted(folder_ / "case") + " holds no photo library", 4);
+    EXPECT_THAT(run.error, HasSubstr("2 links, which are not followed: " +
+                                     quoted(folder_ / "case/Photos.sqlite") + ", " +
+                                     quoted(folder_ / "case/a/PhotoData") + "\n"));
+    expectFailure(albums(folder_ / "case/a"), quoted(folder_ / "case/a") + " holds no", 4);
+}
+
+TEST_F(ToolSourceSearch, FollowsALinkThatIsNamed)
+{
+    putMedia(folder_ / "elsewhere");
+    fs::create_directories(folder_ / "case/a");
+    fs::create_symlink(folder_ / "elsewhere" / mediaDatabase, folder_ / "case/Photos.sqlite");
+    fs::create_directory_symlink(folder_ / "elsewhere/PhotoData", folder_ / "case/a/PhotoData");
+    fs::create_directory_symlink(folder_ / "elsewhere", folder_ / "case/phone");
+    for (const char *const link : {"Photos.sqlite", "a/PhotoData", "phone"})
+        expectWhole(albums(folder_ / "case" / link));
 }
 
 TEST_F(ToolSourceSearch, NamesWhatItPassesOverInOneLineThatQuietHides)
@@ -140,6 +157,21 @@ TEST_P(ToolSearchOfEveryTree, TakesTheFolderOfALibraryForThatOne)
     EXPECT_THAT(run.error, HasSubstr("1 other photo library: " + quoted(all / "Photos.sqlite")));
 }
 
+TEST_P(ToolSearchOfEveryTree, FindsLibrariesInAMediaFolder)
+{
+    putMedia(putMedia(folder_ / "case/phoneA/Media") / "phoneB/Media");
+    writeBackup(folder_ / "case/phoneA/Media/0001", library_);
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectFailure(run, quoted(all) + " holds 3 photo libraries, which iosphoto backups lists; ", 2);
+    EXPECT_THAT(run.error,
+                testing::AllOf(HasSubstr(quoted(all / "phoneA/Media/phoneB/Media") + " ("),
+                               HasSubstr(quoted(all / "phoneA/Media/0001") + " (")));
+    const ToolRun first = albums(all / "phoneA/Media");
+    expectWhole(first);
+    EXPECT_THAT(first.error, HasSubstr("2 other photo libraries: "));
+}
+
 TEST_P(ToolSearchOfEveryTree, TakesNoDatabaseWithoutPhotosForALibrary)
 {
     writeBackup(folder_ / "case/0001", library_);
@@ -174,6 +206,32 @@ TEST_P(ToolSearchOfEveryTree, NamesLibrariesInABackup)
     expectWhole(albums(all / "0001/old/0002"));
 }
 
+TEST_P(ToolSearchOfEveryTree, FindsABackupAroundPhotoData)
+{
+    BackupOptions options;
+    options.isEncrypted = true;
+    writeBackup(folder_ / "case/0001", library_, options);
+    putMedia(folder_ / "case/0001");
+    const fs::path all = theCase();
+    const ToolRun run = albums(all);
+    expectFailure(run, quoted(all) + " holds 2 photo libraries, which iosphoto backups lists; ", 2);
+    EXPECT_THAT(run.error, testing::AllOf(HasSubstr(quoted(all / "0001") + " ("),
+                                          HasSubstr(quoted(all / "0001" / mediaDatabase) + " (")));
+    expectFailure(albums(all / "0001"), quoted(all / "0001") + " is an encrypted backup", 6);
+    expectWhole(albums(all / "0001" / mediaDatabase));
+}
+
+TEST_P(ToolSearchOfEveryTree, FindsABackupAroundAMediaFolder)
+{
+    writeBackup(folder_ / "case", library_);
+    putMedia(folder_ / "case/Media");
+    const fs::path all = theCase();
+    const ToolRun run = runTool({"info", all.string(), "--json"});
+    EXPECT_THAT(run.out, HasSubstr("\"backup\""));
+    EXPECT_THAT(run.error,
+                HasSubstr("1 photo library in a backup: " + quoted(all / "Media") + "\n"));
+}
+
 TEST_P(ToolSearchOfEveryTree, SaysThatFoldersAreTooDeep)
 {
     std::string deep;
@@ -187,6 +245,18 @@ TEST_P(ToolSearchOfEveryTree, SaysThatFoldersAreTooDeep)
     EXPECT_THAT(run.error, HasSubstr(quoted(all) + " has folders more than 64 deep, where photo "
                                                    "libraries are not searched for"));
     EXPECT_EQ(run.status, 1);
+}
+
+TEST_P(ToolSearchOfEveryTree, SaysNothingOfFoldersThatAreTooDeepElsewhere)
+{
+    std::string deep = "b/";
+    for (int i = 0; i < 64; ++i)
+        deep += "a/";
+    putMedia(folder_ / "case/a/Media");
+    putMedia(folder_ / "case" / deep / "Media");
+    const ToolRun run = albums(theCase() / "a");
+    expectWhole(run);
+    EXPECT_THAT(run.error, testing::Not(HasSubstr("deep")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ToolSearchOfEveryTree, testing::Values("", "zip", "tar.gz"));

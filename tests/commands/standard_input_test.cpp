@@ -69,6 +69,13 @@ TEST_F(ToolStandardInput, IsAnArchive)
                 HasSubstr("/dev/stdin/A/Media\n"));
 }
 
+TEST_F(ToolStandardInput, IsNamedWhereItIsACutArchive)
+{
+    const std::string whole = archive();
+    expectFailure(runToolOnPipe(whole.substr(0, whole.size() / 3), {"albums", "-"}),
+                  "the archive '/dev/stdin' is damaged or cut short", 3);
+}
+
 TEST_F(ToolStandardInput, HasOtherNames)
 {
     const std::string database = wholeDatabase();

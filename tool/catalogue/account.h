@@ -3,6 +3,7 @@
 
 #include "catalogue/album_account.h"
 #include "catalogue/left_out_photos.h"
+#include "catalogue/untitled_albums.h"
 
 namespace iosphoto::tool {
 
@@ -11,10 +12,11 @@ struct Account
 {
     PhotoAccount photos;
     AlbumAccount albums;
+    UntitledContents untitled = {};
 
     bool operator==(const Account &other) const
     {
-        return photos == other.photos && albums == other.albums;
+        return photos == other.photos && albums == other.albums && untitled == other.untitled;
     }
 };
 
@@ -23,7 +25,8 @@ struct Account
 inline Account accountOf(const CopyDatabase &database, const ReadingFacts &reading,
                          LeftOutPhotos *leftOut)
 {
-    return {accountOfPhotos(database, reading, leftOut), accountOfAlbums(database, reading)};
+    return {accountOfPhotos(database, reading, leftOut), accountOfAlbums(database, reading),
+            contentsOfUntitled(database, reading)};
 }
 
 } // namespace iosphoto::tool

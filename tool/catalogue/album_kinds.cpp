@@ -53,7 +53,7 @@ const KindNames &namesOf(const CAlbumGroup &album)
 
 std::string kindText(const CAlbumGroup &album, Language language)
 {
-    if (album.albumKind == Kind::PhotoLibrary && isOfTheTable(album))
+    if (isUntitled(album))
         return translateTo(language, "Untitled album");
     const std::string kind = translateTerm(namesOf(album).english, language);
     return collectsFromAlbums(album) ? translateTo(language, "{0} from albums", kind) : kind;
@@ -103,6 +103,11 @@ bool isOfTheTable(const CAlbumGroup &album)
     return !album.albumUuid.empty();
 }
 
+bool isUntitled(const CAlbumGroup &album)
+{
+    return album.albumKind == Kind::PhotoLibrary && isOfTheTable(album);
+}
+
 bool collectsFromAlbums(const CAlbumGroup &album)
 {
     return !album.isSmartAlbum && !isOfTheTable(album) && album.albumKind != Kind::CameraRoll &&
@@ -111,8 +116,7 @@ bool collectsFromAlbums(const CAlbumGroup &album)
 
 std::string kindName(const CAlbumGroup &album)
 {
-    const bool isUntitled = album.albumKind == Kind::PhotoLibrary && isOfTheTable(album);
-    return isUntitled ? "untitled" : namesOf(album).machine;
+    return isUntitled(album) ? "untitled" : namesOf(album).machine;
 }
 
 std::string englishKind(const CAlbumGroup &album)

@@ -31,6 +31,9 @@ const char *fieldBehindAlbum(const std::string &name);
 /// An album of the table, as opposed to the built-in ones.
 bool isOfTheTable(const CAlbumGroup &album);
 
+/// An album of the table that has no title.
+bool isUntitled(const CAlbumGroup &album);
+
 /// Whether the album collects photos of one kind from the albums that the device did not make.
 bool collectsFromAlbums(const CAlbumGroup &album);
 

@@ -59,6 +59,49 @@ const CAlbumGroup *counterpart(const AlbumsByUuid &others, const CAlbumGroup &al
     return found != others.end() ? found->second : nullptr;
 }
 
+/// The albums that rows of photos decide themselves, as opposed to those that follow from facts.
+bool isRoll(const CAlbumGroup &album)
+{
+    return !album.isSmartAlbum && !isOfTheTable(album) &&
+           (album.albumKind == AlbumKind::CameraRoll || album.albumKind == AlbumKind::PhotoLibrary);
+}
+
+/// What an album is told by in both snapshots; empty for those that are not compared. No uuid is in
+/// small letters.
+std::string keyOf(const CAlbumGroup &album)
+{
+    if (isOfTheTable(album))
+        return comparable(album.albumUuid);
+    return isRoll(album) ? kindName(album) : "";
+}
+
+/// Nothing but its row decides whether it is in the Camera Roll.
+bool isPlain(const CPhotoData &photo)
+{
+    return !photo.isHidden && !photo.isDeleted && !(photo.isBurst && photo.isBurstPick == 0);
+}
+
+/// The albums of `albums` that are not in `others`.
+std::vector<const CAlbumGroup *> missingFrom(const std::vector<const CAlbumGroup *> &others,
+                                             const std::vector<const CAlbumGroup *> &albums)
+{
+    std::set<std::string> there;
+    for (const CAlbumGroup *album : others)
+        there.insert(keyOf(*album));
+    std::vector<const CAlbumGroup *> missing;
+    for (const CAlbumGroup *album : albums)
+        if (const std::string key = keyOf(*album); !key.empty() && there.count(key) == 0)
+            missing.push_back(album);
+    return missing;
+}
+
+/// A change of name makes a titled album one of another kind, too.
+bool isOfAnotherKind(const CAlbumGroup &before, const CAlbumGroup &after)
+{
+    return before.isSmartAlbum != after.isSmartAlbum ||
+           (before.albumKind != after.albumKind && before.albumName == after.albumName);
+}
+
 } // namespace
 
 const char *changeName(Change change)
@@ -84,8 +127,14 @@ const char *changeName(Change change)
 
 PhotoComparer::PhotoComparer(const Snapshot &before, const Snapshot &after)
     : before_(before), after_(after),
-      areAlbumsKnown_(!isUnknown(before, "albums") && !isUnknown(after, "albums"))
+      areAlbumsKnown_(!isUnknown(before, "albums") && !isUnknown(after, "albums")),
+      // which lacks the same column
+      isRollKnown_(!isUnknown(before, "isScreenshot") && !isUnknown(after, "isScreenshot"))
 {
+    for (const Snapshot *snapshot : {&before, &after})
+        for (const CAlbumGroup &album : snapshot->assets.records().catalogue())
+            if (isUntitled(album) && album.photos.empty())
+                unread_.insert(keyOf(album));
     for (const ComparedFact &fact : comparedFacts())
         if (!isUnknown(before, fact.key) && !isUnknown(after, fact.key))
             facts_.push_back(&fact);
@@ -103,8 +152,7 @@ PhotoDifference PhotoComparer::compare(const Asset &before, const Asset &after) 
         takeAway(differing, {"trashed"});
         difference.changes.push_back(now.facts.isDeleted ? Change::Trashed : Change::Restored);
     } else if (areAlbumsKnown_ && old.facts.isDeleted == now.facts.isDeleted) {
-        difference.addedTo = albumsMissingFrom(before.albums(), after.albums());
-        difference.removedFrom = albumsMissingFrom(after.albums(), before.albums());
+        compareAlbums(old, now, difference);
     }
     if (takeEdit(old.facts, now.facts, differing))
         difference.changes.push_back(Change::Edited);
@@ -113,6 +161,22 @@ PhotoDifference PhotoComparer::compare(const Asset &before, const Asset &after) 
     if (!differing.empty())
         difference.changes.push_back(Change::Changed);
     return difference;
+}
+
+void PhotoComparer::compareAlbums(const PhotoInSnapshot &before, const PhotoInSnapshot &after,
+                                  PhotoDifference &difference) const
+{
+    const bool areRollsCompared = isRollKnown_ && isPlain(before.facts) && isPlain(after.facts);
+    const auto isLeftOut = [&](const CAlbumGroup *album) {
+        return isOfTheTable(*album) ? unread_.count(keyOf(*album)) > 0 : !areRollsCompared;
+    };
+    const auto take = [&](const Asset &others, const Asset &photo) {
+        std::vector<const CAlbumGroup *> albums = missingFrom(others.albums(), photo.albums());
+        albums.erase(std::remove_if(albums.begin(), albums.end(), isLeftOut), albums.end());
+        return albums;
+    };
+    difference.addedTo = take(before.asset, after.asset);
+    difference.removedFrom = take(after.asset, before.asset);
 }
 
 PhotoDifferences::PhotoDifferences(const PhotoComparer &comparer, std::vector<AssetMatch> matches)
@@ -170,9 +234,11 @@ const char *changeName(AlbumChange change)
     case AlbumChange::Gone:
         return translatable("gone");
     case AlbumChange::Renamed:
+        return translatable("renamed");
+    case AlbumChange::Changed:
         break;
     }
-    return translatable("renamed");
+    return translatable("changed");
 }
 
 std::vector<AlbumDifference> compareAlbums(const std::vector<CAlbumGroup> &before,
@@ -185,28 +251,19 @@ std::vector<AlbumDifference> compareAlbums(const std::vector<CAlbumGroup> &befor
         if (!isOfTheTable(album))
             continue;
         const CAlbumGroup *const old = counterpart(first, album);
-        if (old == nullptr)
+        if (old == nullptr) {
             differences.push_back({AlbumChange::New, nullptr, &album});
-        else if (old->albumName != album.albumName)
+            continue;
+        }
+        if (old->albumName != album.albumName)
             differences.push_back({AlbumChange::Renamed, old, &album});
+        if (isOfAnotherKind(*old, album))
+            differences.push_back({AlbumChange::Changed, old, &album});
     }
     for (const CAlbumGroup &album : before)
         if (isOfTheTable(album) && counterpart(second, album) == nullptr)
             differences.push_back({AlbumChange::Gone, &album, nullptr});
     return differences;
-}
-
-std::vector<const CAlbumGroup *> albumsMissingFrom(const std::vector<const CAlbumGroup *> &others,
-                                                   const std::vector<const CAlbumGroup *> &albums)
-{
-    std::set<std::string> there;
-    for (const CAlbumGroup *album : others)
-        there.insert(comparable(album->albumUuid));
-    std::vector<const CAlbumGroup *> missing;
-    for (const CAlbumGroup *album : albums)
-        if (isOfTheTable(*album) && there.count(comparable(album->albumUuid)) == 0)
-            missing.push_back(album);
-    return missing;
 }
 
 int LibraryDifference::count(Change change) const

@@ -10,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -27,11 +28,11 @@ const char *changeName(Change change);
 /// A photo that is not the same in both snapshots.
 struct PhotoDifference
 {
-    std::optional<Asset> before;                  ///< nothing for a new one
-    std::optional<Asset> after;                   ///< nothing for one that is gone
-    std::vector<Change> changes;                  ///< at least one, each once and in order
-    std::vector<const CAlbumGroup *> addedTo;     ///< albums of the table, of the second snapshot
-    std::vector<const CAlbumGroup *> removedFrom; ///< likewise, of the first
+    std::optional<Asset> before;                     ///< nothing for a new one
+    std::optional<Asset> after;                      ///< nothing for one that is gone
+    std::vector<Change> changes;                     ///< at least one, each once and in order
+    std::vector<const CAlbumGroup *> addedTo;        ///< albums of the second snapshot
+    std::vector<const CAlbumGroup *> removedFrom;    ///< likewise, of the first
     std::vector<const ComparedFact *> changedFields; ///< those that no other change says
 
     /// The photo as it is now, or as it was when it is gone.
@@ -48,14 +49,22 @@ public:
     const Snapshot &before() const { return before_; }
     const Snapshot &after() const { return after_; }
     /// The trash takes a photo out of its albums and gives it back to them; that is not reported as
-    /// a move.
+    /// a move. Nor is that hidden photos and frames of bursts are not in the Camera Roll, or what
+    /// is in an album that has no title in one of the snapshots, as that is not read.
     PhotoDifference compare(const Asset &before, const Asset &after) const;
 
 private:
+    using Keys = std::set<std::string>; // ordered: no choice of uuids makes it slow
+
+    void compareAlbums(const PhotoInSnapshot &before, const PhotoInSnapshot &after,
+                       PhotoDifference &difference) const;
+
     Snapshot before_;
     Snapshot after_;
     std::vector<const ComparedFact *> facts_;
     bool areAlbumsKnown_;
+    bool isRollKnown_; ///< what is in the Camera Roll and the Photo Library
+    Keys unread_;      ///< of albums whose photos one of the snapshots does not know
 };
 
 /// The photos that differ: those of the second snapshot in its order, then those that are gone in
@@ -116,10 +125,11 @@ struct PhotoComparison
 /// @param before, after  what they refer to has to outlive the result
 PhotoComparison comparePhotos(const Snapshot &before, const Snapshot &after);
 
-enum class AlbumChange { New, Gone, Renamed };
+/// Changed is one that is of another kind, whatever its name.
+enum class AlbumChange { New, Gone, Renamed, Changed };
 
 constexpr AlbumChange allAlbumChanges[] = {AlbumChange::New, AlbumChange::Gone,
-                                           AlbumChange::Renamed};
+                                           AlbumChange::Renamed, AlbumChange::Changed};
 
 /// For machines, such as "new".
 const char *changeName(AlbumChange change);
@@ -135,10 +145,6 @@ struct AlbumDifference
 /// Those of the second catalogue in its order, then those that are gone in the order of the first.
 std::vector<AlbumDifference> compareAlbums(const std::vector<CAlbumGroup> &before,
                                            const std::vector<CAlbumGroup> &after);
-
-/// The albums of the table in `albums` that are not in `others`, by their uuids.
-std::vector<const CAlbumGroup *> albumsMissingFrom(const std::vector<const CAlbumGroup *> &others,
-                                                   const std::vector<const CAlbumGroup *> &albums);
 
 /// Everything that differs between two snapshots of a library.
 struct LibraryDifference

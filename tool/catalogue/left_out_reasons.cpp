@@ -14,13 +14,13 @@ struct Names
 
 // clang-format off
 constexpr Names photoNames[] = {
-    {"notSelected",         translatable("of a kind that the catalogue does not take")},
+    {"notSelected",         translatable("not selected by kind or album")},
     {"sharedAlbum",         translatable("of a shared album")},
     {"referencedElsewhere", translatable("referenced elsewhere")},
     {"trashedTooLong",      translatable("in the trash for 30 days")},
     {"trashedWithoutDate",  translatable("in the trash without a date")},
     {"withoutFileName",     translatable("without a file name")},
-    {"burstFrame",          translatable("frame of a hidden or deleted burst")},
+    {"burstFrame",          translatable("hidden or deleted frame of a burst")},
     {"repeated",            translatable("with the uuid and file of another")},
     {"notRead",             translatable("not read")},
 };

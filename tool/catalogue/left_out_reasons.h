@@ -12,13 +12,14 @@ namespace iosphoto::tool {
 
 /// Of a row of the asset table. Where several fit, the first one counts.
 enum class PhotoReason {
-    NotSelected,         ///< of an entity that is no asset, or without additional attributes
+    NotSelected, ///< of an entity that is no asset, without additional attributes, or, up to iOS 7,
+                 ///< in no album that the statements ask for
     OfSharedAlbum,       ///< stored for a shared album, not in the library
     ReferencedElsewhere, ///< saved in another way than those that the catalogue takes
     TrashedTooLong,      ///< for 30 days at the moment that the library is read as of
     TrashedWithoutDate,  ///< the device removes it at a time that nobody knows
     WithoutFileName,
-    BurstFrame, ///< one that does not stand for its burst, which is hidden, deleted or not shown
+    BurstFrame, ///< one that does not stand for its burst, and is hidden or deleted
     Repeated,   ///< with the uuid and path of a row that is shown, without a key to tell them by
     NotRead,    ///< the reading ended before
 };

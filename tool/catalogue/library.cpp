@@ -78,7 +78,7 @@ void Library::inspect(const OpenedCopy &copy)
     const CopyDatabase database = copy.connect();
     trash_ = Trash(database, asOf_.time);
     if (request_.isCompared)
-        age_ = readSnapshotAge(database);
+        age_ = readSnapshotAge(database, {currentUnixTime()});
 }
 
 void Library::read(const Session &session, const OpenedCopy &copy)

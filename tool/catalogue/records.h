@@ -35,6 +35,7 @@ public:
     /// @param areShown  whether its albums are such, or only hold photos that no album shows
     explicit Records(const std::vector<CAlbumGroup> &catalogue, bool areShown = true);
 
+    const std::vector<CAlbumGroup> &catalogue() const { return *catalogue_; }
     RecordNumber count() const { return starts_.back(); }
     Appearance operator[](RecordNumber number) const
     {

@@ -16,15 +16,20 @@ struct SnapshotAge
     std::int64_t counter = 0;    ///< the highest key that an asset ever had
     std::int64_t highestKey = 0; ///< the one that an asset has now
     std::int64_t assets = 0;     ///< rows of them
-    CoreDataTime newestDate;     ///< on which one was added or changed
+    std::int64_t saves = 0;      ///< how often these were written, all together
+    CoreDataTime newestAdded;    ///< date on which one was added
+    CoreDataTime newestDate;     ///< on which one was added, changed or trashed
 
     /// Keys are given once, in order, and rows that went do not come back. So of two snapshots the
-    /// one with the higher keys is later, else the one with fewer rows, else the one with the newer
-    /// date. Where the counter was not kept the date has to agree.
+    /// one with the higher counter is later, else the one with fewer rows. Else both have the same
+    /// rows: the one that wrote them more often is later, else the one with the newer date. The
+    /// date may not gainsay the number, as an undone edit takes a date away. Of another store, and
+    /// where the counter was not kept, rows may differ, so that only dates of adding tell.
     bool isLaterThan(const SnapshotAge &other) const;
 };
 
-SnapshotAge readSnapshotAge(const CopyDatabase &database);
+/// @param now  no date counts that is more than a day later
+SnapshotAge readSnapshotAge(const CopyDatabase &database, UnixTime now);
 
 } // namespace iosphoto::tool
 

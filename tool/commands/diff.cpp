@@ -202,8 +202,9 @@ Command addDiff(CLI::App &app)
     jsonLines->excludes(csv);
     command->footer(helpFooter(
         {translate("What is in the trash is compared however long it has been there."),
-         translate("Compared are the names of albums, which photos they show, and all that photos "
-                   "shows of a photo, but keys of rows, places in the thumbnail cache, and what "
+         translate("Compared are the names and kinds of albums, which photos they show, but for "
+                   "albums without a title, and all that photos shows of a photo, but keys of "
+                   "rows, places in the thumbnail cache, and what "
                    "follows from other fields or photos. What is in no album is counted only."),
          kindsOfTimes(),
          examples({"iosphoto diff May/Photos.sqlite June/Photos.sqlite",

@@ -111,9 +111,12 @@ std::string summary(const LibraryDifference &difference)
 DifferenceLine lineOf(const AlbumDifference &album)
 {
     const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
-    const bool isRenamed = album.change == AlbumChange::Renamed;
-    return {translate("album {0}", changeWord(album.change)), shownName(latest),
-            isRenamed ? translate("was named {0}", shownName(*album.before)) : ""};
+    DifferenceLine line = {translate("album {0}", changeWord(album.change)), shownName(latest), ""};
+    if (album.change == AlbumChange::Renamed)
+        line.what = translate("was named {0}", shownName(*album.before));
+    if (album.change == AlbumChange::Changed)
+        line.what = translate("is of another kind");
+    return line;
 }
 
 DifferenceLine lineOf(const PhotoDifference &photo)

@@ -9,6 +9,8 @@
 #include "commands/library_options.h"
 #include "commands/option_values.h"
 #include "commands/row_format_options.h"
+#include "commands/unknown_schema_output.h"
+#include "input/library_layout.h"
 #include "rows/log_changes.h"
 #include "terminal/busy_line.h"
 #include "terminal/paragraph.h"
@@ -22,6 +24,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -188,11 +191,62 @@ std::vector<std::string> namelessChanges(const LogChanges &changes)
     return what;
 }
 
-/// Why the log changes nothing that could be listed; empty where it does.
+/// Up to where a damaged log is good; empty where it is not damaged.
+std::string damageOf(const WriteAheadLog &log)
+{
+    if (log.state != LogState::Damaged)
+        return "";
+    if (log.isHeaderDamaged)
+        return translate("The write-ahead log (-wal) has a damaged header, so nothing of it is "
+                         "shown.");
+    if (!log.isApplied())
+        return translate("The write-ahead log (-wal) is damaged: no commit of it is good, so "
+                         "nothing of it is shown.");
+    return translate("The write-ahead log (-wal) is damaged: it is good up to commit {0} of at "
+                     "least {1}.",
+                     log.commits, log.commits + log.lostCommits);
+}
+
+bool isGoodToItsEnd(const WriteAheadLog &log)
+{
+    return log.state == LogState::Good && !log.hasOpenChange && !log.endsInZeros;
+}
+
+std::string changesNothingShown(const WriteAheadLog &log)
+{
+    return isGoodToItsEnd(log)
+               ? translate("The write-ahead log (-wal) changes nothing that is shown.")
+               : translate("As far as it is good, the write-ahead log (-wal) changes nothing that "
+                           "is shown.");
+}
+
+std::string changesOnly(const WriteAheadLog &log, const std::string &what)
+{
+    return isGoodToItsEnd(log)
+               ? translate("The write-ahead log (-wal) changes {0} and nothing else that is shown.",
+                           what)
+               : translate("As far as it is good, the write-ahead log (-wal) changes {0} and "
+                           "nothing else that is shown.",
+                           what);
+}
+
+/// Whether a backup lists a log and does not hold it.
+bool isLogMissingFromBackup(const Library &library)
+{
+    const std::vector<SourceFinding> &missing = library.missing();
+    return std::any_of(missing.begin(), missing.end(), [](const SourceFinding &finding) {
+        return finding.kind == SourceProblem::BackupWithoutLog &&
+               finding.facts.back() == std::string(databaseBelowMedia) + "-wal";
+    });
+}
+
+/// Why the log changes nothing that could be listed; empty where it does, or its damage says why.
 std::string whyNoLogChanges(const Library &library, const LogChanges *changes)
 {
     switch (library.log().state) {
     case LogState::Missing:
+        if (isLogMissingFromBackup(library))
+            return translate("The write-ahead log (-wal) is missing from the backup.");
         return library.isBareStream()
                    ? translate("Whether there is a write-ahead log (-wal) is not known: none comes "
                                "through standard input.")
@@ -203,22 +257,21 @@ std::string whyNoLogChanges(const Library &library, const LogChanges *changes)
         return translate("The -wal is no write-ahead log, so nothing of it is shown.");
     case LogState::Damaged:
         if (!library.log().isApplied())
-            return translate("No commit of the write-ahead log (-wal) is good, so nothing of it is "
-                             "shown.");
+            return "";
         break;
     case LogState::Good:
         if (!library.log().isApplied())
-            return translate("The write-ahead log (-wal) holds no commit, so it changes nothing.");
+            return translate("No commit is seen in the write-ahead log (-wal): none was written, "
+                             "or it was cut or damaged. Nothing of it is shown.");
         break;
     }
     if (library.withoutLog() && !library.withoutLog()->isRead)
         return translate("What the write-ahead log (-wal) changes is not known: without it the "
                          "database cannot be read.");
     if (changes == nullptr || changes->isNone())
-        return translate("The write-ahead log (-wal) changes nothing that is shown.");
+        return changesNothingShown(library.log());
     if (!changes->hasNames())
-        return translate("The write-ahead log (-wal) changes {0} and nothing else that is shown.",
-                         listForPeople(namelessChanges(*changes)));
+        return changesOnly(library.log(), listForPeople(namelessChanges(*changes)));
     return "";
 }
 
@@ -271,29 +324,35 @@ std::vector<std::string> cellsOf(const LeftOutChange &change)
     return {translate("left out"), change.path, what, change.uuid};
 }
 
+void printLogChanges(const LogChanges &changes, const Screen &screen, std::ostream &out)
+{
+    TextTable table({{translate("IN THE LOG ONLY")},
+                     {translate("FILE"), TextTable::Align::Left, Elide::Left},
+                     {translate("WHAT")},
+                     {translate("UUID")}});
+    for (const AlbumDifference &album : changes.albums()) {
+        const DifferenceLine line = lineOf(album);
+        const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
+        table.add({line.change, line.name, line.what, latest.albumUuid});
+    }
+    for (const LogChange &change : changes.photos())
+        table.add(cellsOf(change));
+    for (const LeftOutChange &change : changes.leftOut())
+        table.add(cellsOf(change));
+    table.print(out, screen);
+}
+
 void printLog(const Library &library, const LogChanges *changes, const Screen &screen,
               std::ostream &out)
 {
     if (const std::string schema = schemaWithoutLog(library, changes); !schema.empty())
         printParagraph(out, screen, schema);
-    if (const std::string why = whyNoLogChanges(library, changes); !why.empty()) {
+    if (const std::string damage = damageOf(library.log()); !damage.empty())
+        printParagraph(out, screen, damage);
+    if (const std::string why = whyNoLogChanges(library, changes); !why.empty())
         printParagraph(out, screen, why);
-        return;
-    }
-    TextTable table({{translate("IN THE LOG ONLY")},
-                     {translate("FILE"), TextTable::Align::Left, Elide::Left},
-                     {translate("WHAT")},
-                     {translate("UUID")}});
-    for (const AlbumDifference &album : changes->albums()) {
-        const DifferenceLine line = lineOf(album);
-        const CAlbumGroup &latest = album.after != nullptr ? *album.after : *album.before;
-        table.add({line.change, line.name, line.what, latest.albumUuid});
-    }
-    for (const LogChange &change : changes->photos())
-        table.add(cellsOf(change));
-    for (const LeftOutChange &change : changes->leftOut())
-        table.add(cellsOf(change));
-    table.print(out, screen);
+    else if (library.log().isApplied())
+        printLogChanges(*changes, screen, out);
 }
 
 void printInfo(const Library &library, const Summary &summary, const LogChanges *changes,
@@ -319,9 +378,23 @@ std::unique_ptr<const LogChanges> logChangesOf(const Library &library, const Ter
     return std::make_unique<const LogChanges>(library);
 }
 
+/// Of a database that fits no known schema it prints what its makers need to know before it fails.
+std::unique_ptr<const Library> openOrDescribe(Session &session, const InfoRequest &request,
+                                              std::ostream &out)
+{
+    try {
+        return std::make_unique<const Library>(session, request.library);
+    } catch (const UnknownSchemaError &error) {
+        print(error.schema(), request.format, session.terminal.screenOf(out), out);
+        out.flush(); // before the line that says why
+        throw;
+    }
+}
+
 ExitStatus showInfo(const InfoRequest &request, Session &session, std::ostream &out)
 {
-    const Library library(session, request.library);
+    const auto opened = openOrDescribe(session, request, out);
+    const Library &library = *opened;
     printHowItWasRead(session.terminal, library);
     const Summary summary = summaryOf(AssetList(library.albums()), library.dates());
     const std::unique_ptr<const LogChanges> changes = logChangesOf(library, session.terminal);

@@ -46,6 +46,8 @@ Json accountOrNull(const Library &library, const Summary &summary)
         return {};
     const ProbedSchema &schema = library.schema();
     Json account = rowsOf(schema, *library.account());
+    account["untitledAlbums"] = library.account()->untitled.albums;
+    account["photosOfUntitledAlbums"] = library.account()->untitled.photos;
     account["foldedBurstFrames"] =
         schema.isUnknown("burstFrames") ? Json() : Json(summary.foldedFrames);
     return account;

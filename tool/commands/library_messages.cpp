@@ -61,6 +61,17 @@ std::string leftOutOf(const Library &library, Shown shown)
                : translate("left out: {0}", listForPeople(parts));
 }
 
+/// What is in albums without a title; empty if nothing.
+std::string untitledOf(const Library &library)
+{
+    const std::int64_t photos = library.account() ? library.account()->untitled.photos : 0;
+    if (photos == 0)
+        return "";
+    return translate("the catalogue does not read the contents of albums without a title: photos "
+                     "that are not shown in such albums: {0}; albums: {1}",
+                     photos, library.account()->untitled.albums);
+}
+
 /// What a good log leaves open: its end may be what a device wrote, or what damage made of it.
 std::vector<SourceProblem> doubtsAbout(const WriteAheadLog &log)
 {
@@ -86,6 +97,8 @@ void printHowItWasRead(const Terminal &terminal, const Library &library, const s
     if (const std::string line = inWords(library.passedOver()); !line.empty())
         terminal.printInfo(label + line);
     if (const std::string line = leftOutOf(library, shown); !line.empty())
+        terminal.printWarning(label + line);
+    if (const std::string line = untitledOf(library); !line.empty())
         terminal.printWarning(label + line);
     if (library.schema().warning)
         terminal.printWarning(label + inWords(*library.schema().warning).what());

@@ -43,6 +43,11 @@ constexpr Wording<SourceProblem> sourceWords[] = {
     {SourceProblem::LogIsNoLog, Incomplete,
      translatable("the -wal of '{0}' is no write-ahead log, so changes that it was to hold are "
                   "missing; copy it from the device or the backup again, its -wal with it")},
+    {SourceProblem::LogHeaderIsDamaged, Incomplete,
+     translatable(
+         "the -wal of '{0}' has a damaged header, so none of its commits (at least {1}) is "
+         "applied, and their changes are missing; copy it from the device or the backup "
+         "again, its -wal with it")},
     {SourceProblem::LogIsDamaged, Incomplete,
      translatable(
          "the -wal of '{0}' is damaged: it is good up to commit {1} of at least {2}; "
@@ -50,7 +55,7 @@ constexpr Wording<SourceProblem> sourceWords[] = {
          "with it")},
     {SourceProblem::LogIsCutShort, Incomplete,
      translatable("the -wal of '{0}' is damaged: it is good up to commit {1} of at least {1}, and "
-                  "what follows is no whole frame; later changes may be missing; copy it from the "
+                  "what follows is no sound frame; later changes may be missing; copy it from the "
                   "device or the backup again, its -wal with it")},
     {SourceProblem::LogEndsInOpenChange, Good,
      translatable("the -wal of '{0}' ends in a change without a commit, which is left out: either "
@@ -219,7 +224,8 @@ constexpr Wording<SchemaProblem> schemaWords[] = {
                   "the Photos.sqlite of a phone or backup")},
     {SchemaProblem::UnknownSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of no known schema: no iOS from {1} to {2} has these "
-                  "tables ({3}); look for a newer iosphoto, or run 'iosphoto info' on it and send "
+                  "tables and columns ({3}); look for a newer iosphoto, or run 'iosphoto info' on "
+                  "it and send "
                   "what that prints to the makers")},
     {SchemaProblem::NewerSchema, SchemaDoesNotFit,
      translatable("'{0}' is a photo database of iOS {1}, whose schema is not known yet ({2}); look "

@@ -4,9 +4,10 @@
 #include "text/system_error.h"
 #include "text/translate.h"
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -32,6 +33,24 @@ mode_t modeFor(const fs::path &file)
 /// Of a name that no user thinks of.
 constexpr const char prefix[] = ".iosphoto-unfinished-";
 
+/// What mkstemp() replaces.
+constexpr const char places[] = "XXXXXX";
+
+bool isCalledUnfinished(const std::string &name)
+{
+    constexpr std::size_t length = sizeof(prefix) - 1;
+    return name.size() == length + sizeof(places) - 1 && name.compare(0, length, prefix) == 0 &&
+           std::all_of(name.begin() + length, name.end(),
+                       [](unsigned char byte) { return std::isalnum(byte) != 0; });
+}
+
+/// Whether a file is for its owner alone, as mkstemp() makes it and few people do.
+bool isPrivate(int file)
+{
+    struct stat facts = {};
+    return fstat(file, &facts) == 0 && (facts.st_mode & 07777) == 0600;
+}
+
 bool isThere(int file)
 {
     struct stat facts = {};
@@ -42,8 +61,8 @@ bool isThere(int file)
 void removeIfOfTheDead(const fs::path &path)
 {
     const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (file.number() >= 0 && isOurs(file.number(), S_IFREG) && isOnOwnDisk(file.number()) &&
-        lockAsOwner(file.number()))
+    if (file.number() >= 0 && isOurs(file.number(), S_IFREG) && isPrivate(file.number()) &&
+        isOnOwnDisk(file.number()) && lockAsOwner(file.number()))
         unlink(path.c_str());
 }
 
@@ -76,9 +95,9 @@ void AtomicFile::finish()
 
 void AtomicFile::finishInFolder()
 {
-    if (fchmod(descriptor_, modeFor(file_)) != 0)
-        fail(errno);
     throwIf(syncFile(descriptor_)); // first, or a power cut might leave the name to an empty file
+    if (fchmod(descriptor_, modeFor(file_)) != 0) // last, as its mode tells one that was left
+        fail(errno);
     if (close(std::exchange(descriptor_, -1)) != 0)
         fail(errno);
     throwIf(temporary_.keepAs(file_));
@@ -88,7 +107,7 @@ fs::path AtomicFile::make()
 {
     constexpr int attempts = 100;
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        std::string name = (file_.parent_path() / prefix).string() + "XXXXXX";
+        std::string name = (file_.parent_path() / prefix).string() + places;
         Descriptor made(mkstemp(name.data()));
         if (made.number() < 0)
             fail(errno);
@@ -108,7 +127,7 @@ void removeUnfinishedFiles(const fs::path &folder)
     std::error_code error;
     for (fs::directory_iterator entry(folder.empty() ? "." : folder, error), end;
          !error && entry != end; entry.increment(error))
-        if (entry->path().filename().string().compare(0, std::strlen(prefix), prefix) == 0)
+        if (isCalledUnfinished(entry->path().filename().string()))
             removeIfOfTheDead(entry->path());
 }
 

@@ -68,15 +68,13 @@ public:
             return false;
         if (isInBackup(folder))
             return enterInBackup(folder);
-        if (const auto library = libraryAt(folder); library && paths_.insert(library->path).second)
-            libraries_.push_back(*library);
-        if (paths_.count(folder) == 0)
-            return true;
-        if (!isBackup(tree_, folder)) {
-            meetDatabaseBeside(folder);
+        if (isPhotoDataOfLibrary(folder))
             return false;
-        }
-        inBackups_.insert(folder);
+        const auto library = libraryAt(folder);
+        if (library && paths_.insert(library->path).second)
+            libraries_.push_back(*library);
+        if (library && library->kind == SourceKind::Backup)
+            inBackups_.insert(folder);
         return true;
     }
 
@@ -94,10 +92,7 @@ public:
 
     void meetLink(const std::string &path) override
     {
-        if (isCalledDatabase(nameOf(path)) && tree_.find(path))
-            meetFile(path);
-        else
-            passedOver_[PassedOver::Link].push_back(path);
+        passedOver_[PassedOver::Link].push_back(path);
     }
 
     /// To be called at the end.
@@ -115,22 +110,39 @@ public:
 private:
     std::optional<FoundLibrary> libraryAt(const std::string &folder) const
     {
+        // First, as a media folder in it is found all the same, when that is looked into.
+        if (isBackup(tree_, folder))
+            return FoundLibrary{SourceKind::Backup, folder};
         for (const char *const place : mediaPlaces) {
             const std::string media = joinedPath(folder, place);
             const std::string database = joinedPath(media, databaseBelowMedia);
-            if (tree_.find(database) && !isOfSystem(database))
+            if (!isOfSystem(database) && isThere(database, folder))
                 return FoundLibrary{SourceKind::MediaFolder, media};
             if (folder != top_) // below, each place is a folder that is looked into
                 break;
         }
-        if (isBackup(tree_, folder))
-            return FoundLibrary{SourceKind::Backup, folder};
         return std::nullopt;
+    }
+
+    /// Whether there is a file that no link in the folder leads to.
+    bool isThere(const std::string &path, const std::string &folder) const
+    {
+        for (std::string part = path; part.size() > folder.size(); part = parentOf(part))
+            if (tree_.isLink(part))
+                return false;
+        return tree_.find(path).has_value();
     }
 
     bool isInBackup(const std::string &folder) const
     {
         return folder != top_ && inBackups_.count(parentOf(folder)) != 0;
+    }
+
+    /// Whether a folder is that in a media folder which holds its database.
+    bool isPhotoDataOfLibrary(const std::string &folder) const
+    {
+        return nameOf(folder) == parentOf(databaseBelowMedia) &&
+               paths_.count(parentOf(folder)) != 0;
     }
 
     /// Looks for libraries that do not belong there.
@@ -144,13 +156,6 @@ private:
         else
             inBackups_.insert(folder);
         return !library;
-    }
-
-    /// In a media folder, which is not looked into.
-    void meetDatabaseBeside(const std::string &folder)
-    {
-        if (const std::string path = joinedPath(folder, databaseName); tree_.find(path))
-            meetFile(path);
     }
 
     const FileTree &tree_;

@@ -14,7 +14,7 @@ enum class PassedOver {
     NestedLibrary,   ///< in a backup
     Archive,         ///< in a folder
     PackedArchive,   ///< in an archive
-    Link,            ///< to anything but a database
+    Link,            ///< to anything
     SystemDatabase,  ///< such as that of photos which others sent
     OtherDatabase,   ///< by its name no library, where there are some
     NoPhotoDatabase, ///< by its content

@@ -5,7 +5,9 @@
 #include "terminal/busy_line.h"
 #include "text/translate.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -85,8 +87,18 @@ std::string assetTableOf(const CopyDatabase &database)
 
 bool hasPhotoTables(const CopyDatabase &database)
 {
-    return database.hasTable("Z_PRIMARYKEY") && database.hasTable("ZGENERICALBUM") &&
-           database.hasTable("ZADDITIONALASSETATTRIBUTES") && !assetTableOf(database).empty();
+    const std::string assets = assetTableOf(database);
+    if (assets.empty())
+        return false;
+    const auto hasAll = [](const auto &names, const auto &has) {
+        return std::all_of(std::begin(names), std::end(names), has);
+    };
+    constexpr const char *others[] = {"Z_PRIMARYKEY", "ZGENERICALBUM",
+                                      "ZADDITIONALASSETATTRIBUTES"};
+    constexpr const char *columnsOfFiles[] = {"Z_PK", "ZDIRECTORY", "ZFILENAME"};
+    return hasAll(others, [&](const char *table) { return database.hasTable(table); }) ||
+           hasAll(columnsOfFiles,
+                  [&](const char *column) { return database.hasColumn(assets, column); });
 }
 
 bool hasPhotoTablesOfOldIos(const CopyDatabase &database)

@@ -14,7 +14,8 @@ namespace iosphoto::tool {
 /// "ZASSET", or before iOS 14 "ZGENERICASSET"; empty in a database without photos.
 std::string assetTableOf(const CopyDatabase &database);
 
-/// Whether it has the tables of every library from iOS 6 on.
+/// Whether it has the tables of every library from iOS 6 on, or one of files that are assets, as a
+/// library of an iOS that is not known may.
 bool hasPhotoTables(const CopyDatabase &database);
 /// Whether it has those of iOS 5 and earlier.
 bool hasPhotoTablesOfOldIos(const CopyDatabase &database);

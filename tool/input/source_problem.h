@@ -13,6 +13,7 @@ enum class SourceProblem {
     UncountedPhotos,        ///< source, why its photos could not be counted
     NoPhotoDatabase,        ///< source, of which the name alone says that it is one
     LogIsNoLog,             ///< database; its -wal is something else
+    LogHeaderIsDamaged,     ///< database, the commits that there are at least
     LogIsDamaged,           ///< database, the commits that are good, those that there are at least
     LogIsCutShort,          ///< database, the commits that are good
     LogEndsInOpenChange,    ///< database; nothing is missing if the device gave the change up

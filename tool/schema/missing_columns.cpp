@@ -33,14 +33,21 @@ std::string nameOf(const CopyDatabase &database, TableOfColumns table)
     return table == TableOfColumns::Albums ? albums : assetTableOf(database);
 }
 
+constexpr char beginningOfColumn[] = "no such column: ";
+constexpr char beginningOfTable[] = "no such table: ";
+
+bool startsWith(const std::string &text, const std::string &beginning)
+{
+    return text.compare(0, beginning.size(), beginning) == 0;
+}
+
 /// The column that SQLite says it misses; nothing where it is essential, or something else is
 /// wrong.
 std::optional<MissingColumn> columnMissedBy(const CopyDatabase &database, const std::string &words)
 {
-    const std::string beginning = "no such column: ";
-    if (words.compare(0, beginning.size(), beginning) != 0)
+    if (!startsWith(words, beginningOfColumn))
         return std::nullopt;
-    const std::string name = words.substr(beginning.size());
+    const std::string name = nameMissedIn(words);
     const std::size_t dot = name.find('.');
     const auto table = tableNamed(database, name.substr(0, std::min(dot, name.size())));
     const OptionalColumn *column = nullptr;
@@ -59,6 +66,18 @@ void add(const CopyDatabase &database, const MissingColumn &missing)
                                  missing.column->name, missing.column->standIn));
 }
 
+/// The columns that no statement misses where they are gone.
+void addUnasked(const CopyDatabase &database, std::vector<MissingColumn> &columns)
+{
+    for (const OptionalColumn &column : optionalColumns()) {
+        const MissingColumn missing = {nameOf(database, column.table), &column};
+        if (column.isReadByStatements || database.hasColumn(missing.table, column.name))
+            continue;
+        add(database, missing);
+        columns.push_back(missing);
+    }
+}
+
 void addOnce(std::vector<std::string> &names, const std::vector<const char *> &more)
 {
     for (const char *const name : more)
@@ -66,7 +85,80 @@ void addOnce(std::vector<std::string> &names, const std::vector<const char *> &m
             names.emplace_back(name);
 }
 
+/// Gives a copy all that statements miss, whatever it is, and keeps the names.
+class Completion
+{
+public:
+    explicit Completion(const CopyDatabase &database) : database_(database) {}
+
+    void complete(const std::string &statement)
+    {
+        for (std::string words = database_.misfitOf(statement); !words.empty() && give(words);
+             words = database_.misfitOf(statement)) {
+        }
+    }
+
+    const std::vector<std::string> &missing() const { return missing_; }
+
+private:
+    /// @return whether that could help
+    bool give(const std::string &words)
+    {
+        const std::string name = nameMissedIn(words);
+        if (startsWith(words, beginningOfTable)) {
+            missing_.push_back(name);
+            tables_.push_back(name);
+            database_.execute(fmt::format("create table {} (Z_PK)", name));
+            return true;
+        }
+        return startsWith(words, beginningOfColumn) && giveColumn(name);
+    }
+
+    bool giveColumn(const std::string &name)
+    {
+        const std::size_t dot = name.find('.');
+        const std::string column = dot == std::string::npos ? name : name.substr(dot + 1);
+        const std::string table = dot == std::string::npos ? tableFor(name) : name.substr(0, dot);
+        if (!database_.hasTable(table) || database_.hasColumn(table, column))
+            return false;
+        database_.execute(fmt::format("alter table {} add column {}", table, column));
+        if (std::find(tables_.begin(), tables_.end(), table) == tables_.end())
+            missing_.push_back(fmt::format("{}.{}", table, column));
+        return true;
+    }
+
+    /// What every library has, and the statements ask for by the name alone, is of the assets.
+    std::string tableFor(const std::string &column) const
+    {
+        const OptionalColumn *const known = findOptionalColumn(column);
+        return known != nullptr ? nameOf(database_, known->table) : assetTableOf(database_);
+    }
+
+    const CopyDatabase &database_;
+    std::vector<std::string> tables_; ///< that were given
+    std::vector<std::string> missing_;
+};
+
 } // namespace
+
+std::string nameMissedIn(const std::string &words)
+{
+    for (const char *const beginning : {beginningOfColumn, beginningOfTable})
+        if (startsWith(words, beginning))
+            return words.substr(std::string(beginning).size());
+    return words;
+}
+
+std::vector<std::string> findMissingNames(const CopyDatabase &database,
+                                          const EntityNumbers &numbers, const Device &device)
+{
+    database.execute("begin");
+    Completion completion(database);
+    for (const StatementVariant *const variant : statementsFor(device))
+        completion.complete(filledIn(*variant, numbers).toStdString());
+    database.execute("rollback");
+    return completion.missing();
+}
 
 std::pair<std::size_t, std::size_t> SchemaGaps::loss(const std::string &iosVersion) const
 {
@@ -91,6 +183,7 @@ SchemaGaps addMissingColumns(const CopyDatabase &database, const EntityNumbers &
             gaps.columns.push_back(*missing);
         }
     }
+    addUnasked(database, gaps.columns);
     return gaps;
 }
 

@@ -12,7 +12,7 @@
 
 namespace iosphoto::tool {
 
-/// A column that the statements of a device read and a database lacks.
+/// A column that a database lacks and that would be read.
 struct MissingColumn
 {
     std::string table; ///< as the database calls it
@@ -39,6 +39,14 @@ SchemaGaps addMissingColumns(const CopyDatabase &database, const EntityNumbers &
 /// The same, and leaves the copy as it was.
 SchemaGaps findGaps(const CopyDatabase &database, const EntityNumbers &numbers,
                     const Device &device);
+
+/// The tables, such as "Z_30ASSETS", and columns of others, such as "ZASSET.ZUUID", that the
+/// statements of a device ask for and a database lacks. Leaves the copy as it was.
+std::vector<std::string> findMissingNames(const CopyDatabase &database,
+                                          const EntityNumbers &numbers, const Device &device);
+
+/// The name in SQLite's words for a table or column that is not there.
+std::string nameMissedIn(const std::string &words);
 
 /// The keys of the fields that cannot be known of a library of that iOS, each once.
 std::vector<std::string> fieldsLostWith(const std::vector<MissingColumn> &missing,

@@ -12,6 +12,9 @@ std::optional<SourceFinding> missingOf(const WriteAheadLog &log, const std::stri
         return SourceFinding{SourceProblem::LogIsNoLog, {database}};
     if (log.state != LogState::Damaged)
         return std::nullopt;
+    if (log.isHeaderDamaged)
+        return SourceFinding{SourceProblem::LogHeaderIsDamaged,
+                             {database, std::to_string(log.lostCommits)}};
     const std::string commits = std::to_string(log.commits);
     if (log.lostCommits == 0)
         return SourceFinding{SourceProblem::LogIsCutShort, {database, commits}};

@@ -25,6 +25,7 @@ const std::vector<OptionalColumn> columns = {
     {Table::Assets,     "ZTRASHEDSTATE",             "0",    {"trashed", "goes", "daysLeft", "isDeleted"}, always, Problem::UnknownTrash, {"trashedTooLong", "trashedWithoutDate"}},
     {Table::Assets,     "ZTRASHEDDATE",       neverEnding,   {"trashed", "goes", "daysLeft"}, always, Problem::UnknownTrashDates, {"trashedTooLong", "trashedWithoutDate"}},
     {Table::Assets,     "ZUNIFORMTYPEIDENTIFIER",    "null", {"mediaKind", "isVideo", "isTimelapse", "isSlomo", "isScreenRecording"}, always},
+    {Table::Assets,     "ZKIND",                     "null", {"mediaKind", "isVideo", "isTimelapse", "isSlomo", "isScreenRecording"}, always, std::nullopt, {}, false},
     {Table::Assets,     "ZKINDSUBTYPE",              "null", {"isVideo", "isTimelapse", "isSlomo", "isScreenRecording", "isPanorama", "isScreenshot"}, always},
     {Table::Assets,     "ZAVALANCHEPICKTYPE",        "null", {"burstUuid", "burstCount", "burstFrames", "isBurstPick", "isBurst"}, always, Problem::UnknownBursts, {"burstFrame"}},
     {Table::Assets,     "ZAVALANCHEUUID",            "null", {"burstUuid", "burstCount", "burstFrames"}, always, Problem::UnknownBursts},
@@ -81,7 +82,9 @@ const OptionalColumn *findOptionalColumn(TableOfColumns table, const std::string
 
 const OptionalColumn *findOptionalColumn(const std::string &name)
 {
-    return findColumn([&](const OptionalColumn &column) { return name == column.name; });
+    return findColumn([&](const OptionalColumn &column) {
+        return column.isReadByStatements && name == column.name;
+    });
 }
 
 const std::vector<OptionalColumn> &optionalColumns()

@@ -1,4 +1,4 @@
-/// The columns that the statements read and a library can be read without.
+/// The columns that the statements, or the tool by itself, read and a library can be read without.
 #ifndef IOSPHOTO_TOOL_OPTIONAL_COLUMNS_H
 #define IOSPHOTO_TOOL_OPTIONAL_COLUMNS_H
 
@@ -26,12 +26,13 @@ struct OptionalColumn
     std::optional<SchemaProblem> ofRows = std::nullopt;
     /// The names for machines of the reasons to leave a row out that it tells.
     std::vector<const char *> reasons = {};
+    bool isReadByStatements = true; ///< or only where the tool asks what a photo is
 };
 
 /// Null for a column that is none of them, as nothing can be read without it.
 const OptionalColumn *findOptionalColumn(TableOfColumns table, const std::string &name);
 
-/// The same by the name alone, of whichever table the statements read it.
+/// The same by the name alone, as the statements read it of whichever table.
 const OptionalColumn *findOptionalColumn(const std::string &name);
 
 const std::vector<OptionalColumn> &optionalColumns();

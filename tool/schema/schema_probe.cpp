@@ -2,6 +2,7 @@
 
 #include "formats/versions.h"
 #include "input/photo_databases.h"
+#include "schema/unknown_schema.h"
 #include "text/lists.h"
 #include "text/translate.h"
 
@@ -151,20 +152,24 @@ std::string fittingIos(const ProbedSchema &probed, const KnownSchema &schema)
 }
 
 /// @param essential  what is missing, in SQLite's words
-SchemaError noFit(const CopyDatabase &database, const ProbedSchema &probed,
-                  const KnownSchema *schema, const std::string &essential)
+[[noreturn]] void throwNoFit(const CopyDatabase &database, const ProbedSchema &probed,
+                             const KnownSchema *schema, const std::string &essential)
 {
     if (schema != nullptr)
-        return {SchemaProblem::OtherDevice,
-                {database.shownName(), probed.device.iosVersion, probed.device.productType,
-                 fittingIos(probed, *schema), schema->productType}};
+        throw SchemaError(SchemaProblem::OtherDevice,
+                          {database.shownName(), probed.device.iosVersion,
+                           probed.device.productType, fittingIos(probed, *schema),
+                           schema->productType});
+    const UnknownSchema unknown = describeUnknown(database, probed.metadata, probed.numbers);
     const std::optional<int> major = probed.metadata.iosMajor();
     if (major && *major > newestSchema().lastIos)
-        return {SchemaProblem::NewerSchema,
-                {database.shownName(), std::to_string(*major), essential}};
-    return {SchemaProblem::UnknownSchema,
-            {database.shownName(), std::to_string(oldestSchema().firstIos),
-             std::to_string(newestSchema().lastIos), essential}};
+        throw UnknownSchemaError(SchemaProblem::NewerSchema,
+                                 {database.shownName(), std::to_string(*major), essential},
+                                 unknown);
+    throw UnknownSchemaError(SchemaProblem::UnknownSchema,
+                             {database.shownName(), std::to_string(oldestSchema().firstIos),
+                              std::to_string(newestSchema().lastIos), essential},
+                             unknown);
 }
 
 /// The system with whose statements the least is lost, the newest of these.
@@ -214,9 +219,10 @@ void fillGaps(const CopyDatabase &database, ProbedSchema &probed, const KnownSch
         probed.iosOrigin = DeviceOrigin::Schema;
         probed.iosWhy = translate("the nearest by its tables and columns");
     }
+    const std::string essential = findGaps(database, probed.numbers, probed.device).essential;
+    if (!essential.empty())
+        throwNoFit(database, probed, schema, essential);
     const SchemaGaps gaps = addMissingColumns(database, probed.numbers, probed.device);
-    if (!gaps.essential.empty())
-        throw noFit(database, probed, schema, gaps.essential);
     probed.missingColumns = gaps.columns;
     probed.unknownFields = fieldsLostWith(gaps.columns, probed.device.iosVersion);
     probed.unknownReasons = reasonsLostWith(gaps.columns);
@@ -274,16 +280,15 @@ ProbedSchema probe(const CopyDatabase &database, const Device &wanted, const Rec
     ProbedSchema probed;
     probed.metadata = readStoreMetadata(database);
     if (const std::string missing = missingForEntityNumbers(database); !missing.empty())
-        throw noFit(database, probed, nullptr, missing);
+        throwNoFit(database, probed, nullptr, missing);
     probed.numbers = readEntityNumbers(database);
     const KnownSchema *const schema = schemaOf(database, probed);
     decideIos(probed, wanted, says, schema);
     decideProduct(probed, wanted, says, schema);
     const bool mayBeAMistake = schema != nullptr && probed.iosOrigin == DeviceOrigin::User;
-    if (!mayBeAMistake)
-        fillGaps(database, probed, schema);
-    else if (!statementsFit(database, probed.numbers, probed.device))
-        throw noFit(database, probed, schema, "");
+    if (mayBeAMistake && !statementsFit(database, probed.numbers, probed.device))
+        throwNoFit(database, probed, schema, "");
+    fillGaps(database, probed, schema);
     probed.warning = disagreement(probed, schema);
     probed.name = schema != nullptr ? schema->name() : "iOS " + probed.device.iosVersion;
     probed.shownName = schema != nullptr ? schema->shownName() : probed.name;

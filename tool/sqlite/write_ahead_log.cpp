@@ -17,6 +17,7 @@ constexpr std::size_t saltSize = 4; // there are two
 /// Where the parts of the header are.
 namespace header {
 constexpr std::size_t magic = 0;
+constexpr std::uint32_t magicNumber = 0x377f0682; ///< or one more
 constexpr std::size_t pageSize = 8;
 constexpr std::size_t salts = 16;
 constexpr std::size_t sum = 24;
@@ -49,6 +50,13 @@ public:
     void add(std::string_view bytes)
     {
         isSwapped_ ? addWords<true>(bytes) : addWords<false>(bytes);
+    }
+
+    /// Goes on from a sum that is stored.
+    void goOnFrom(std::string_view bytes, std::size_t at)
+    {
+        first_ = bigEndian(bytes, at);
+        second_ = bigEndian(bytes, at + 4);
     }
 
     bool isAt(std::string_view bytes, std::size_t at) const
@@ -87,11 +95,18 @@ void read(std::istream &file, std::string &bytes)
     bytes.resize(static_cast<std::size_t>(file.gcount()));
 }
 
+constexpr std::uint32_t smallestPage = 512;
+constexpr std::uint32_t largestPage = 65536;
+
 bool isPageSize(std::uint32_t size)
 {
-    constexpr std::uint32_t smallest = 512;
-    constexpr std::uint32_t largest = 65536;
-    return size >= smallest && size <= largest && (size & (size - 1)) == 0;
+    return size >= smallestPage && size <= largestPage && (size & (size - 1)) == 0;
+}
+
+bool hasMagic(std::string_view head)
+{
+    return head.size() == header::size &&
+           (bigEndian(head, header::magic) & ~1U) == header::magicNumber;
 }
 
 /// Goes through the frames of a log one by one, as SQLite does before it applies them, and on
@@ -102,15 +117,43 @@ public:
     /// Whether the header is one. The frames follow it.
     bool begin(std::string_view head)
     {
-        constexpr std::uint32_t magic = 0x377f0682;
-        if (head.size() < header::size || (bigEndian(head, header::magic) & ~1U) != magic ||
-            !isPageSize(bigEndian(head, header::pageSize)))
+        if (!hasMagic(head) || !isPageSize(bigEndian(head, header::pageSize)))
             return false;
         frameSize_ = frame::size + bigEndian(head, header::pageSize);
         salts_ = head.substr(header::salts, 2 * saltSize);
         sum_ = Checksum((bigEndian(head, header::magic) & 1U) != 0);
         sum_.add(head.substr(0, header::sum));
         return sum_.isAt(head, header::sum);
+    }
+
+    /// Goes by what a damaged header says. SQLite applies none of its frames.
+    void beginWithDamagedHeader(std::string_view head)
+    {
+        frameSize_ = frame::size + bigEndian(head, header::pageSize);
+        salts_ = head.substr(header::salts, 2 * saltSize);
+        isGood_ = false;
+        isTorn_ = true;
+    }
+
+    /// Whether frames follow what may be no header: one goes on from the sum that the header or
+    /// the frame before stores. SQLite applies none of them.
+    /// @param frames  the first two or more of pages of this size
+    bool beginWithoutHeader(std::string_view head, std::string_view frames, std::uint32_t pageSize,
+                            bool isBigEndian)
+    {
+        *this = FrameWalk();
+        isGood_ = false;
+        isTorn_ = true;
+        frameSize_ = frame::size + pageSize;
+        sum_ = Checksum(isBigEndian);
+        if (frames.size() < frameSize_)
+            return false;
+        salts_ = frames.substr(frame::salts, 2 * saltSize);
+        sum_.goOnFrom(head, header::sum);
+        if (isNext(frames.substr(0, frameSize_)))
+            return true;
+        sum_.goOnFrom(frames, frame::sum);
+        return isNext(frames.substr(frameSize_, frameSize_));
     }
 
     std::size_t frameSize() const { return frameSize_; }
@@ -128,13 +171,14 @@ public:
 
     WriteAheadLog result() const
     {
-        const bool isDamaged = lostCommits_ > 0 || isTorn_;
+        const bool isDamaged = lostCommits_ > 0 || isTorn_ || leftOver_ == 1;
         return {isDamaged ? LogState::Damaged : LogState::Good,
                 commits_,
                 lostCommits_,
                 isOpen_,
                 areZeros_,
-                frames_};
+                frames_,
+                false};
     }
 
 private:
@@ -142,7 +186,7 @@ private:
     bool isNext(std::string_view bytes)
     {
         if (bytes.size() < frameSize_ || bigEndian(bytes, frame::pageNumber) == 0 ||
-            bytes.substr(frame::salts, 2 * saltSize) != salts_)
+            !hasSalts(bytes))
             return false;
         sum_.add(bytes.substr(0, frame::salts));
         sum_.add(bytes.substr(frame::size));
@@ -160,12 +204,31 @@ private:
             return;
         isTorn_ = isTorn_ || (wereZeros && !isBehindEarlierLog_);
         if (isOfThisLog(bytes))
-            count(bytes, lostCommits_);
+            takeLeftOver(bytes);
         else if (isOfEarlierLog(bytes))
             isBehindEarlierLog_ = true;
         else if (!isBehindEarlierLog_)
             isTorn_ = true;
-        isTorn_ = isTorn_ || (bytes.size() < frameSize_ && isOfThisLog(bytes));
+    }
+
+    /// A change that was given up is overwritten from its first frame on. What is left of it are
+    /// whole frames, and the sum of each but the first goes on from the one stored before it. One
+    /// alone cannot be told from a damaged frame.
+    void takeLeftOver(std::string_view bytes)
+    {
+        count(bytes, lostCommits_);
+        const bool goesOn = leftOver_ > 0 && isNext(bytes);
+        const bool mayBeLeft = bytes.size() == frameSize_ && hasSalts(bytes) && frames_ > 1 &&
+                               !isBehindEarlierLog_ && (goesOn || leftOver_ != 1);
+        isTorn_ = isTorn_ || !mayBeLeft;
+        leftOver_ = goesOn ? leftOver_ + 1 : 1;
+        if (mayBeLeft)
+            sum_.goOnFrom(bytes, frame::sum);
+    }
+
+    bool hasSalts(std::string_view bytes) const
+    {
+        return bytes.substr(frame::salts, 2 * saltSize) == salts_;
     }
 
     /// A frame that is cut off may begin with zeros too: those of its page number, which is not 0.
@@ -211,10 +274,52 @@ private:
     bool isTorn_ = false;             ///< this log goes on in what is no frame, or half of one
     bool areZeros_ = false;           ///< the last frame
     bool isBehindEarlierLog_ = false; ///< which this one did not overwrite, so it ends before
+    std::int64_t leftOver_ = 0; ///< frames in a row that go on from each other, of no good change
     std::int64_t frames_ = 0;
     std::int64_t commits_ = 0;
     std::int64_t lostCommits_ = 0;
 };
+
+/// Whether frames of any size follow a header that is damaged, or is none.
+bool beginWithoutHeader(FrameWalk &walk, std::string_view head, std::string_view frames)
+{
+    if (head.size() < header::size)
+        return false;
+    for (std::uint32_t size = smallestPage; size <= largestPage; size *= 2)
+        for (const bool isBigEndian : {false, true})
+            if (walk.beginWithoutHeader(head, frames, size, isBigEndian))
+                return true;
+    walk = FrameWalk();
+    const bool isLog = hasMagic(head) && isPageSize(bigEndian(head, header::pageSize));
+    if (isLog)
+        walk.beginWithDamagedHeader(head);
+    return isLog;
+}
+
+WriteAheadLog readToTheEnd(std::istream &in, FrameWalk &walk)
+{
+    std::string bytes;
+    for (bytes.resize(walk.frameSize()); read(in, bytes), !bytes.empty();
+         bytes.resize(walk.frameSize()))
+        walk.take(bytes);
+    return walk.result();
+}
+
+/// What stands behind a header that is none.
+WriteAheadLog readWithoutHeader(std::istream &in, const std::string &head)
+{
+    WriteAheadLog log = {hasMagic(head) ? LogState::Damaged : LogState::NoLog};
+    std::string frames(2 * (frame::size + largestPage), '\0');
+    read(in, frames);
+    FrameWalk walk;
+    if (beginWithoutHeader(walk, head, frames)) {
+        in.clear();
+        in.seekg(header::size);
+        log = readToTheEnd(in, walk);
+    }
+    log.isHeaderDamaged = log.state == LogState::Damaged;
+    return log;
+}
 
 } // namespace
 
@@ -234,12 +339,7 @@ WriteAheadLog readWriteAheadLog(const std::filesystem::path &file)
     if (bytes.empty())
         return {LogState::Empty};
     FrameWalk walk;
-    if (!walk.begin(bytes))
-        return {LogState::NoLog};
-    for (bytes.resize(walk.frameSize()); read(in, bytes), !bytes.empty();
-         bytes.resize(walk.frameSize()))
-        walk.take(bytes);
-    return walk.result();
+    return walk.begin(bytes) ? readToTheEnd(in, walk) : readWithoutHeader(in, bytes);
 }
 
 } // namespace iosphoto::tool

@@ -10,7 +10,7 @@ enum class LogState {
     Missing, ///< there is no file
     Empty,   ///< of 0 bytes
     NoLog,   ///< the file is something else
-    Damaged, ///< a change behind its commits cannot be read, or its end is cut off
+    Damaged, ///< a change behind its commits cannot be read, or its end is cut off, or its header
     Good,
 };
 
@@ -27,6 +27,7 @@ struct WriteAheadLog
     bool hasOpenChange = false;   ///< whether it ends in a change of which no commit is seen
     bool endsInZeros = false; ///< frames, or a part of one, that a copy may have been padded with
     std::int64_t frames = 0;  ///< whole or not, whatever they hold
+    bool isHeaderDamaged = false; ///< so that SQLite applies no commit
 
     bool isApplied() const { return commits > 0; }
 };

@@ -99,3 +99,19 @@ TEST_F(UnfinishedFile, ThatIsSomethingElseOfTheSameNameStays)
     removeUnfinishedFiles(folder_.path());
     EXPECT_TRUE(fs::is_directory(name));
 }
+
+TEST_F(UnfinishedFile, OfTheUserStays)
+{
+    for (const char *const name :
+         {".iosphoto-unfinished-photos", ".iosphoto-unfinished-", ".iosphoto-unfinished-my.txt"}) {
+        const fs::path file = folder_ / name;
+        writeFile(file, "kept");
+        fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write |
+                                  fs::perms::group_read | fs::perms::others_read);
+    }
+    const fs::path longer = folder_ / ".iosphoto-unfinished-holiday";
+    writeFile(longer, "kept");
+    fs::permissions(longer, fs::perms::owner_read | fs::perms::owner_write);
+    removeUnfinishedFiles(folder_.path());
+    EXPECT_EQ(count(), 4);
+}

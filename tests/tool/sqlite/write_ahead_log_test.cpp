@@ -83,10 +83,32 @@ TEST_F(ToolWriteAheadLog, IsGoodToItsEnd)
     EXPECT_EQ(read(log_.substr(0, headerSize)), (WriteAheadLog{LogState::Good, 0, 0, false}));
 }
 
-TEST_F(ToolWriteAheadLog, IsKnownByItsHeader)
+TEST_F(ToolWriteAheadLog, WithADamagedHeaderIsKnownByItsFrames)
 {
-    for (std::size_t byte = 0; byte < headerSize; ++byte)
-        EXPECT_EQ(read(changed(byte)), (WriteAheadLog{LogState::NoLog})) << byte;
+    const std::size_t one = at(1);
+    for (std::size_t byte = 0; byte < headerSize; ++byte) {
+        const WriteAheadLog damaged = read(changed(byte));
+        EXPECT_EQ(damaged, (WriteAheadLog{LogState::Damaged, 0, 4})) << byte;
+        EXPECT_TRUE(damaged.isHeaderDamaged);
+        EXPECT_EQ(damaged.frames, static_cast<std::int64_t>(frames()));
+        EXPECT_EQ(read(changed(byte).substr(0, one)), (WriteAheadLog{LogState::Damaged, 0, 1}))
+            << byte;
+    }
+    EXPECT_EQ(read(std::string(headerSize, 'x') + log_.substr(headerSize)),
+              (WriteAheadLog{LogState::Damaged, 0, 4}));
+    EXPECT_FALSE(read(changed(at(0) + 100)).isHeaderDamaged);
+    EXPECT_FALSE(read(log_).isHeaderDamaged);
+}
+
+TEST_F(ToolWriteAheadLog, IsKnownByItsHeaderOrItsFrames)
+{
+    EXPECT_EQ(read(changed(24).substr(0, headerSize)), (WriteAheadLog{LogState::Damaged}));
+    EXPECT_EQ(read(changed(0).substr(0, headerSize)), (WriteAheadLog{LogState::NoLog}));
+    for (const char byte : {'\0', 'x'}) {
+        EXPECT_EQ(read(std::string(log_.size(), byte)), (WriteAheadLog{LogState::NoLog}));
+        EXPECT_EQ(read(changed(0).substr(0, headerSize) + std::string(log_.size(), byte)),
+                  (WriteAheadLog{LogState::NoLog}));
+    }
     EXPECT_EQ(read(log_.substr(0, headerSize - 1)), (WriteAheadLog{LogState::NoLog}));
     EXPECT_EQ(read(""), (WriteAheadLog{LogState::Empty}));
     EXPECT_EQ(readWriteAheadLog(folder_ / "missing"), (WriteAheadLog{LogState::Missing}));
@@ -172,6 +194,50 @@ TEST_F(ToolWriteAheadLog, FramesOfAChangeThatWasGivenUpAreNoDamage)
     std::string log = log_.substr(0, at(3)) + log_.substr(at(4));
     log.resize(log.size() - frameSize);
     EXPECT_EQ(read(log), (WriteAheadLog{LogState::Good, 3, 0, true}));
+}
+
+TEST_F(ToolWriteAheadLog, WhatSqliteLeavesOfAChangeThatWasGivenUpIsNoDamage)
+{
+    library_.execute("pragma cache_size = 5");
+    library_.execute("begin; insert into other select zeroblob(20000) from "
+                     "(values (1), (2), (3), (4), (5), (6)); rollback");
+    library_.execute("update other set a = 5 where a = 3");
+    const std::string log = readFile(library_.path() + "-wal");
+    ASSERT_GT(log.size(), log_.size() + 10 * frameSize) << "it was in the log";
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Good, 5, 0, true}));
+    EXPECT_EQ(read(log.substr(0, log.size() - 1)).state, LogState::Damaged);
+}
+
+TEST_F(ToolWriteAheadLog, OneFrameThatDoesNotGoOnIsDamage)
+{
+    // Nothing tells it from what is left of a change that was given up, so the worse is taken.
+    const std::string change = log_.substr(at(4), frameSize);
+    EXPECT_EQ(read(log_.substr(0, at(3)) + change), (WriteAheadLog{LogState::Damaged, 3, 0, true}));
+    EXPECT_EQ(read(log_.substr(0, at(3)) + change + std::string(frameSize, '\0')),
+              (WriteAheadLog{LogState::Damaged, 3, 0, true, true}));
+    EXPECT_EQ(read(log_.substr(0, at(3)) + change + change),
+              (WriteAheadLog{LogState::Damaged, 3, 0, true}));
+    std::string log = log_;
+    for (std::size_t byte = 0; byte < 4; ++byte)
+        log.at(at(frames() - 1) + 4 + byte) = '\0';
+    EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 3, 0, true})) << "the last mark is lost";
+}
+
+TEST_F(ToolWriteAheadLog, HalfAFrameBeforeZerosIsDamage)
+{
+    for (const std::size_t half : {16U, 24U, 2000U, 4000U}) {
+        std::string log = log_;
+        log.replace(at(4) + half, std::string::npos, log.size() - at(4) - half, '\0');
+        EXPECT_EQ(read(log), (WriteAheadLog{LogState::Damaged, 3, 0, true, true})) << half;
+    }
+}
+
+TEST_F(ToolWriteAheadLog, FramesBehindTheHeaderThatDoNotGoOnFromItAreDamage)
+{
+    const std::string change = log_.substr(at(4), at(frames() - 1) - at(4));
+    ASSERT_GT(change.size(), 2 * frameSize);
+    EXPECT_EQ(read(log_.substr(0, headerSize) + change),
+              (WriteAheadLog{LogState::Damaged, 0, 0, true}));
 }
 
 TEST_F(ToolWriteAheadLog, FramesOfAnEarlierLogBehindItAreNoDamage)

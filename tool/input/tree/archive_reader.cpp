@@ -12,6 +12,7 @@
 #include <array>
 #include <cerrno>
 #include <string_view>
+#include <utility>
 
 namespace iosphoto::tool {
 
@@ -87,8 +88,8 @@ Utf8Locale::~Utf8Locale()
         freelocale(utf8_);
 }
 
-ArchiveReader::ArchiveReader(const fs::path &file)
-    : file_(file), source_(file), archive_(newReader())
+ArchiveReader::ArchiveReader(const fs::path &file, std::string shownName)
+    : shownName_(std::move(shownName)), source_(file), archive_(newReader())
 {
     if (open(archive_.get(), file, source_) != ARCHIVE_OK)
         throw damaged();
@@ -156,7 +157,7 @@ void ArchiveReader::copyTo(const fs::path &target, std::uint64_t most)
     NewFile file(target, size());
     la_ssize_t count = 0;
     while ((count = archive_read_data(archive_.get(), buffer.data(), buffer.size())) > 0) {
-        requireNotLarger(joinedPath(file_.string(), path()),
+        requireNotLarger(joinedPath(shownName_, path()),
                          file.written() + static_cast<std::uint64_t>(count), most);
         if (!file.append({buffer.data(), static_cast<std::size_t>(count)}))
             throw damaged();
@@ -169,10 +170,10 @@ void ArchiveReader::copyTo(const fs::path &target, std::uint64_t most)
 SourceError ArchiveReader::damaged() const
 {
     if (archive_read_has_encrypted_entries(archive_.get()) == 1)
-        return {SourceProblem::EncryptedArchive, {file_.string()}};
+        return {SourceProblem::EncryptedArchive, {shownName_}};
     if (const char *const reason = archive_error_string(archive_.get()); reason != nullptr)
-        return {SourceProblem::DamagedArchiveBecause, {file_.string(), reason}};
-    return {SourceProblem::DamagedArchive, {file_.string()}};
+        return {SourceProblem::DamagedArchiveBecause, {shownName_, reason}};
+    return {SourceProblem::DamagedArchive, {shownName_}};
 }
 
 std::string pathInArchive(const std::string &name)

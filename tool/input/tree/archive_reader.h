@@ -41,7 +41,8 @@ class ArchiveReader
 {
 public:
     /// Throws when the file cannot be read.
-    explicit ArchiveReader(const std::filesystem::path &file);
+    /// @param shownName  the archive as messages show it
+    ArchiveReader(const std::filesystem::path &file, std::string shownName);
     ~ArchiveReader();
     ArchiveReader(const ArchiveReader &) = delete;
     ArchiveReader &operator=(const ArchiveReader &) = delete;
@@ -70,7 +71,7 @@ public:
 private:
     SourceError damaged() const;
 
-    std::filesystem::path file_;
+    std::string shownName_;
     SourceReader source_;
     Utf8Locale locale_;
     std::unique_ptr<archive, int (*)(archive *)> archive_;

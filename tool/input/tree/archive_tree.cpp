@@ -35,14 +35,14 @@ void addFoldersAround(const std::string &path, std::set<std::string> &folders)
 ArchiveTree::ArchiveTree(fs::path archive, std::string shownName)
     : archive_(std::move(archive)), shownName_(std::move(shownName)), state_(archive_)
 {
-    ArchiveReader reader(archive_);
+    ArchiveReader reader(archive_, shownName_);
     while (reader.next()) {
         isZip_ = reader.isZip();
         const std::string path = reader.path();
         if (path.empty() || !(reader.isFile() || reader.isLink()))
             continue;
         if (isTooDeep(path)) {
-            hasTooDeep_ = true;
+            tooDeep_.push_back(path.substr(0, longestPath));
             continue;
         }
         if (reader.isLink()) {
@@ -84,7 +84,9 @@ UnsearchedFolders ArchiveTree::searchFolders(const std::string &top, FolderVisit
         if (entered.count(parentOf(path)) != 0)
             visitor.meetLink(path);
     UnsearchedFolders unsearched;
-    unsearched.hasTooDeep = hasTooDeep_;
+    unsearched.hasTooDeep =
+        std::any_of(tooDeep_.begin(), tooDeep_.end(),
+                    [&](const std::string &path) { return isInside(path, top); });
     return unsearched;
 }
 
@@ -143,7 +145,7 @@ void ArchiveTree::copyOut(const std::vector<FileToCopy> &files) const
 
 void ArchiveTree::extract(std::map<std::string, Target> targets) const
 {
-    ArchiveReader reader(archive_);
+    ArchiveReader reader(archive_, shownName_);
     while (!targets.empty() && reader.next()) {
         const auto wanted = targets.find(reader.path());
         if (wanted == targets.end() || !reader.isFile())

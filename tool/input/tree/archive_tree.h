@@ -50,8 +50,8 @@ private:
     std::filesystem::path archive_;
     std::string shownName_;
     bool isZip_ = false;
-    bool hasTooDeep_ = false;        ///< entries that are passed over
-    std::vector<std::string> links_; ///< that are too
+    std::vector<std::string> tooDeep_; ///< that are passed over, each cut to the longest path
+    std::vector<std::string> links_;   ///< that are passed over too
     FileStamp state_;
     std::map<std::string, Entry> entries_;
 };

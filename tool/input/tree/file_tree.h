@@ -72,6 +72,9 @@ public:
     /// The regular file of that path, if there is one.
     virtual std::optional<FileFacts> find(const std::string &path) const = 0;
 
+    /// Whether it is one that searchFolders() shows as such, and find() follows.
+    virtual bool isLink(const std::string & /*path*/) const { return false; }
+
     /// Shows a folder to a visitor, and what is in it.
     virtual UnsearchedFolders searchFolders(const std::string &top,
                                             FolderVisitor &visitor) const = 0;

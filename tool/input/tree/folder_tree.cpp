@@ -101,6 +101,12 @@ std::optional<FileFacts> FolderTree::find(const std::string &path) const
     throw mayNotRead(file, systemError(errno));
 }
 
+bool FolderTree::isLink(const std::string &path) const
+{
+    struct stat facts = {};
+    return lstat(onDisk(path).c_str(), &facts) == 0 && S_ISLNK(facts.st_mode);
+}
+
 std::string FolderTree::shown(const std::string &path) const
 {
     return path.empty() ? shownTop_ : (fs::path(shownTop_) / path).string();

@@ -22,6 +22,7 @@ public:
     }
 
     std::optional<FileFacts> find(const std::string &path) const override;
+    bool isLink(const std::string &path) const override;
     UnsearchedFolders searchFolders(const std::string &top, FolderVisitor &visitor) const override;
     void copyOut(const std::vector<FileToCopy> &files) const override;
     std::filesystem::path onDisk(const std::string &path) const override;
