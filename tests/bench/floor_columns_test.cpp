@@ -3,12 +3,12 @@
 #include "floor.h"
 #include "library_run.h"
 #include "store_generator.h"
+#include "support/next_call.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include <dlfcn.h>
 #include <functional>
 #include <map>
 #include <set>
@@ -28,8 +28,7 @@ Value noteAndRead(const char *function, sqlite3_stmt *row, int column)
 {
     if (noted != nullptr)
         (*noted)[sqlite3_sql(row)].insert(sqlite3_column_name(row, column));
-    using Function = Value(sqlite3_stmt *, int);
-    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, function))(row, column);
+    return nextCall<Value(sqlite3_stmt *, int)>(function)(row, column);
 }
 
 ColumnsRead columnsReadBy(const std::function<void()> &reader)

@@ -200,6 +200,80 @@ TEST_F(ToolBackupPassword, IsInNoOutput)
     }
 }
 
+TEST_F(ToolBackupPassword, IsNotTypedWhereTheTerminalWouldShowIt)
+{
+    const ToolRun run = runToolFromTerminal({"albums", backup_.string(), "--password-file", "-"});
+    expectFailure(run,
+                  "--password-file -: standard input is a terminal, which would show the "
+                  "password; leave the option out to be asked for it\n",
+                  2);
+}
+
+TEST_F(ToolBackupPassword, IsNotAskedForInTheBackground)
+{
+    ToolAtTerminal tool({"albums", backup_.string()}, {}, ToolAtTerminal::Streams::InFiles,
+                        ToolAtTerminal::Standing::Background);
+    expectFailure(tool.result(), quoted(backup_) + " is an encrypted backup and needs its password",
+                  6);
+}
+
+TEST_F(ToolBackupPassword, OfBothBackupsIsAskedForBeforeOneIsTried)
+{
+    const fs::path later = folder_ / "later";
+    BackupOptions options;
+    options.isEncrypted = true;
+    writeBackup(later, library_, options);
+    const auto question = [](const fs::path &backup) {
+        return "password of the encrypted backup " + quoted(backup);
+    };
+    ToolAtTerminal tool({"diff", backup_.string(), later.string()});
+    tool.waitFor(question(backup_) + ": ");
+    tool.type("wrong\n");
+    tool.waitFor(question(later) + " (Enter: the same): ");
+    EXPECT_THAT(tool.shown(), Not(HasSubstr("that is not its password")));
+    tool.type("correct horse\n");
+    tool.waitFor(question(backup_) + ", try 2 of 3: ");
+    tool.type("correct horse\n");
+    EXPECT_EQ(tool.result().out, "no difference\n");
+}
+
+TEST_F(ToolBackupPassword, IsTheSameForBothBackupsWhereOnlyEnterIsTyped)
+{
+    ToolAtTerminal tool({"diff", backup_.string(), (backup_ / ".." / "backup").string()});
+    tool.waitFor(": ");
+    tool.type("correct horse\n");
+    tool.waitFor("(Enter: the same): ");
+    tool.type("\n");
+    EXPECT_EQ(tool.result().out, "no difference\n");
+}
+
+TEST_F(ToolBackupPassword, ThatTakesLongToTryIsSpokenOfAndCanBeInterrupted)
+{
+    BackupOptions options;
+    options.isEncrypted = true;
+    options.encryption.alterKeyBag = [](KeyBagEntries &entries) {
+        for (auto &[tag, value] : entries)
+            if (tag == "DPIC")
+                value = bigEndian(100'000'000, 4); // a quarter of a minute
+    };
+    writeBackup(backup_, library_, options);
+    ToolAtTerminal tool({"albums", backup_.string()}, {{variable, "correct horse"}},
+                        ToolAtTerminal::Streams::ErrorAtTerminal);
+    tool.waitFor("trying the password of the backup ... ");
+    tool.type("\x03");
+    EXPECT_EQ(tool.result().status, 130);
+}
+
+TEST_F(ToolAsksForPassword, AndLeavesNoMemoryOnDiskFromThenOn)
+{
+    const fs::path limits = "/proc/" + std::to_string(tool_.process()) + "/limits";
+    if (!fs::exists(limits))
+        GTEST_SKIP() << "this system does not tell the limits of a process";
+    EXPECT_THAT(readFile(limits), testing::ContainsRegex("Max core file size +0 +0 "));
+    tool_.type("\x04");
+    (void)tool_.result();
+}
+
 TEST_F(ToolAsksForPassword, AndReadsTheBackup)
 {
     answer("correct horse", "\n");

@@ -3,6 +3,7 @@
 #include "support/hexadecimal.h"
 #include "support/source_folder.h"
 
+#include <QByteArray>
 #include <nlohmann/json.hpp>
 
 using namespace iosphoto::test;
@@ -33,20 +34,28 @@ protected:
     {
         return BackupBuilder(backup_, options_).stored(mediaPath);
     }
-    /// Replaces what the index says of the database.
-    void changeRecord(const std::string &record)
+    /// Replaces what the index says of a file.
+    void changeRecord(const std::string &record, const std::string &mediaPath = mediaDatabase)
     {
         options_.encryption.index = EncryptionOptions::Index::Plain;
         writeBackup(backup_, library_, options_);
         const auto index = openDatabase(backup_ / "Manifest.db");
-        execute(index, "update Files set file = " + record +
-                           " where relativePath = 'Media/PhotoData/Photos.sqlite'");
+        execute(index, "update Files set file = " + record + " where relativePath = 'Media/" +
+                           mediaPath + "'");
     }
 
     BackupOptions options_;
     const fs::path backup_ = folder_ / "backup";
     const std::string manifest_ = quoted(backup_ / "Manifest.plist");
 };
+
+std::string repeated(const std::string &text, int times)
+{
+    std::string all;
+    for (int i = 0; i < times; ++i)
+        all += text;
+    return all;
+}
 
 std::string asBlob(const std::string &bytes)
 {
@@ -97,9 +106,11 @@ TEST_F(ToolDamagedEncryption, OfTheDatabaseIsNoEmptyLibrary)
 {
     const std::string database = "cannot decrypt " + quoted(stored(mediaDatabase)) +
                                  " (Media/PhotoData/Photos.sqlite on the phone): ";
+    const std::string deep = "<plist version=\"1.0\">" + repeated("<array>", 10'000) +
+                             repeated("</array>", 10'000) + "</plist>";
     for (const std::string &record :
-         {std::string("null"), std::string("x''"), std::string("'text'"), asBlob("bplist00"),
-          asBlob(std::string(4000, '\0'))}) {
+         {asBlob(deep), std::string("null"), std::string("x''"), std::string("'text'"),
+          asBlob("bplist00"), asBlob(std::string(4000, '\0'))}) {
         changeRecord(record);
         expectFailure(albumsOfBackup(), database + "the index of the backup does not say how", 3);
     }
@@ -125,6 +136,60 @@ TEST_F(ToolDamagedEncryption, OfTheLogLeavesTheRest)
     EXPECT_THAT(run.error, HasSubstr(" (Media/PhotoData/Photos.sqlite-wal on the phone) is cut "
                                      "short: "));
     EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolDamagedEncryption, OfTheKeyOfTheLogMakesThatMissing)
+{
+    changeRecord(asBlob(archivedRecord(std::string(44, 'k'), 4096, 3)), mediaLog);
+    const ToolRun run = albumsOfBackup();
+    EXPECT_THAT(run.out, HasSubstr("Trip"));
+    EXPECT_THAT(run.error,
+                HasSubstr("cannot decrypt " + quoted(stored(mediaLog)) +
+                          " (Media/PhotoData/Photos.sqlite-wal on the phone): its key in the "
+                          "index of the backup is damaged; copy the whole backup again\n"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolDamagedEncryption, OfTheEndOfAFileIsSaid)
+{
+    writeBackup(backup_, library_, options_);
+    std::string log = readFile(stored(mediaLog));
+    log.back() ^= 1; // in the padding
+    writeFile(stored(mediaLog), log);
+    const ToolRun run = albumsOfBackup();
+    EXPECT_EQ(run.out, expected_.out);
+    EXPECT_THAT(run.error, HasSubstr("(Media/PhotoData/Photos.sqlite-wal on the phone) is damaged: "
+                                     "its decrypted end is not what an encrypted file ends in"));
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(ToolDamagedEncryption, OfTheKeyOfTheIndexIsSaid)
+{
+    const BackupEncryption encryption(options_.encryption);
+    writeBackup(backup_, library_, options_);
+    const auto base64 = [](const std::string &bytes) {
+        return "<data>" + QByteArray::fromStdString(bytes).toBase64().toStdString() + "</data>";
+    };
+    writeFile(backup_ / "Manifest.plist",
+              propertyList("<key>IsEncrypted</key><true/><key>BackupKeyBag</key>" +
+                           base64(encryption.keyBag()) + "<key>ManifestKey</key>" +
+                           base64(std::string(44, 'k'))));
+    expectFailure(albumsOfBackup(),
+                  "cannot decrypt the index of the backup: its key in " + manifest_ +
+                      " is damaged; copy the whole backup again\n",
+                  3);
+}
+
+TEST_F(ToolDamagedEncryption, LeavesNothingDecryptedBehind)
+{
+    changeRecord("null");
+    const fs::path temporary = folder_ / "temporary";
+    fs::create_directory(temporary);
+    EXPECT_EQ(runTool({"albums", backup_.string()},
+                      {{"IOSPHOTO_BACKUP_PASSWORD", "correct horse"}, {"TMPDIR", temporary}})
+                  .status,
+              3);
+    EXPECT_TRUE(fs::is_empty(temporary));
 }
 
 TEST_F(ToolDamagedEncryption, OfASizeIsSaidAndDoesNotCount)

@@ -1,10 +1,11 @@
 #include "support/backup_builder.h"
 
 #include "support/database.h"
+#include "support/hexadecimal.h"
+#include "support/property_list_bytes.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
-#include <plist/plist.h>
 
 #include <stdexcept>
 
@@ -65,11 +66,6 @@ std::string mbdbRecord(const MbdbFile &file)
            mbdbText("value");
 }
 
-std::string hexadecimal(const std::string &bytes)
-{
-    return QByteArray::fromStdString(bytes).toHex().toStdString();
-}
-
 std::string dataKey(const std::string &name, const std::string &bytes)
 {
     return key(name,
@@ -87,13 +83,7 @@ std::string propertyList(const std::string &xmlLines, bool isBinary)
         return xml;
     plist_t root = nullptr;
     plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &root);
-    char *bytes = nullptr;
-    std::uint32_t size = 0;
-    plist_to_bin(root, &bytes, &size);
-    std::string binary(bytes, size);
-    plist_to_bin_free(bytes);
-    plist_free(root);
-    return binary;
+    return binaryPropertyList(root);
 }
 
 BackupBuilder::BackupBuilder(fs::path folder, BackupOptions options)

@@ -1,10 +1,11 @@
 #include "support/backup_encryption.h"
 
+#include "support/property_list_bytes.h"
+
 #include <openssl/core_names.h>
 #include <openssl/evp.h>
 #include <openssl/kdf.h>
 #include <openssl/params.h>
-#include <plist/plist.h>
 
 #include <memory>
 #include <stdexcept>
@@ -150,13 +151,7 @@ std::string archivedRecord(std::optional<std::string> key, std::optional<std::in
     plist_dict_set_item(archive, "$archiver", plist_new_string("NSKeyedArchiver"));
     plist_dict_set_item(archive, "$top", top);
     plist_dict_set_item(archive, "$objects", objects);
-    char *bytes = nullptr;
-    std::uint32_t count = 0;
-    plist_to_bin(archive, &bytes, &count);
-    std::string list(bytes, count);
-    plist_to_bin_free(bytes);
-    plist_free(archive);
-    return list;
+    return binaryPropertyList(archive);
 }
 
 BackupEncryption::BackupEncryption(EncryptionOptions options) : options_(std::move(options)) {}

@@ -1,5 +1,7 @@
 #include "support/cloning_disk.h"
 
+#include "support/next_call.h"
+
 #include <optional>
 
 namespace {
@@ -20,7 +22,6 @@ std::optional<Clones> clones;
 #include <cerrno>
 #include <cstdarg>
 #include <cstdint>
-#include <dlfcn.h>
 #include <linux/fs.h>
 #include <unistd.h>
 
@@ -56,7 +57,7 @@ extern "C" __attribute__((visibility("default"))) int ioctl(int descriptor, unsi
     if (clones && request == FICLONE)
         return playClone(descriptor, static_cast<int>(reinterpret_cast<std::intptr_t>(argument)));
     using Function = int(int, unsigned long, ...);
-    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, "ioctl"))(descriptor, request, argument);
+    return iosphoto::test::nextCall<Function>("ioctl")(descriptor, request, argument);
 }
 
 #else

@@ -1,5 +1,7 @@
 #include "support/disk_calls.h"
 
+#include "support/next_call.h"
+
 #include <cerrno>
 #include <filesystem>
 #include <optional>
@@ -22,18 +24,11 @@ std::optional<Record> record;
 #ifdef __linux__
 
 #include <cstdio>
-#include <dlfcn.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr bool callsAreReplaced = true;
-
-template <typename Function>
-Function *next(const char *name)
-{
-    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
-}
 
 std::string nameOf(int descriptor)
 {
@@ -59,14 +54,14 @@ REPLACING_THAT_OF_THE_SYSTEM int fsync(int descriptor)
             return -1;
         }
     }
-    return next<int(int)>("fsync")(descriptor);
+    return iosphoto::test::nextCall<int(int)>("fsync")(descriptor);
 }
 
 REPLACING_THAT_OF_THE_SYSTEM int rename(const char *from, const char *to) noexcept
 {
     if (record)
         record->calls.push_back("rename to " + fs::path(to).filename().string());
-    return next<int(const char *, const char *)>("rename")(from, to);
+    return iosphoto::test::nextCall<int(const char *, const char *)>("rename")(from, to);
 }
 }
 

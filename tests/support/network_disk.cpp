@@ -1,5 +1,7 @@
 #include "support/network_disk.h"
 
+#include "support/next_call.h"
+
 namespace {
 
 bool isInUse = false;
@@ -8,7 +10,6 @@ bool isInUse = false;
 
 #ifdef __linux__
 
-#include <dlfcn.h>
 #include <linux/magic.h>
 #include <sys/vfs.h>
 
@@ -22,8 +23,7 @@ constexpr bool callsAreReplaced = true;
 extern "C" __attribute__((visibility("default"))) int fstatfs(int file,
                                                               struct statfs *disk) noexcept
 {
-    using Function = int(int, struct statfs *);
-    const int result = reinterpret_cast<Function *>(dlsym(RTLD_NEXT, "fstatfs"))(file, disk);
+    const int result = iosphoto::test::nextCall<int(int, struct statfs *)>("fstatfs")(file, disk);
     if (isInUse)
         disk->f_type = NFS_SUPER_MAGIC;
     return result;

@@ -53,6 +53,7 @@ public:
     ~RunningTool();
 
     void send(int signal) const;
+    pid_t process() const { return process_; }
 
     /// Waits for its end. To be called once.
     ToolRun result();

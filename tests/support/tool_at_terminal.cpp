@@ -10,14 +10,38 @@
 
 namespace iosphoto::test {
 
-ToolAtTerminal::ToolAtTerminal(const std::vector<std::string> &arguments)
+namespace {
+
+/// Lets another process have the terminal, as the shell does while a command is in the background.
+/// It goes when its leader, this process, does.
+void giveAway(int terminal)
+{
+    const pid_t other = fork();
+    if (other == 0) {
+        pause();
+        _exit(0);
+    }
+    setpgid(other, other);
+    tcsetpgrp(terminal, other);
+}
+
+} // namespace
+
+ToolAtTerminal::ToolAtTerminal(const std::vector<std::string> &arguments,
+                               const Environment &environment, Streams streams, Standing standing)
     : master_(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC))
 {
     grantpt(master_);
     unlockpt(master_);
     slave_ = open(ptsname(master_), O_RDWR | O_NOCTTY | O_CLOEXEC);
-    const auto takeTerminal = [this] { ioctl(slave_, TIOCSCTTY, 0); };
-    tool_ = std::make_unique<RunningTool>(arguments, Environment(), takeTerminal);
+    const auto takeTerminal = [&] {
+        ioctl(slave_, TIOCSCTTY, 0);
+        if (streams == Streams::ErrorAtTerminal)
+            dup2(slave_, STDERR_FILENO);
+        if (standing == Standing::Background)
+            giveAway(slave_);
+    };
+    tool_ = std::make_unique<RunningTool>(arguments, environment, takeTerminal);
 }
 
 ToolAtTerminal::~ToolAtTerminal()

@@ -9,11 +9,17 @@
 
 namespace iosphoto::test {
 
-/// A run of the tool that has a terminal to ask somebody, though none of its streams is one.
+/// A run of the tool that has a terminal to ask somebody, though none of its streams is one
+/// unless it is said.
 class ToolAtTerminal
 {
 public:
-    explicit ToolAtTerminal(const std::vector<std::string> &arguments);
+    enum class Streams { InFiles, ErrorAtTerminal };
+    enum class Standing { Foreground, Background };
+
+    explicit ToolAtTerminal(const std::vector<std::string> &arguments,
+                            const Environment &environment = {}, Streams streams = Streams::InFiles,
+                            Standing standing = Standing::Foreground);
     ~ToolAtTerminal();
     ToolAtTerminal(const ToolAtTerminal &) = delete;
     ToolAtTerminal &operator=(const ToolAtTerminal &) = delete;
@@ -23,6 +29,7 @@ public:
     /// Types text, or keys such as "\x03" for Ctrl-C.
     void type(const std::string &text) const;
 
+    pid_t process() const { return tool_->process(); }
     /// Whether the terminal shows what is typed.
     bool showsInput() const;
     /// All that the terminal showed so far.

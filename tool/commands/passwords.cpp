@@ -2,6 +2,7 @@
 
 #include "commands/option_values.h"
 #include "files/password_file.h"
+#include "files/standard_input.h"
 #include "process/failure.h"
 #include "terminal/hidden_input.h"
 #include "text/translate.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <unistd.h>
 
 namespace iosphoto::tool {
 
@@ -82,8 +84,13 @@ void Passwords::load()
 {
     if (isLoaded_)
         return;
-    for (const std::string &file : files_)
+    for (const std::string &file : files_) {
+        if (isStandardInput(file) && isatty(STDIN_FILENO) == 1)
+            throw Failure(WrongUsage,
+                          translate("--password-file -: standard input is a terminal, which would "
+                                    "show the password; leave the option out to be asked for it"));
         given_.push_back(readPasswordFile(file));
+    }
     auto fromEnvironment = takeFromEnvironment(variable);
     if (given_.empty() && fromEnvironment)
         given_.push_back(std::move(*fromEnvironment));

@@ -1,6 +1,7 @@
 #include "files/password_file.h"
 
 #include "files/source_reader.h"
+#include "files/standard_input.h"
 #include "process/failure.h"
 #include "text/system_error.h"
 #include "text/translate.h"
@@ -52,8 +53,8 @@ Secret readLine(int descriptor, const std::string &file)
 
 Secret readPasswordFile(const std::string &file)
 {
-    if (file == "-")
-        return readLine(STDIN_FILENO, "/dev/stdin");
+    if (isStandardInput(file))
+        return readLine(STDIN_FILENO, StandardInput::device);
     const int descriptor = open(file.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0)
         throw unreadable(file);
