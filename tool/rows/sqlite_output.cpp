@@ -1,6 +1,7 @@
 #include "rows/sqlite_output.h"
 
 #include "files/output_file.h"
+#include "files/sqlite_magic.h"
 #include "formats/big_endian.h"
 #include "rows/sqlite_values.h"
 #include "sqlite/sqlite_error.h"
@@ -28,8 +29,7 @@ bool isOwn(const fs::path &file)
     std::ifstream in(file, std::ios::binary);
     if (!in.read(header.data(), static_cast<std::streamsize>(header.size())))
         return false;
-    const std::string magic("SQLite format 3\0", 16);
-    return header.compare(0, magic.size(), magic) == 0 &&
+    return header.compare(0, sqliteMagic.size(), sqliteMagic) == 0 &&
            bigEndian(std::string_view(header).substr(idAt, idSize)) == ownApplicationId;
 }
 

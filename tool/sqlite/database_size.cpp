@@ -1,5 +1,6 @@
 #include "sqlite/database_size.h"
 
+#include "files/sqlite_magic.h"
 #include "formats/big_endian.h"
 
 #include <array>
@@ -13,7 +14,6 @@ namespace {
 /// The bytes that a database has by its header; nothing where that is cut off itself.
 std::optional<std::uint64_t> wholeSize(const std::filesystem::path &databaseFile)
 {
-    constexpr std::string_view magic = "SQLite format 3";
     constexpr std::size_t headerSize = 100;
     std::array<char, headerSize> header = {};
     std::ifstream(databaseFile, std::ios::binary).read(header.data(), header.size());
@@ -23,7 +23,7 @@ std::optional<std::uint64_t> wholeSize(const std::filesystem::path &databaseFile
     const std::uint64_t pages = bigEndian(bytes.substr(28, 4));
     // Versions that do not keep the number of pages leave the second counter behind.
     const bool isCurrent = bytes.substr(24, 4) == bytes.substr(92, 4);
-    const bool isHeader = bytes.substr(0, magic.size()) == magic;
+    const bool isHeader = bytes.substr(0, sqliteMagic.size()) == sqliteMagic;
     return isHeader && isCurrent && pages > 0
                ? std::make_optional(pages * (pageSize == 1 ? largestPage : pageSize))
                : std::nullopt;

@@ -1,6 +1,5 @@
 #include "input/backup/backup.h"
 
-#include "formats/property_list.h"
 #include "input/backup/encrypted_file.h"
 #include "input/backup/manifest_db.h"
 #include "input/backup/manifest_mbdb.h"
@@ -40,12 +39,10 @@ Backup::Backup(Session &session, const FileTree &tree, std::string folder)
 
 void Backup::beginUnlocking(Session &session)
 {
-    const PropertyList manifest(records_.copyOf(backupManifest));
-    const auto bytes = manifest.data({"BackupKeyBag"});
-    if (!bytes)
+    if (!records_.keyBag())
         throw SourceError(SourceProblem::BackupWithoutKeyBag,
                           {tree_.shown(folder_), backupManifest});
-    KeyBag keyBag(*bytes, records_.shown(backupManifest));
+    KeyBag keyBag(*records_.keyBag(), records_.shown(backupManifest));
     encryption_ = {keyBag.rounds(), keyBag.classesOfDevice()};
     unlocking_ = std::make_unique<Unlocking>(session, std::move(keyBag), tree_.shown(folder_));
 }
@@ -99,8 +96,7 @@ std::optional<EncryptedIndex> Backup::decryptIndex() const
 {
     if (!keys_)
         return std::nullopt;
-    const PropertyList manifest(records_.copyOf(backupManifest));
-    EncryptedIndex encryption(*keys_, manifest, records_.shown(backupManifest));
+    EncryptedIndex encryption(*keys_, records_.indexKey(), records_.shown(backupManifest));
     const std::filesystem::path copy = records_.copyOf(database);
     if (encryption.decrypt(copy, records_.shown(database)))
         fileUse_.decrypted(records_.shown(database), copy);

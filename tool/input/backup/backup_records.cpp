@@ -88,6 +88,8 @@ void BackupRecords::read()
             findings_.push_back({SourceProblem::DamagedPropertyList, {shown(name)}});
     if (has(backupManifest) && !manifest.isDamaged())
         isEncrypted_ = manifest.isTrue({"IsEncrypted"});
+    keyBag_ = manifest.data({"BackupKeyBag"});
+    indexKey_ = manifest.data({"ManifestKey"});
     device_ = recordedDevice(info, manifest);
     identity_ = identityIn(info, manifest);
     date_ = info.time({"Last Backup Date"});

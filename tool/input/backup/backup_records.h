@@ -34,6 +34,10 @@ public:
     /// Nothing where no list says.
     std::optional<bool> isEncrypted() const { return isEncrypted_; }
     std::optional<bool> isFinished() const { return isFinished_; }
+    /// Of an encrypted backup: what its keys, and that of its index, are wrapped in. Nothing where
+    /// no list has them.
+    const std::optional<std::string> &keyBag() const { return keyBag_; }
+    const std::optional<std::string> &indexKey() const { return indexKey_; }
     bool isManifestDamaged() const { return isManifestDamaged_; }
     /// Lists that cannot be read, and that the backup is not finished.
     const std::vector<SourceFinding> &findings() const { return findings_; }
@@ -58,6 +62,8 @@ private:
     std::optional<UnixTime> date_;
     std::optional<bool> isEncrypted_;
     std::optional<bool> isFinished_;
+    std::optional<std::string> keyBag_;
+    std::optional<std::string> indexKey_;
     bool isManifestDamaged_ = false;
     std::vector<SourceFinding> findings_;
 };

@@ -1,26 +1,16 @@
 #include "input/backup/encrypted_index.h"
 
 #include "cipher/cbc_decryption.h"
+#include "files/sqlite_magic.h"
 #include "input/backup/encrypted_file.h"
 #include "input/backup/file_record.h"
 #include "input/source_problem.h"
-
-#include <fstream>
 
 namespace iosphoto::tool {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-bool isDatabase(const fs::path &file)
-{
-    constexpr std::string_view magic = "SQLite format 3";
-    std::string begin(magic.size(), '\0');
-    std::ifstream(file, std::ios::binary)
-        .read(begin.data(), static_cast<std::streamsize>(begin.size()));
-    return begin == magic;
-}
 
 bool isPropertyList(const std::string &bytes)
 {
@@ -29,23 +19,22 @@ bool isPropertyList(const std::string &bytes)
 
 } // namespace
 
-EncryptedIndex::EncryptedIndex(const ClassKeys &keys, const PropertyList &manifest,
+EncryptedIndex::EncryptedIndex(const ClassKeys &keys, const std::optional<std::string> &wrappedKey,
                                const std::string &shownName)
 {
-    const auto bytes = manifest.data({"ManifestKey"});
-    if (!bytes)
+    if (!wrappedKey)
         return;
-    key_ = keys.open(readWrappedKey(*bytes));
+    key_ = keys.open(readWrappedKey(*wrappedKey));
     if (!key_)
         throw SourceError(SourceProblem::IndexKeyIsDamaged, {shownName});
 }
 
 bool EncryptedIndex::decrypt(const fs::path &copy, const std::string &shownName) const
 {
-    if (!key_ || isDatabase(copy))
+    if (!key_ || beginsAsDatabase(copy))
         return false;
     (void)decryptInPlace(copy, *key_, std::nullopt);
-    if (!isDatabase(copy))
+    if (!beginsAsDatabase(copy))
         throw SourceError(SourceProblem::IndexIsDamaged, {shownName});
     return true;
 }

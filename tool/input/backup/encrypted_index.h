@@ -1,7 +1,6 @@
 #ifndef IOSPHOTO_TOOL_ENCRYPTED_INDEX_H
 #define IOSPHOTO_TOOL_ENCRYPTED_INDEX_H
 
-#include "formats/property_list.h"
 #include "input/backup/key_bag.h"
 #include "process/secret.h"
 
@@ -17,9 +16,9 @@ class EncryptedIndex
 {
 public:
     /// Throws SourceError when the key is damaged, or none of the backup opens it.
-    /// @param manifest   Manifest.plist
-    /// @param shownName  the same, for messages
-    EncryptedIndex(const ClassKeys &keys, const PropertyList &manifest,
+    /// @param wrappedKey  as Manifest.plist has it, if it has one
+    /// @param shownName   that file, for messages
+    EncryptedIndex(const ClassKeys &keys, const std::optional<std::string> &wrappedKey,
                    const std::string &shownName);
 
     /// Decrypts a private copy of the index in its place, where it is encrypted, and says whether

@@ -2,6 +2,7 @@
 
 #include "files/new_file.h"
 #include "files/source_file.h"
+#include "files/sqlite_magic.h"
 #include "input/tree/file_tree.h"
 #include "text/system_error.h"
 
@@ -11,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <string_view>
 #include <utility>
 
 namespace iosphoto::tool {
@@ -63,15 +63,6 @@ int open(archive *reader, const fs::path &file, const SourceReader &source)
     if (!source.isOpen())
         throw mayNotRead(file, systemError(errno));
     return archive_read_open_fd(reader, source.descriptor(), blockSize);
-}
-
-bool isDatabase(const fs::path &file)
-{
-    constexpr std::string_view magic = "SQLite format 3";
-    std::array<char, magic.size()> begin = {};
-    const SourceReader source(file);
-    return source.isOpen() && source.read(begin.data(), begin.size()) == ssize_t{begin.size()} &&
-           std::string_view(begin.data(), begin.size()) == magic;
 }
 
 } // namespace
@@ -193,7 +184,7 @@ std::string pathInArchive(const std::string &name)
 
 bool isArchive(const fs::path &file)
 {
-    if (isDatabase(file))
+    if (beginsAsDatabase(file))
         return false;
     const SourceReader source(file);
     const Reader reader = newReader();
